@@ -1,0 +1,51 @@
+# Carpeta de programa en <build>/programa: los datos del repositorio y los ficheros de clima, que no se
+# guardan en él y se generan una vez.
+if(NOT TARGET novex-cli)
+  return()
+endif()
+
+set(programa "${CMAKE_BINARY_DIR}/programa")
+set(sello_datos "${CMAKE_BINARY_DIR}/carpeta_datos.sello")
+set(sello_clima "${CMAKE_BINARY_DIR}/carpeta_clima.sello")
+
+set(copias "")
+set(datos "")
+foreach(carpeta IN ITEMS database proyectos bmp clima)
+  file(GLOB_RECURSE ficheros CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/${carpeta}/*")
+  list(APPEND datos ${ficheros})
+  list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E make_directory "${programa}/${carpeta}")
+  if(ficheros)
+    list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E copy_directory
+                               "${CMAKE_SOURCE_DIR}/data/${carpeta}" "${programa}/${carpeta}")
+  endif()
+endforeach()
+add_custom_command(
+  OUTPUT "${sello_datos}" ${copias}
+  COMMAND "${CMAKE_COMMAND}" -E touch "${sello_datos}"
+  DEPENDS ${datos}
+  COMMENT "Copiando los datos a la carpeta de programa"
+  VERBATIM)
+add_custom_target(carpeta_datos ALL DEPENDS "${sello_datos}")
+
+# El clima depende de lo que lo determina y no del ejecutable: enlazar de nuevo no lo rehace.
+file(GLOB estadisticas CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/clima/*.csv")
+set(generador "")
+foreach(fuente IN ITEMS GeneradorClima EstadisticasClima RadiacionSintetica SecuenciaDias PosicionSolar
+                        FicheroMet)
+  file(GLOB ficheros CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/src/demand/${fuente}.*")
+  list(APPEND generador ${ficheros})
+endforeach()
+if(generador AND estadisticas)
+  add_custom_command(
+    OUTPUT "${sello_clima}"
+    COMMAND novex-cli clima generar --programa "${programa}"
+    COMMAND "${CMAKE_COMMAND}" -E touch "${sello_clima}"
+    DEPENDS ${estadisticas} ${generador}
+    COMMENT "Generando los ficheros de clima"
+    VERBATIM)
+else()
+  message(STATUS "Sin generador de clima: la carpeta de programa queda sin ficheros de clima")
+  set(sello_clima "")
+endif()
+add_custom_target(carpeta_programa ALL DEPENDS ${sello_clima})
+add_dependencies(carpeta_programa carpeta_datos)

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string_view>
+
+#include "calculation/Entorno.h"
+#include "demand/calculo.h"
+#include "model/GestorEdifActivo.h"
+
+namespace novex {
+
+/// Modo de un cálculo: el corriente quita los servicios forzados; los demás dejan los que haya.
+inline constexpr std::string_view kModoTodo = "Todo";
+inline constexpr std::string_view kModoBucle = "TodoDesdeBucle";
+
+/// El objeto de cálculo de un caso; si no tiene, le da uno nuevo.
+calculo& CalculoDe(Edificio& edificio);
+
+/// Calcula un caso entero: prepara, simula el año y califica. Los resultados quedan en su
+/// `calculo`. Un caso ya calculado no se repite. \param nombreCaso nombre del caso, para sus
+/// ficheros \param modo `kModoTodo` o `kModoBucle` \returns false si falta el fichero de clima (el
+/// aviso ya se ha dado) \throws ErrorCalculo si los datos no se pueden calcular o un resultado no
+/// es finito \throws ErrorFichero si falta o está dañado un fichero de la carpeta de programa
+bool EjecutarCalculo(Edificio& edificio, std::string_view nombreCaso, std::string_view modo,
+                     Entorno& entorno);
+
+/// Calcula todos los casos de usuario del proyecto, en su orden. El caso activo no cambia.
+/// \returns false si algún caso se ha quedado sin clima
+/// \throws lo mismo que `EjecutarCalculo`
+bool CalcularProyecto(GestorEdifActivo& gestor, Entorno& entorno);
+
+}  // namespace novex

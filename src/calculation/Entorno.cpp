@@ -1,0 +1,30 @@
+#include "calculation/Entorno.h"
+
+#include "base/ErrorFichero.h"
+#include "base/FicheroSeguro.h"
+
+namespace novex {
+
+const XMLNode& FicherosPrograma::Xml(const std::string& nombre, const std::string& raiz) {
+  const auto it = xml_.find(nombre);
+  if (it != xml_.end()) return it->second;
+  return xml_.emplace(nombre, XMLNode::loadFile(espacio_.Datos() / nombre, raiz)).first->second;
+}
+
+const CoeficientesRespuesta& FicherosPrograma::Respuesta(Mensajes& mensajes) {
+  if (!respuesta_)
+    respuesta_ = LeerCoeficientesRespuesta(Xml("CoefTransf.xml", "CoefTransf"), mensajes);
+  return *respuesta_;
+}
+
+std::shared_ptr<const FicheroMet> FicherosPrograma::Met(const std::filesystem::path& ruta) {
+  const auto it = met_.find(ruta);
+  if (it != met_.end()) return it->second;
+  std::error_code sinImportancia;
+  if (!std::filesystem::is_regular_file(ruta, sinImportancia)) return nullptr;
+  auto met = std::make_shared<const FicheroMet>(LeerMet(LeerFichero(ruta), ruta.string()));
+  met_.emplace(ruta, met);
+  return met;
+}
+
+}  // namespace novex

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+
+#include "model/Construccion.h"
+
+namespace novex {
+
+/// Conductancia de los puentes térmicos, W/K, con las transmitancias y longitudes de la
+/// construcción. \param forzado modo impuesto por una medida, 0 ninguno \param zona zona climática;
+/// fuera de los cinco grupos vale el de su letra de invierno
+float ConductanciaPuentes(const Construccion& construccion, int forzado, std::string_view zona);
+
+}  // namespace novex

@@ -1,0 +1,210 @@
+#include <algorithm>
+
+#include "base/Texto.h"
+#include "files/LimitesProyecto.h"
+#include "files/NodoConservadoXml.h"
+#include "files/SeccionesProyecto.h"
+
+namespace novex {
+namespace {
+
+using R = RegistrosCaso;
+using D = DatosGenerales;
+using X = DatosDerivados::Caso;
+using S = SistemaResidencial;
+using I = Instalaciones;
+constexpr auto g = &R::generales;
+constexpr auto x = &R::derivados;
+
+constexpr std::string_view kSeccion = "Instalaciones";
+constexpr std::string_view kSistema = "Tipo_sistema";
+constexpr std::string_view kFabricante = "Fabricante";
+
+constexpr std::array kCampos = {
+    Real<g, &D::Aporte_fotovoltaico_kwh_ano>("Aporte_fotovoltaico_kwh_ano", 2),
+    Texto<g, &D::Existe_fotovoltaica>("Existe_fotovoltaica"),
+    Texto<g, &D::Uso_fotovoltaico>("Uso_fotovoltaico"),
+    RealEn<0, g, &D::PotPico_FV>("PotPico_FV", 2),
+    RealEn<1, g, &D::PotPico_FV>("PotPico_FV2", 2),
+    RealEn<2, g, &D::PotPico_FV>("PotPico_FV3", 2),
+    RealEn<0, g, &D::Super_FV>("Super_FV", 2),
+    RealEn<1, g, &D::Super_FV>("Super_FV2", 2),
+    RealEn<2, g, &D::Super_FV>("Super_FV3", 2),
+    RealEn<0, g, &D::Az_FV>("Az_FV", 0),
+    RealEn<1, g, &D::Az_FV>("Az_FV2", 0),
+    RealEn<2, g, &D::Az_FV>("Az_FV3", 0),
+    RealEn<0, g, &D::Incli_FV>("Incli_FV", 0),
+    RealEn<1, g, &D::Incli_FV>("Incli_FV2", 0),
+    RealEn<2, g, &D::Incli_FV>("Incli_FV3", 0),
+    Real<g, &D::PSuciedad_FV>("PSuciedad_FV", 0),
+    Real<g, &D::PTcelula_FV>("PTcelula_FV", 0),
+    Real<g, &D::PConversor_FV>("PConversor_FV", 0),
+    Real<g, &D::Aporte_solar_tanto_por_cien>("Aporte_solar_tanto_por_cien", 2),
+    Entero<g, &D::N_colec_term>("N_colec_term"),
+    Real<g, &D::Sup_colec_term>("Sup_colec_term", 2),
+    Real<g, &D::Incli_colec_term>("Incli_colec_term", 0),
+    Real<g, &D::Azimut_colec_term>("Azimut_colec_term", 0),
+    Real<g, &D::AA_colec_term>("AA_colec_term", 4),
+    Real<g, &D::BB_colec_term>("BB_colec_term", 4),
+    Real<g, &D::CC_colec_term>("CC_colec_term", 4),
+    Entero<g, &D::Tipo_Inst_ST>("Tipo_Inst_ST"),
+    Real<g, &D::Volumen_Dep_ST>("Volumen_Dep_ST", 0),
+    Real<g, &D::LD_Dep_ST>("LD_Dep_ST", 0),
+    Real<g, &D::UA_Dep_ST>("UA_Dep_ST", 0),
+    Real<g, &D::Caudal_Col_ST>("Caudal_Col_ST", 0),
+    Real<g, &D::PerdP_Col_ST>("PerdP_Col_ST", 2),
+    Real<g, &D::Caudal_Dep_ST>("Caudal_Dep_ST", 0),
+    Real<g, &D::PerdP_Dep_ST>("PerdP_Dep_ST", 2),
+    Real<g, &D::Caudal_Rec_ST>("Caudal_Rec_ST", 0),
+    Real<g, &D::PerdP_Rec_ST>("PerdP_Rec_ST", 2),
+    Real<g, &D::Efi_Inter_ST>("Efi_Inter_ST", 0),
+    Real<g, &D::Long_Tub_ST>("Long_Tub_ST", 0),
+    Real<g, &D::PerdCalor_Tub_ST>("PerdCalor_Tub_ST", 2),
+    Real<g, &D::Control_Tmin_ST>("Control_Tmin_ST", 0),
+    Real<g, &D::Area_Serp_ST>("Area_Serp_ST", 2),
+    Real<x, &X::WBombCAPST>("WBombCAPST", 2).SoloEscritura(),
+    Real<x, &X::WBombDEPST>("WBombDEPST", 2).SoloEscritura(),
+    Real<x, &X::WBombRECST>("WBombRECST", 2).SoloEscritura(),
+    Real<x, &X::WEnergiaFinalVent>("WEnergiaFinalVent", 2).SoloEscritura(),
+    Real<x, &X::WEnergiaFinalVentUTC>("WEnergiaFinalVentUTC", 2).SoloEscritura(),
+    Real<x, &X::WEnergiaFinalVentUTR>("WEnergiaFinalVentUTR", 2).SoloEscritura(),
+    Texto<g, &D::Tipon50>("Tipon50"),
+    Real<g, &D::Valorn50>("Valorn50", 2),
+    Texto<g, &D::TipoVentilacion2>("TipoVentilacion2"),
+    Texto<g, &D::ManejoVentanas2>("ManejoVentanas2"),
+    Texto<g, &D::Recuperador>("Recuperador"),
+    Real<g, &D::ERelaMasa>("ERelaMasa", 2),
+    Real<g, &D::NVBloqueF>("NVBloqueF", 0),
+    Real<g, &D::WRecuperador>("WRecuperador", 2),
+    campoComun::kWRecuperadorr.ConDecimales(2).Guardado(),
+    campoComun::kTeminrec.Guardado(),
+    campoComun::kTemaxrec.Guardado(),
+    campoComun::kTminImp.Guardado(),
+    campoComun::kHRmin.Guardado(),
+    Real<g, &D::Eficiencia_recuperador>("Eficiencia_recuperador", 0),
+    Real<g, &D::Eficiencia_recuperador_Ental>("Eficiencia_recuperador_Ental", 0),
+    Real<g, &D::ConsumoAgua_litros_dia>("ConsumoAgua_litros_dia", 2)};
+
+constexpr auto kConsumoAExt = Real<x, &X::ConsumoVentilacionAExt>("ConsumoVentilacionAExt", 2);
+constexpr std::array kConsumo = {kConsumoAExt};
+constexpr std::array kVentilacionMecanica = {
+    Real<x, &X::Caudal2Vent>("Caudal2Vent", 2),
+    Real<x, &X::PotenciaEspecificaVent>("PotenciaEspecificaVent", 2), kConsumoAExt};
+
+constexpr std::array kCamposSistema = {
+    Texto<&S::Tipo_sistema>(kSistema), Texto<&S::Nombre_sistema>("Nombre_sistema"),
+    Real<&S::Sup_ACS>("Sup_ACS", 2), Real<&S::Sup_Calefaccion>("Sup_Calefaccion", 2),
+    Real<&S::Sup_Refrigeracion>("Sup_Refrigeracion", 2)};
+constexpr std::array kCamposGenerador = {Texto<&I::Seleccion>("Seleccion"),
+                                         Texto<&I::TipoInstalacionesG>("TipoInstalacionesG")};
+
+// Comienzos de las etiquetas que son resultado de un cálculo anterior y no se conservan.
+constexpr std::array<std::string_view, 11> kResultados = {
+    "ACSTotalProducido",     "CaleTotalProducido", "FrioTotalProducido", "EnergiaConsumidaEn",
+    "RendimientoEstacional", "SCOPEstacional",     "SEEREstacional",     "Caudal2",
+    "PotenciaEspecifica",    "ConsumoBomba",       "ConsumoVent"};
+
+// Nombres que tuvieron los recuperadores, y las versiones que ya definían su consumo como ahora.
+struct NombreCambiado {
+  std::string_view antes;
+  std::string_view ahora;
+};
+constexpr std::array<NombreCambiado, 2> kRecuperadores = {
+    {{"SinFreecooling", "SensibleSinBypass"}, {"ConFreecooling", "SensibleConBypass"}}};
+constexpr std::array<std::string_view, 4> kVersionesConsumoActual = {
+    "NOVEXPLUS v5.09", "NOVEXPLUS v5.10", "NOVEXPLUS v5.11", "NOVEXPLUS v6.1"};
+
+void CambiarRecuperador(D& datos, Mensajes& mensajes) {
+  const auto cambiado =
+      std::find_if(kRecuperadores.begin(), kRecuperadores.end(),
+                   [&datos](const NombreCambiado& n) { return n.antes == datos.Recuperador; });
+  if (cambiado == kRecuperadores.end()) return;
+  datos.Recuperador = cambiado->ahora;
+  if (std::find(kVersionesConsumoActual.begin(), kVersionesConsumoActual.end(), datos.Version) ==
+      kVersionesConsumoActual.end())
+    mensajes.Avisar("AVISO",
+                    "Revisar datos consumo recuperador. Se cambia definición a partir de la "
+                    "versión 5.09");
+}
+
+template <class Tabla>
+bool EstaEn(const Tabla& campos, std::string_view etiqueta) {
+  return std::any_of(campos.begin(), campos.end(), [etiqueta](const auto& c) {
+    return IgualesSinMayusculas(c.etiqueta, etiqueta);
+  });
+}
+
+bool SeConserva(std::string_view etiqueta) {
+  const bool resultado =
+      std::any_of(kResultados.begin(), kResultados.end(),
+                  [etiqueta](std::string_view p) { return etiqueta.starts_with(p); });
+  return !resultado && !EstaEn(kCamposSistema, etiqueta) && !EstaEn(kCamposGenerador, etiqueta);
+}
+
+S LeerSistema(const XMLNode& nodo, Mensajes& mensajes) {
+  S sistema;
+  LeerCampos<S>(nodo, kCamposSistema, sistema, mensajes);
+  I& generador = sistema.instalaciones.emplace_back();
+  LeerCampos<I>(nodo, kCamposGenerador, generador, mensajes);
+  for (std::size_t i = 0; i < nodo.childCount(); ++i) {
+    const XMLNode hijo = nodo.childAt(i);
+    if (SeConserva(*hijo.nameOf())) generador.campos.push_back(Conservar(hijo));
+  }
+  return sistema;
+}
+
+// Los resultados van delante del fabricante, tras los datos del generador.
+void EscribirGenerador(XMLNode& nodo, const I& generador, const X::ResultadosSistema* resultados) {
+  I copia = generador;
+  EscribirCampos<I>(nodo, kCamposGenerador, copia);
+  bool pendientes = resultados != nullptr;
+  const auto escribirResultados = [&] {
+    if (pendientes)
+      for (const auto& [etiqueta, valor] : *resultados) AnadirValor(nodo, etiqueta, valor);
+    pendientes = false;
+  };
+  for (const NodoConservado& campo : generador.campos) {
+    if (campo.nombre == kFabricante) escribirResultados();
+    Devolver(nodo, campo);
+  }
+  escribirResultados();
+}
+
+void EscribirSistemas(XMLNode& instalaciones, const X& derivados, const Edificio& edificio) {
+  std::size_t bloque = 0;
+  for (std::size_t i = 0; i < edificio.NumeroSistemas(); ++i) {
+    S sistema = edificio.GetSistema(i);
+    for (const I& generador : sistema.instalaciones) {
+      XMLNode nodo = instalaciones.appendChild(kSistema);
+      EscribirCampos<S>(nodo, kCamposSistema, sistema);
+      const bool hay = bloque < derivados.resultadosSistemas.size();
+      EscribirGenerador(nodo, generador, hay ? &derivados.resultadosSistemas[bloque] : nullptr);
+      ++bloque;
+    }
+  }
+}
+
+}  // namespace
+
+void LeerInstalaciones(const XMLNode& novex, RegistrosCaso& r, Edificio& edificio,
+                       Mensajes& mensajes) {
+  const XMLNode instalaciones = novex.childNamed(kSeccion);
+  LeerCampos<R>(instalaciones, kCampos, r, mensajes);
+  CambiarRecuperador(r.generales, mensajes);
+  std::size_t i = 0;
+  while (const XMLNode nodo = instalaciones.childNamed(kSistema, &i)) {
+    edificio.AnadirSistema(LeerSistema(nodo, mensajes));
+    limiteProyecto::Comprobar("sistemas", edificio.NumeroSistemas(), limiteProyecto::kSistemas);
+  }
+}
+
+void EscribirInstalaciones(XMLNode& novex, RegistrosCaso& r, const Edificio& edificio) {
+  XMLNode instalaciones = novex.appendChild(kSeccion);
+  EscribirCampos<R>(instalaciones, kCampos, r);
+  EscribirCampos<R>(instalaciones, kConsumo, r);
+  if (r.generales.EsResidencial() && r.generales.TipoVentilacion2 == "Mecanica")
+    EscribirCampos<R>(instalaciones, kVentilacionMecanica, r);
+  EscribirSistemas(instalaciones, r.derivados, edificio);
+}
+
+}  // namespace novex

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "base/Mensajes.h"
+#include "demand/calculo.h"
+#include "model/Edificio.h"
+
+namespace novex {
+
+/// Un caso con su cálculo hecho, para mostrarlo.
+struct CasoCalculado {
+  std::string nombre;  ///< "Viejo", "Mejora_1"...
+  const Edificio* edificio;
+  const calculo* resultado;
+  std::vector<Mensaje> mensajes;  ///< avisos de su lectura y su cálculo
+};
+
+/// Nombre con que se muestra un caso: la base es "Base".
+inline std::string NombreMostrado(const std::string& nombreCaso) {
+  return nombreCaso == "Viejo" ? "Base" : nombreCaso;
+}
+
+}  // namespace novex

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "base/Serie.h"
+#include "demand/calculo.h"
+
+namespace novex {
+
+/// Una serie horaria de las que guarda un cálculo.
+struct DescripcionSerie {
+  std::string_view codigo;
+  std::string_view unidad;
+  ClaseSerie clase;
+  int decimales;  ///< con los que se escribe
+  const SerieHoraria& (*tomar)(const calculo&);
+};
+
+/// Las series horarias de un cálculo, en el orden en que se escriben.
+std::span<const DescripcionSerie> SeriesHorarias();
+
+/// La serie de un código, comparado exactamente; vacía si no es ninguna.
+std::optional<Serie> SerieDeCodigo(const calculo& caso, std::string_view codigo);
+
+/// Todas las series como texto separado por `;`: una cabecera `hora;` y los códigos, y una línea
+/// por hora, de 1 a 8760.
+std::string CsvSeries(const calculo& caso);
+
+}  // namespace novex

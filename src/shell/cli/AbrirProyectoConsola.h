@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+#include "model/GestorEdifActivo.h"
+#include "shell/cli/Consola.h"
+
+namespace novex::cli {
+
+/// Abre un proyecto para leerlo. \throws ErrorUso si el fichero no es de proyecto, ErrorOrden si no
+/// se ha podido abrir (el aviso ya se ha dado), ErrorFichero si falta o está mal formado
+void AbrirProyectoConsola(GestorEdifActivo& gestor, const std::string& ruta, Mensajes& mensajes);
+
+}  // namespace novex::cli

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "demand/calculo.h"
+#include "model/DatosGenerales.h"
+
+namespace novex {
+
+/// Potencia de los tres campos fotovoltaicos del edificio en una hora, kW. Un rendimiento negativo
+/// da una aportación negativa. \param extraPico kW que una medida añade al primer campo
+float PotenciaFotovoltaica(const DatosGenerales& generales, const SeriesClima& clima,
+                           float extraPico, int h);
+
+/// ¿Hay algún campo con potencia?
+bool HayFotovoltaica(const DatosGenerales& generales, float extraPico);
+
+}  // namespace novex

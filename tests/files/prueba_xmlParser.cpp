@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include "CarpetaTemporal.h"
+#include "base/ErrorFichero.h"
+#include "base/FicheroSeguro.h"
+#include "files/xmlParser.h"
+
+namespace novex {
+namespace {
+
+XMLNode Leer(std::string texto, std::string_view raiz = "a") {
+  return XMLNode::parseString(std::move(texto), raiz, "prueba.xml");
+}
+
+TEST(XMLNode, ElAsaVaciaSeLeeSinFallar) {
+  const XMLNode vacia;
+  EXPECT_TRUE(vacia.childNamed("x").childNamed("y").childAt(3).isEmpty());
+  EXPECT_EQ(vacia.childCount() + vacia.attributeCount() + vacia.textCount() + vacia.clearCount(),
+            0U);
+  EXPECT_FALSE(vacia.nameOf());
+  EXPECT_FALSE(vacia.attributeValue("name"));
+  EXPECT_FALSE(vacia.textAt(0));
+  EXPECT_FALSE(vacia.clearAt(0));
+  XMLNode otra;
+  EXPECT_TRUE(otra.appendChild("x").isEmpty());
+  otra.setAttribute("a", "b");
+  otra.updateClear("c");
+  EXPECT_EQ(otra.toString(), "");
+}
+
+TEST(XMLNode, UnAtributoVacioNoEsUnAtributoAusente) {
+  const XMLNode a = Leer("<a name=\"\" otro='1' name=\"2\"/>");
+  ASSERT_TRUE(a.attributeValue("name"));
+  EXPECT_EQ(*a.attributeValue("name"), "");
+  EXPECT_FALSE(a.hasAttribute("nombre"));
+  EXPECT_EQ(a.attributeCount(), 3U);
+  EXPECT_EQ(a.attributeAt(1)->name, "otro");
+  EXPECT_EQ(a.attributeAt(1)->value, "1");
+  EXPECT_FALSE(a.attributeAt(3));
+  std::size_t i = 0;
+  EXPECT_EQ(*a.attributeValue("NAME", &i), "");
+  EXPECT_EQ(*a.attributeValue("NAME", &i), "2");
+  EXPECT_FALSE(a.attributeValue("NAME", &i));
+}
+
+TEST(XMLNode, ElRecorridoPorNombrePasaPorTodosYNoMiraMayusculas) {
+  const XMLNode a = Leer("<a><b>x</b><c/><B>y</B></a>");
+  std::size_t i = 0;
+  EXPECT_EQ(*a.childNamed("b", &i).textAt(0), "x");
+  EXPECT_EQ(*a.childNamed("b", &i).textAt(0), "y");
+  EXPECT_EQ(i, 3U);
+  EXPECT_TRUE(a.childNamed("b", &i).isEmpty());
+  EXPECT_EQ(i, 3U);
+  EXPECT_EQ(*a.childNamed("C").nameOf(), "c");
+  EXPECT_EQ(*a.childAt(2).nameOf(), "B");
+  EXPECT_TRUE(a.childAt(3).isEmpty());
+}
+
+TEST(XMLNode, LosTextosPierdenLosBlancosYUnenSusTrozos) {
+  const XMLNode a = Leer("<a>\n\t <b> dos palabras \r\n</b> \t <c>uno <!-- x --> <!-- y --> dos</c>"
+                         "<d> <!-- nada --> </d><e>1<f/> 2 </e><g>&#32;z&#32;</g></a>");
+  EXPECT_EQ(a.textCount(), 0U);
+  EXPECT_EQ(*a.childNamed("b").textAt(0), "dos palabras");
+  EXPECT_EQ(a.childNamed("c").textCount(), 1U);
+  EXPECT_EQ(*a.childNamed("c").textAt(0), "uno   dos");
+  EXPECT_EQ(a.childNamed("d").textCount(), 0U);
+  EXPECT_EQ(a.childNamed("e").textCount(), 2U);
+  EXPECT_EQ(*a.childNamed("e").textAt(1), "2");
+  EXPECT_EQ(*a.childNamed("g").textAt(0), " z ");
+}
+
+TEST(XMLNode, UnBloqueAcabaEnElPrimerCierre) {
+  const XMLNode a = Leer("<a><![CDATA[<![CDATA[x&amp;<y>]]>]]></a>");
+  ASSERT_EQ(a.clearCount(), 1U);
+  EXPECT_EQ(*a.clearAt(0), "<![CDATA[x&amp;<y>");
+  EXPECT_EQ(*a.textAt(0), "]]>");
+}
+
+TEST(XMLNode, LosAcentosEnEntidadesEnUtf8YEnLatin1SonLosMismos) {
+  for (const char* texto : {"<a name=\"T&#233;rmica\">&#xF1;</a>", "<a name=\"Térmica\">ñ</a>",
+                            "<a name=\"T\xE9rmica\">\xF1</a>"}) {
+    const XMLNode a = Leer(texto);
+    EXPECT_EQ(*a.attributeValue("name"), "Térmica") << texto;
+    EXPECT_EQ(*a.textAt(0), "ñ") << texto;
+  }
+}
+
+TEST(XMLNode, LaRaizSeBuscaEnElDocumentoYEnSusHijos) {
+  EXPECT_EQ(*Leer("<?xml version=\"1.0\"?><A/>").nameOf(), "A");
+  EXPECT_EQ(*Leer("<x><b/><a n=\"1\"/></x>").attributeValue("n"), "1");
+  EXPECT_EQ(*Leer("<x/>", "").nameOf(), "x");
+}
+
+TEST(XMLNode, ElTextoEscritoSigueElOrdenYLosNiveles) {
+  XMLNode cima = XMLNode::createTop("xml version=\"1.0\" encoding=\"UTF-8\"");
+  XMLNode a = cima.appendChild("a");
+  a.appendChild("b").setAttribute("name", "1 < 2 & \"á\" 5%");
+  a.appendChild("c").appendText("tres");
+  XMLNode d = a.appendChild("d");
+  d.appendText("uno");
+  d.appendChild("e");
+  d.appendText("dos");
+  a.appendChild("f").appendClear("<x>");
+  EXPECT_EQ(cima.toString(),
+            "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+            "<a>\n"
+            "\t<b name=\"1 &lt; 2 &amp; &quot;&#225;&quot; 5&#37;\"/>\n"
+            "\t<c>tres</c>\n"
+            "\t<d>\n\t\tuno\n\t\t<e/>\n\t\tdos\n\t</d>\n"
+            "\t<f><![CDATA[<x>]]></f>\n"
+            "</a>\n");
+  EXPECT_EQ(d.toString(false), "<d>uno<e/>dos</d>");
+  EXPECT_EQ(*Leer(cima.toString()).childAt(0).attributeValue("name"), "1 < 2 & \"á\" 5%");
+}
+
+TEST(XMLNode, CambiarElBloqueSoloTocaElPrimero) {
+  XMLNode a = XMLNode::createTop("x").appendChild("a");
+  a.updateClear("uno");
+  a.appendClear("dos");
+  a.updateClear("tres");
+  EXPECT_EQ(a.toString(false), "<a><![CDATA[tres]]><![CDATA[dos]]></a>");
+}
+
+TEST(XMLNode, UnHijoViveAunqueSuPadreNoTengaAsa) {
+  XMLNode b;
+  {
+    const XMLNode a = Leer("<a><b name=\"un texto más largo que una cadena corta &amp; más\"/></a>");
+    b = a.childAt(0);
+  }
+  EXPECT_EQ(*b.attributeValue("name"), "un texto más largo que una cadena corta & más");
+}
+
+TEST(XMLNode, LaCabeceraDependeDelModoYDeLaDeclaracion) {
+  const pruebas::CarpetaTemporal carpeta;
+  const auto ruta = carpeta / "x.xml";
+  XMLNode cima = XMLNode::createTop("xml version=\"1.0\" encoding=\"UTF-8\"");
+  const XMLNode a = cima.appendChild("a");
+  const ModoCodificacion legado{CodificacionXml::Legado};
+  const std::string bom = "\xEF\xBB\xBF";
+
+  EXPECT_EQ(cima.saveToFile(ruta), 0);
+  EXPECT_EQ(LeerFichero(ruta), bom + "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<a/>\n");
+  EXPECT_EQ(a.saveToFile(ruta), 0);
+  EXPECT_EQ(LeerFichero(ruta), bom + "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<a/>\n");
+  EXPECT_EQ(a.saveToFile(ruta, {}, false, legado), 0);
+  EXPECT_EQ(LeerFichero(ruta), "<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\n<a/>");
+  EXPECT_EQ(a.saveToFile(ruta, "latin9", true, legado), 0);
+  EXPECT_EQ(LeerFichero(ruta), "<?xml version=\"1.0\" encoding=\"latin9\"?>\n<a/>\n");
+
+  EXPECT_EQ(a.saveToFile(carpeta / "no/existe/x.xml"), 15);
+  std::filesystem::create_directory(carpeta / "carpeta.xml");
+  EXPECT_EQ(a.saveToFile(carpeta / "carpeta.xml"), 15);
+}
+
+TEST(XMLNode, LaLecturaFijaElModo) {
+  const pruebas::CarpetaTemporal carpeta;
+  ModoCodificacion modo;
+  EscribirFichero(carpeta / "l.xml", "<a>sin declaraci\xF3n y en Latin-1</a>");
+  XMLNode::loadFile(carpeta / "l.xml", "a", modo);
+  EXPECT_EQ(modo.valor, CodificacionXml::Legado);
+  EscribirFichero(carpeta / "b.xml", "\xEF\xBB\xBF<a>con marca de orden de bytes</a>");
+  EXPECT_EQ(*XMLNode::loadFile(carpeta / "b.xml", "a", modo).textAt(0),
+            "con marca de orden de bytes");
+  EXPECT_EQ(modo.valor, CodificacionXml::Utf8);
+}
+
+}  // namespace
+}  // namespace novex
