@@ -16,7 +16,7 @@ void QuitarServiciosForzados(Forzados& forzados) {
 
 void SimularCaso(Edificio& edificio, const AjustesUso& ajustes, Entorno& entorno, calculo& caso) {
   constexpr int kHorasPorTramo = 730;
-  SimulacionCaso simulacion(edificio, ajustes, caso);
+  SimulacionCaso simulacion(edificio, ajustes, caso, entorno.mensajes);
   while (simulacion.Avanzar(kHorasPorTramo)) entorno.progreso.Avanzar(simulacion.Porcentaje());
   simulacion.Terminar();
 }

@@ -7,6 +7,7 @@
 #include "rating/EquipoDefecto.h"
 #include "rating/Escala.h"
 #include "rating/FactoresConversion.h"
+#include "systems/CatalogoEquipos.h"
 
 namespace novex {
 namespace {
@@ -69,6 +70,17 @@ void EtapaCalificacion(const Edificio& edificio, const AjustesUso& ajustes, Ento
                  entorno.mensajes);
 }
 
+// Los equipos genéricos toman siempre sus curvas del catálogo.
+void EtapaSistemas(Edificio& edificio, Entorno& entorno) {
+  bool hayGenericos = false;
+  for (std::size_t s = 0; s < edificio.NumeroSistemas(); ++s)
+    for (const Instalaciones& i : edificio.GetSistema(s).instalaciones)
+      hayGenericos = hayGenericos || i.Fabricante == kFabricanteDefecto;
+  if (!hayGenericos) return;
+  CatalogoEquipos(entorno.ficheros.Xml("Equipos.xml", "EquiposNovex"), entorno.mensajes)
+      .PonerCurvasGenericas(edificio);
+}
+
 }  // namespace
 
 bool PrepararCaso(Edificio& edificio, const AjustesUso& ajustes, Entorno& entorno, calculo& caso) {
@@ -76,6 +88,7 @@ bool PrepararCaso(Edificio& edificio, const AjustesUso& ajustes, Entorno& entorn
   EtapaCargas(edificio, ajustes, entorno, caso);
   EtapaSitio(edificio, entorno, caso);
   EtapaCalificacion(edificio, ajustes, entorno, caso);
+  EtapaSistemas(edificio, entorno);
   return true;
 }
 

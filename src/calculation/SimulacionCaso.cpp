@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Psicrometria.h"
+#include "demand/Clima.h"
 #include "demand/PuentesTermicos.h"
 #include "demand/TransmitanciasEfectivas.h"
 #include "rating/EquipoDefecto.h"
@@ -42,7 +43,8 @@ std::array<float, kSectores> ProporcionHuecos(const Edificio& edificio) {
 
 }  // namespace
 
-SimulacionCaso::SimulacionCaso(Edificio& edificio, const AjustesUso& ajustes, calculo& caso)
+SimulacionCaso::SimulacionCaso(Edificio& edificio, const AjustesUso& ajustes, calculo& caso,
+                               Mensajes& mensajes)
     : edificio_(edificio),
       ajustes_(ajustes),
       caso_(caso),
@@ -50,6 +52,7 @@ SimulacionCaso::SimulacionCaso(Edificio& edificio, const AjustesUso& ajustes, ca
       superficie_(edificio.GetRecinto(0).Suelo_habitable_m2) {
   caso_.VaciarResultados();
   PrepararZona();
+  despacho_ = std::make_unique<Despacho>(edificio_, ajustes_, caso_, mensajes);
 }
 
 SimulacionCaso::~SimulacionCaso() = default;
@@ -112,19 +115,19 @@ void SimulacionCaso::PrimeraPasada(int h, int mes) {
   AireHora& aire = aire_[static_cast<std::size_t>(h)];
   aire = ventilacion_->Hora(h, mes, false, cargaPrevia_);
   balance_->Ganancias(h, mes);
-  CargasPorSuperficie cargas = balance_->Demanda(h, mes, aire);
+  balance_->Demanda(h, mes, aire);
   cargaPrevia_ = zona.cargaRefrigeracion[h] - zona.cargaCalefaccion[h];
 
   // El caudal de una unidad con variador sigue a la carga que acaba de salir.
   if (ajustes_.aire == SistemaAire::UTA && ajustes_.control != ControlVentilador::Compuertas &&
       cargaPrevia_ != 0.0F) {
     aire = ventilacion_->Hora(h, mes, false, cargaPrevia_);
-    cargas = balance_->Demanda(h, mes, aire);
+    balance_->Demanda(h, mes, aire);
   }
   if (ajustes_.PruebaEnfriamientoGratuito()) {
     if (ConvieneEnfriamiento(h)) {
       aire = ventilacion_->Hora(h, mes, true, cargaPrevia_);
-      cargas = balance_->Demanda(h, mes, aire);
+      balance_->Demanda(h, mes, aire);
     }
     if (ajustes_.enfriamiento == PruebaEnfriamiento::Entalpica)
       humedad_->Hora(h, 0.0F, aire.eficienciaHumedad);
@@ -133,10 +136,9 @@ void SimulacionCaso::PrimeraPasada(int h, int mes) {
   zona.DCAL[h] = zona.cargaCalefaccion[h] * 0.001F;
   zona.DREF[h] = std::max(0.0F, zona.cargaRefrigeracion[h] * 0.001F);
   zona.cargaCalefaccion[h] *= 0.001F;
-  zona.cargaRefrigeracion[h] *= 0.001F;
+  // El calor del ventilador puede llevar la zona a la consigna sin que quede carga que quitar.
+  zona.cargaRefrigeracion[h] = zona.DREF[h];
   zona.DVENT[h] *= 0.001F;
-  caso_.resultados.demandaCalefaccion -= 0.001F * cargas.calefaccion;
-  caso_.resultados.demandaRefrigeracion += 0.001F * cargas.refrigeracion;
 }
 
 void SimulacionCaso::AnotarDemandaACS(int h, int mes) {
@@ -146,43 +148,123 @@ void SimulacionCaso::AnotarDemandaACS(int h, int mes) {
   caso_.zona.DACS[h] = litros * (kTemperaturaACS - Tred) * kCpAgua / 3600.0F;
 }
 
-std::array<float, kServiciosDemanda> SimulacionCaso::NoServido(int h) const {
-  return {caso_.zona.DACS[h], -caso_.zona.cargaCalefaccion[h], caso_.zona.cargaRefrigeracion[h]};
+HoraSistemas SimulacionCaso::HoraDeSistemas(int h, int mes) const {
+  const SeriesZona& zona = caso_.zona;
+  const auto asnm = static_cast<float>(edificio_.GetLocalizacion().asnm);
+  HoraSistemas hora;
+  hora.h = h;
+  hora.mes = mes;
+  hora.THE = caso_.clima.THE[h];
+  hora.TSE = caso_.clima.TSE[h];
+  hora.presion = PresionHoraria(asnm);
+  if (zona.cargaCalefaccion[h] < 0.0F)
+    hora.consigna = caso_.carga.TCR[h];
+  else if (zona.cargaRefrigeracion[h] > 0.0F)
+    hora.consigna = caso_.carga.TRR[h];
+  if (h == 1) return hora;
+  hora.Tanterior = zona.TSL[h - 1];
+  hora.Wanterior = zona.WL[h - 1];
+  // Solo la refrigeración lee el bulbo húmedo interior.
+  const bool hayFrio = zona.cargaRefrigeracion[h] > 0.0F || zona.DVENT[h] < 0.0F;
+  if (hayFrio && despacho_->HaySistemas())
+    hora.humedoInterior =
+        psicrometria::BulboHumedo(hora.Tanterior, hora.Wanterior, PresionAltura(asnm));
+  return hora;
+}
+
+void SimulacionCaso::FlotarZona(int h, int mes, const CargasHora& sinCubrir) {
+  const float falta = sinCubrir[kCalefaccion] != 0.0F ? -sinCubrir[kCalefaccion] * 1000.0F
+                                                      : sinCubrir[kRefrigeracion] * 1000.0F;
+  if (falta == 0.0F) return;
+  AireHora& aire = aire_[static_cast<std::size_t>(h)];
+  balance_->Flotar(h, mes, aire, falta);
+  if (ajustes_.PruebaEnfriamientoGratuito() && ConvieneEnfriamiento(h)) {
+    aire = ventilacion_->Hora(h, mes, true, cargaPrevia_);
+    balance_->Demanda(h, mes, aire);
+    caso_.zona.cargaCalefaccion[h] *= 0.001F;
+    caso_.zona.cargaRefrigeracion[h] *= 0.001F;
+    caso_.zona.DVENT[h] *= 0.001F;
+  }
+  AnotarDesviacion(h, mes);
+}
+
+void SimulacionCaso::AnotarDesviacion(int h, int mes) {
+  SeriesZona& zona = caso_.zona;
+  const float T = zona.TSL[h];
+  const float tc = caso_.carga.TCR[h];
+  const float tr = caso_.carga.TRR[h];
+  if (!(caso_.carga.QOCUPShT[h] > 0.0F)) return;
+  if (tc > 0.0F && T < tc && ajustes_.Calienta(mes))
+    zona.DIFT[h] = T - tc;
+  else if (tr > 0.0F && T > tr && ajustes_.Refrigera(mes))
+    zona.DIFT[h] = T - tr;
+  if (zona.DIFT[h] < -1.0F) caso_.resultados.horasFueraCalefaccion += 1.0F;
+  if (zona.DIFT[h] > 1.0F) caso_.resultados.horasFueraRefrigeracion += 1.0F;
 }
 
 void SimulacionCaso::SegundaPasada(int h, int mes) {
   SeriesZona& zona = caso_.zona;
   TablasMensuales& meses = caso_.meses;
+  const DatosGenerales& generales = edificio_.GetDatosGenerales();
   AnotarDemandaACS(h, mes);
   SumarMes(meses.demanda[kCalefaccion], mes, zona.DCAL[h] / superficie_);
   SumarMes(meses.demanda[kRefrigeracion], mes, zona.DREF[h] / superficie_);
   SumarMes(meses.demanda[kACS], mes, zona.DACS[h] / superficie_);
 
-  const auto noServido = NoServido(h);
-  for (std::size_t s = 0; s < kServiciosDemanda; ++s) caso_.resultados.noServido[s] += noServido[s];
+  const ResultadoDespacho reparto = despacho_->Hora(HoraDeSistemas(h, mes));
+  defectoACS_ += reparto.defecto[kACS];
   const EficienciaHora recuperacion =
       ventilacion_->RecuperadorHora(h, ajustes_.PruebaEnfriamientoGratuito());
+  if (ajustes_.equiposReales) {
+    aire_[static_cast<std::size_t>(h)].eficiencia = recuperacion.sensible;
+    FlotarZona(h, mes, reparto.sinCubrir);
+  }
   if (caso_.carga.QOCUPShT[h] > 0.0F) caso_.resultados.horasOcupacion += 1.0F;
-  humedad_->Hora(h, noServido[kRefrigeracion] * 1000.0F * kLatenteDefecto, recuperacion.humedad);
+  humedad_->Hora(h,
+                 reparto.frioLatente + reparto.defecto[kRefrigeracion] * 1000.0F * kLatenteDefecto,
+                 recuperacion.humedad);
 
   SumarMes(meses.ventilacion, mes, zona.CV[h] * 0.001F);
   const float extraPico = caso_.resultados.forzados.ExtraPotPicoFV;
-  if (HayFotovoltaica(edificio_.GetDatosGenerales(), extraPico))
+  if (HayFotovoltaica(generales, extraPico))
     SumarMes(meses.produccionFotovoltaica, mes,
-             PotenciaFotovoltaica(edificio_.GetDatosGenerales(), caso_.clima, extraPico, h));
-  CargarDefectoHora(h, noServido, ModoDefectoDe(edificio_.GetDatosGenerales().Equipos_Defecto),
-                    caso_);
+             PotenciaFotovoltaica(generales, caso_.clima, extraPico, h));
+  CargarDefectoHora(h, reparto.defecto, ModoDefectoDe(generales.Equipos_Defecto), caso_);
+}
+
+void SimulacionCaso::CorregirBalanceSolar() {
+  constexpr float kMenor = 0.9F;
+  constexpr float kMayor = 1.1F;
+  TablasMensuales& m = caso_.meses;
+  float generado = -defectoACS_;
+  for (const SumasBloque& s : despacho_->Sumas()) generado += s.dado[0][kACS] + s.dado[1][kACS];
+  const float necesidad = m.demanda[kACS][0] * superficie_ + m.perdidaDeposito[0] +
+                          m.perdidaRetorno[0] + m.perdidaTuberiaCaptador[0] +
+                          m.perdidaDepositoSolar[0];
+  const float captada = m.solarCaptada[0];
+  float r = captada > 0.0F ? (necesidad - generado) / captada : 1.0F;
+  if (r > kMayor || r < kMenor) r = 1.0F;
+  for (float& mes : m.solarCaptada) mes *= r;
+  caso_.correccionBalance = r;
 }
 
 void SimulacionCaso::Terminar() {
-  for (TablaMensual& tabla : caso_.meses.demanda) SumarAno(tabla);
-  for (TablaMensual& tabla : caso_.meses.defecto) SumarAno(tabla);
-  SumarAno(caso_.meses.ventilacion);
-  SumarAno(caso_.meses.produccionFotovoltaica);
-  caso_.resultados.demandaACS = caso_.meses.demanda[kACS][0];
+  TablasMensuales& m = caso_.meses;
+  for (auto* grupo : {&m.demanda, &m.defecto, &m.ambiente, &m.bombas, &m.ventiladores, &m.servida})
+    for (TablaMensual& tabla : *grupo) SumarAno(tabla);
+  for (auto& vector : m.consumo)
+    for (TablaMensual& tabla : vector) SumarAno(tabla);
+  for (TablaMensual* tabla : {&m.ventilacion, &m.produccionFotovoltaica, &m.calorBiomasa,
+                              &m.solarCaptada, &m.perdidaTuberiaCaptador, &m.perdidaDepositoSolar,
+                              &m.perdidaDeposito, &m.perdidaRetorno, &m.irradiacionCaptadores})
+    SumarAno(*tabla);
+  ResultadosCaso& res = caso_.resultados;
+  res.demandaCalefaccion = -m.demanda[kCalefaccion][0];
+  res.demandaRefrigeracion = m.demanda[kRefrigeracion][0];
+  res.demandaACS = m.demanda[kACS][0];
   CargarIluminacion(edificio_, caso_);
   PlegarCaso(edificio_, caso_);
-  caso_.correccionBalance = 1.0F;
+  CorregirBalanceSolar();
   CalificarCaso(edificio_, caso_);
 }
 

@@ -10,6 +10,7 @@
 #include "demand/HumedadZona.h"
 #include "demand/calculo.h"
 #include "model/Edificio.h"
+#include "systems/Despacho.h"
 
 namespace novex {
 
@@ -18,7 +19,7 @@ namespace novex {
 class SimulacionCaso {
  public:
   /// Prepara los coeficientes de la zona y vacía los resultados anteriores.
-  SimulacionCaso(Edificio& edificio, const AjustesUso& ajustes, calculo& caso);
+  SimulacionCaso(Edificio& edificio, const AjustesUso& ajustes, calculo& caso, Mensajes& mensajes);
   ~SimulacionCaso();
 
   /// Avanza hasta `horas` horas de pasada. \returns false cuando ya no queda ninguna
@@ -34,8 +35,13 @@ class SimulacionCaso {
   void SegundaPasada(int h, int mes);
   bool ConvieneEnfriamiento(int h) const;
   void AnotarDemandaACS(int h, int mes);
-  /// Parte de la demanda de la hora que ningún sistema da, por servicio, kW.
-  std::array<float, kServiciosDemanda> NoServido(int h) const;
+  /// Estado de la hora que ven los sistemas.
+  HoraSistemas HoraDeSistemas(int h, int mes) const;
+  /// Con equipos reales, lo que no alcanzan deja flotar la temperatura de la zona.
+  void FlotarZona(int h, int mes, const CargasHora& sinCubrir);
+  /// Aparta la temperatura de la consigna de la hora y cuenta las horas fuera de ella.
+  void AnotarDesviacion(int h, int mes);
+  void CorregirBalanceSolar();
 
   Edificio& edificio_;
   const AjustesUso ajustes_;
@@ -45,11 +51,13 @@ class SimulacionCaso {
   std::unique_ptr<PasoVentilacion> ventilacion_;
   std::unique_ptr<Balance> balance_;
   std::unique_ptr<HumedadZona> humedad_;
+  std::unique_ptr<Despacho> despacho_;
   std::vector<AireHora> aire_;  ///< aire que dejó la primera pasada en cada hora
   int hechas_ = 0;
   int mes_ = 0;
   float cargaPrevia_ = 0;  ///< W
   float superficie_ = 0;
+  float defectoACS_ = 0;  ///< kWh del año que los sistemas no dan
 };
 
 }  // namespace novex

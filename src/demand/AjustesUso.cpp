@@ -36,6 +36,7 @@ constexpr std::pair<std::string_view, ControlVentilador> kControl[] = {
     {"Control por compuertas", ControlVentilador::Compuertas}};
 
 constexpr std::pair<std::string_view, TipoRecuperador> kRecuperador[] = {
+    {"No", TipoRecuperador::No},
     {"SensibleSinBypass", TipoRecuperador::SensibleSin},
     {"SensibleConBypass", TipoRecuperador::SensibleCon},
     {"EntalpicoSinBypass", TipoRecuperador::EntalpicoSin},
@@ -67,7 +68,7 @@ AjustesUso ResolverAjustes(const Edificio& edificio) {
   a.aire = Resolver(g.ManejoVentilacion, kAire, SistemaAire::Toma);
   a.modulacion = Resolver(g.TipoCO2, kModulacion, ModulacionAire::Otra);
   a.control = Resolver(g.ControlVent, kControl, ControlVentilador::Otro);
-  a.recuperador = Resolver(g.Recuperador, kRecuperador, TipoRecuperador::No);
+  a.recuperador = Resolver(g.Recuperador, kRecuperador, TipoRecuperador::Otro);
   a.enfriamiento = Resolver(g.UTAFreeCooling, kPrueba, PruebaEnfriamiento::Ninguna);
   a.vivienda = Resolver(g.TipoVentilacion2, kVivienda, VentilacionVivienda::Otra);
   for (int m = 1; m <= 12; ++m) {

@@ -21,7 +21,7 @@ enum class ModulacionAire {
 /// Control del caudal de los ventiladores.
 enum class ControlVentilador { Otro, Variador, Compuertas };
 /// Recuperador de calor.
-enum class TipoRecuperador { No, SensibleSin, SensibleCon, EntalpicoSin, EntalpicoCon };
+enum class TipoRecuperador { Otro, No, SensibleSin, SensibleCon, EntalpicoSin, EntalpicoCon };
 /// Prueba de enfriamiento gratuito.
 enum class PruebaEnfriamiento { Ninguna, Termica, Entalpica };
 /// Ventilación de una vivienda.
@@ -42,7 +42,7 @@ struct AjustesUso {
   SistemaAire aire = SistemaAire::Toma;
   ModulacionAire modulacion = ModulacionAire::Otra;
   ControlVentilador control = ControlVentilador::Otro;
-  TipoRecuperador recuperador = TipoRecuperador::No;
+  TipoRecuperador recuperador = TipoRecuperador::Otro;
   PruebaEnfriamiento enfriamiento = PruebaEnfriamiento::Ninguna;
   VentilacionVivienda vivienda = VentilacionVivienda::Otra;
   std::array<AccionMes, 13> accion{};  ///< por mes, 1 a 12

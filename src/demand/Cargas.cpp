@@ -11,24 +11,24 @@ namespace novex {
 namespace {
 
 // Parte radiante que llega en cada hora, en tanto por ciento.
-constexpr std::array<float, 23> kRadiante = {31, 16, 11, 7, 6, 4, 4, 3, 3, 2, 2, 2,
-                                             1,  1,  1,  1, 1, 1, 1, 1, 1, 0, 0};
+constexpr std::array<double, 23> kRadiante = {31, 16, 11, 7, 6, 4, 4, 3, 3, 2, 2, 2,
+                                              1,  1,  1,  1, 1, 1, 1, 1, 1, 0, 0};
 
 // Partes convectivas.
-constexpr float kConvectivaMuro = 0.54F;
-constexpr float kConvectivaTecho = 0.4F;
-constexpr float kConvectivaCond = 0.67F;
-constexpr float kConvectivaOcupantes = 0.4F;
-constexpr float kConvectivaIluminacion = 0.2F;
-constexpr float kConvectivaEquipos = 0.9F;
+constexpr double kConvectivaMuro = 0.54;
+constexpr double kConvectivaTecho = 0.4;
+constexpr double kConvectivaCond = 0.67;
+constexpr double kConvectivaOcupantes = 0.4;
+constexpr double kConvectivaIluminacion = 0.2;
+constexpr double kConvectivaEquipos = 0.9;
 
 constexpr int kUltimaHoraNoche = 7;  // de 0 a 7 h con las ventanas abiertas
 
-void Retardar(SerieHoraria& serie, float convectiva) {
-  std::array<float, 23> pesos{};
+void Retardar(SerieHoraria& serie, double convectiva) {
+  std::array<double, 23> pesos{};
   for (std::size_t k = 0; k < pesos.size(); ++k) pesos[k] = kRadiante[k] * (1 - convectiva) / 100;
   pesos[0] += convectiva;
-  ConvolucionPeriodica(serie, pesos, serie);
+  ConvolucionExacta(serie, pesos, serie);
   RedondearSerie(serie, 2);
 }
 

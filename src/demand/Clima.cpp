@@ -21,6 +21,15 @@ constexpr float kHeMuro = 17.0F;
 constexpr float kHeTecho = 25.0F;
 constexpr float kHrad = 5.0F;
 
+// Planos de los seis sectores con una inclinación.
+std::array<Plano, kSectores> Planos(float inclinacion) {
+  const auto plano = [inclinacion](std::size_t s) { return Plano(inclinacion, kAzimutSector[s]); };
+  return {plano(0), plano(1), plano(2), plano(3), plano(4), plano(5)};
+}
+
+const std::array<Plano, kSectores> kVerticales = Planos(90);
+const std::array<Plano, kSectores> kInclinados = Planos(30);
+
 float DirectaNormal(float directaHorizontal, float cenit, float anterior) {
   const float c = std::cos(cenit * 3.1416F / 180.0F);
   const float normal = c > 0.0F ? directaHorizontal / c : 0.0F;
@@ -34,12 +43,6 @@ struct SolAire {
 };
 
 void CalcularSolAire(float alfaMuro, float alfaTecho, SeriesClima& clima, SolAire& solAire) {
-  std::array<Plano, kSectores> vertical = {
-      Plano(90, kAzimutSector[0]), Plano(90, kAzimutSector[1]), Plano(90, kAzimutSector[2]),
-      Plano(90, kAzimutSector[3]), Plano(90, kAzimutSector[4]), Plano(90, kAzimutSector[5])};
-  std::array<Plano, kSectores> inclinado = {
-      Plano(30, kAzimutSector[0]), Plano(30, kAzimutSector[1]), Plano(30, kAzimutSector[2]),
-      Plano(30, kAzimutSector[3]), Plano(30, kAzimutSector[4]), Plano(30, kAzimutSector[5])};
   const Plano horizontal(0, 0);
   for (int h = 1; h <= kHorasAno; ++h) {
     const float directa = clima.IDIRECTA[h];
@@ -52,12 +55,11 @@ void CalcularSolAire(float alfaMuro, float alfaTecho, SeriesClima& clima, SolAir
         ((kHeMuro - kHrad) * seca + 0.5F * kHrad * seca + 0.5F * kHrad * cielo) / kHeMuro;
     const float baseTecho = ((kHeTecho - kHrad) * seca + kHrad * cielo) / kHeTecho;
     for (std::size_t o = 0; o < kSectores; ++o) {
-      const float enMuro = vertical[o].IrradianciaTotal(sol, directa, difusa);
-      clima.irradianciaVertical[o][h] = enMuro;
-      clima.IRAD[o][h] = vertical[o].IrradianciaVidrio(sol, directa, difusa);
+      const float enMuro = kVerticales[o].IrradianciaTotal(sol, directa, difusa);
+      clima.IRAD[o][h] = kVerticales[o].IrradianciaVidrio(sol, directa, difusa);
       solAire.muro[o][h] = alfaMuro * enMuro / kHeMuro + baseMuro;
       solAire.techo[o][h] =
-          alfaTecho * inclinado[o].IrradianciaTotal(sol, directa, difusa) / kHeTecho + baseTecho;
+          alfaTecho * kInclinados[o].IrradianciaTotal(sol, directa, difusa) / kHeTecho + baseTecho;
     }
     clima.RADH[h] = horizontal.IrradianciaTotal(sol, directa, difusa);
     clima.IRADH[h] = horizontal.IrradianciaVidrio(sol, directa, difusa);
@@ -145,6 +147,13 @@ void RedondearClima(SeriesClima& clima) {
   for (auto& s : clima.MLIGERO) RedondearSerie(s, 2);
   for (auto& s : clima.CLIGERO) RedondearSerie(s, 2);
   RedondearSerie(clima.WE, 5);
+  // La irradiancia con que se echan las protecciones ve ya el sol redondeado.
+  for (int h = 1; h <= kHorasAno; ++h) {
+    const SolHora sol(clima.AZIMUTS[h], clima.CENITS[h]);
+    for (std::size_t o = 0; o < kSectores; ++o)
+      clima.irradianciaVertical[o][h] =
+          kVerticales[o].IrradianciaTotal(sol, clima.IDIRECTA[h], clima.IDIFUSA[h]);
+  }
 }
 
 TablaMensual MediasMensuales(const SerieHoraria& TSE) {

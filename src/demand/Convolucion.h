@@ -12,6 +12,11 @@ namespace novex {
 void ConvolucionPeriodica(const SerieHoraria& entrada, std::span<const float> pesos,
                           SerieHoraria& salida);
 
+/// La misma suma en doble precisión, para que un valor que cae justo entre dos decimales no se
+/// redondee por el error de la simple.
+void ConvolucionExacta(const SerieHoraria& entrada, std::span<const double> pesos,
+                       SerieHoraria& salida);
+
 /// Redondea los valores de una serie a decimales fijos, como lo hace su paso por el fichero de
 /// caso.
 void RedondearSerie(SerieHoraria& serie, int decimales);

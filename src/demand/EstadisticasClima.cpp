@@ -136,7 +136,7 @@ void LeerMensual(const std::filesystem::path& ruta, EstadisticasClima& clima) {
 
 struct VariablePerfil {
   std::string_view nombre;
-  PerfilDiario EstadisticasMes::*perfil;
+  CursoDiario EstadisticasMes::*perfil;
   double minimo;
   double maximo;
 };
@@ -168,7 +168,7 @@ void LeerPerfiles(const std::filesystem::path& ruta, EstadisticasClima& clima) {
     const std::size_t marca = (indiceZona * kMeses + mes) * kVariables.size() + indiceVariable;
     if (leidas[marca]) tabla.Fallar("perfil repetido");
     leidas[marca] = true;
-    PerfilDiario& perfil = zona->meses[mes].*(variable->perfil);
+    CursoDiario& perfil = zona->meses[mes].*(variable->perfil);
     for (std::size_t h = 0; h < perfil.size(); ++h)
       perfil[h] = tabla.Numero(4 + h, variable->minimo, variable->maximo);
   }

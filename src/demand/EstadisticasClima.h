@@ -11,27 +11,27 @@
 namespace novex {
 
 /// Curso medio del día: la hora 1 está en la posición 0.
-using PerfilDiario = std::array<double, 24>;
+using CursoDiario = std::array<double, 24>;
 
 /// Estadísticas del clima de una zona en un mes.
 struct EstadisticasMes {
-  double temperaturaMedia = 0;     ///< °C
-  double incremento = 0;           ///< de la temperatura sobre la de referencia, K
-  double desviacionDiaria = 0;     ///< desviación típica (muestral) de las medias diarias, K
-  double autocorrelacion = 0;      ///< de las medias diarias, de un día al siguiente
-  double temperaturaMinima = 0;    ///< la hora más fría, °C
-  double temperaturaMaxima = 0;    ///< la hora más cálida, °C
-  double humedadRelativa = 0;      ///< media, %
-  double directa = 0;              ///< irradiación directa horizontal del mes, kWh/m2
-  double difusa = 0;               ///< irradiación difusa horizontal del mes, kWh/m2
-  double desviacionGlobal = 0;     ///< desviación típica de la irradiación global diaria, kWh/m2
-  double desviacionViento = 0;     ///< desviación típica horaria, m/s
-  PerfilDiario temperatura{};      ///< °C
-  PerfilDiario depresionCielo{};   ///< temperatura seca menos la del cielo, K
-  PerfilDiario directaHora{};      ///< W/m2 en el plano horizontal
-  PerfilDiario difusaHora{};       ///< W/m2 en el plano horizontal
-  PerfilDiario humedadAbsoluta{};  ///< kg/kg
-  PerfilDiario viento{};           ///< m/s
+  double temperaturaMedia = 0;    ///< °C
+  double incremento = 0;          ///< de la temperatura sobre la de referencia, K
+  double desviacionDiaria = 0;    ///< desviación típica (muestral) de las medias diarias, K
+  double autocorrelacion = 0;     ///< de las medias diarias, de un día al siguiente
+  double temperaturaMinima = 0;   ///< la hora más fría, °C
+  double temperaturaMaxima = 0;   ///< la hora más cálida, °C
+  double humedadRelativa = 0;     ///< media, %
+  double directa = 0;             ///< irradiación directa horizontal del mes, kWh/m2
+  double difusa = 0;              ///< irradiación difusa horizontal del mes, kWh/m2
+  double desviacionGlobal = 0;    ///< desviación típica de la irradiación global diaria, kWh/m2
+  double desviacionViento = 0;    ///< desviación típica horaria, m/s
+  CursoDiario temperatura{};      ///< °C
+  CursoDiario depresionCielo{};   ///< temperatura seca menos la del cielo, K
+  CursoDiario directaHora{};      ///< W/m2 en el plano horizontal
+  CursoDiario difusaHora{};       ///< W/m2 en el plano horizontal
+  CursoDiario humedadAbsoluta{};  ///< kg/kg
+  CursoDiario viento{};           ///< m/s
 };
 
 /// Estadísticas del clima de una zona y su lugar de referencia.

@@ -65,10 +65,10 @@ void NormalizarPorMes(SerieDiaria& serie, double minimo) {
 
 // La onda media de cada hora del mes queda en la del perfil: unir días y cambiar amplitudes la
 // mueve unas décimas.
-void CorregirOnda(AnoEnCurso& ano, const std::array<PerfilDiario, kMeses>& ondas) {
+void CorregirOnda(AnoEnCurso& ano, const std::array<CursoDiario, kMeses>& ondas) {
   for (std::size_t m = 0; m < kMeses; ++m) {
     const double n = static_cast<double>(DiasDe(m));
-    PerfilDiario media{};
+    CursoDiario media{};
     for (std::size_t d = 0; d < DiasDe(m); ++d)
       for (std::size_t h = 0; h < kHorasDia; ++h)
         media[h] += ano.seca[HoraAno(PrimerDia(m) + d, h)] / n;
@@ -82,7 +82,7 @@ void CorregirOnda(AnoEnCurso& ano, const std::array<PerfilDiario, kMeses>& ondas
 void GenerarTemperatura(AnoEnCurso& ano) {
   std::array<ObjetivoMes, kMeses> objetivos;
   std::array<double, kMeses> incrementos{};
-  std::array<PerfilDiario, kMeses> ondas{};
+  std::array<CursoDiario, kMeses> ondas{};
   for (std::size_t m = 0; m < kMeses; ++m) {
     const EstadisticasMes& mes = ano.zona.meses[m];
     incrementos[m] = mes.incremento;
@@ -112,7 +112,7 @@ void GenerarTemperatura(AnoEnCurso& ano) {
   for (int i = 0; i < kIteraciones; ++i) {
     const SerieDiaria unidos = nodos;
     for (std::size_t d = 0; d < kDiasAno; ++d) {
-      const PerfilDiario& onda = ondas[MesDelDia(d)];
+      const CursoDiario& onda = ondas[MesDelDia(d)];
       for (std::size_t h = 0; h < kHorasDia; ++h)
         ano.seca[HoraAno(d, h)] = EntreDias(unidos, d, h) + AmplitudEn(amplitud, d, h) * onda[h];
       nodos[d] += medias[d] - Media(&ano.seca[HoraAno(d, 0)], kHorasDia);
@@ -146,12 +146,12 @@ void GenerarCielo(AnoEnCurso& ano) {
   const SerieDiaria z = SecuenciaConClaridad(ano, kCieloConClaridad, 41);
   SerieDiaria factor{};
   for (std::size_t d = 0; d < kDiasAno; ++d) {
-    const PerfilDiario& depresion = ano.zona.meses[MesDelDia(d)].depresionCielo;
+    const CursoDiario& depresion = ano.zona.meses[MesDelDia(d)].depresionCielo;
     factor[d] = 1.0 + kDesviacionCielo * z[d] / Media(depresion.data(), kHorasDia);
   }
   NormalizarPorMes(factor, 0.35);
   for (std::size_t d = 0; d < kDiasAno; ++d) {
-    const PerfilDiario& depresion = ano.zona.meses[MesDelDia(d)].depresionCielo;
+    const CursoDiario& depresion = ano.zona.meses[MesDelDia(d)].depresionCielo;
     for (std::size_t h = 0; h < kHorasDia; ++h)
       ano.cielo[HoraAno(d, h)] = ano.seca[HoraAno(d, h)] - depresion[h] * EntreDias(factor, d, h);
   }
@@ -197,7 +197,7 @@ void GenerarHumedad(AnoEnCurso& ano) {
   for (int i = 0; i < kIteraciones; ++i) {
     const SerieDiaria unido = nivel;
     for (std::size_t d = 0; d < kDiasAno; ++d) {
-      const PerfilDiario& forma = ano.zona.meses[MesDelDia(d)].humedadAbsoluta;
+      const CursoDiario& forma = ano.zona.meses[MesDelDia(d)].humedadAbsoluta;
       for (std::size_t h = 0; h < kHorasDia; ++h) {
         const std::size_t i8760 = HoraAno(d, h);
         const double tope = HumedadAbsoluta(100.0, saturacion[i8760]);

@@ -169,9 +169,9 @@ void DarForma(const MesDeSol& mes, Azar& azar, HorasMes& directa, HorasMes& difu
 
 struct Ajuste {
   const MesDeSol& mes;
-  const SerieMes& dias;        // suma de cada día, kWh/m2
-  const PerfilDiario& perfil;  // curso medio, W/m2
-  double total;                // suma del mes, kWh/m2
+  const SerieMes& dias;       // suma de cada día, kWh/m2
+  const CursoDiario& perfil;  // curso medio, W/m2
+  double total;               // suma del mes, kWh/m2
   bool limitarDirecta;
 };
 

@@ -108,7 +108,9 @@ EficienciaHora Recuperador::Hora(float NRR, float Te, float QV, bool conEnfriami
                          ajustes_.recuperador == TipoRecuperador::EntalpicoCon;
   const bool puenteado =
       conEnfriamiento ? ajustes_.aire == SistemaAire::UTA || Te > TminImp_ : enBanda;
-  if (ajustes_.recuperador == TipoRecuperador::No || (conBypass && puenteado)) return {};
+  const bool hay =
+      ajustes_.recuperador != TipoRecuperador::No && ajustes_.recuperador != TipoRecuperador::Otro;
+  if (!hay || (conBypass && puenteado)) return {};
   EficienciaHora e{Parcial(sensible_, razonMasas_, caudal), 0};
   if (ajustes_.recuperador == TipoRecuperador::EntalpicoSin ||
       ajustes_.recuperador == TipoRecuperador::EntalpicoCon)

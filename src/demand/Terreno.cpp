@@ -83,6 +83,10 @@ CoeficientesTerreno CoeficientesSolera(float U, float area, float perimetro,
   CoeficientesTerreno c;
   c.Hg = Estacionaria(area, perimetro, z > kProfundidadSuperficial ? dt + z / 2.0F : dt, periferico,
                       banda);
+  // A poca profundidad la parte periódica solo está definida para los aislamientos conocidos.
+  const bool conocido = periferico || suelo.Tipo_aislamiento_suelo == "Continuo" ||
+                        suelo.Tipo_aislamiento_suelo == "SinAislamiento";
+  if (!conocido && z <= kProfundidadSuperficial) return c;
   c.Hpi = PeriodicaInterior(area, dt);
   c.Hpe = PeriodicaExterior(perimetro, dt, z, periferico, banda);
   return c;

@@ -57,6 +57,7 @@ VentiladorAire::Hora VentiladorAire::EnVivienda(float NRR, float Te, float QV) c
         hora.puenteado = Teminrec_ < Te && Te < Temaxrec_;
         hora.potencia = (hora.puenteado ? WRecuperadorr_ : WRecuperador_) * viviendas_;
         break;
+      case TipoRecuperador::Otro:
       case TipoRecuperador::EntalpicoSin:
       case TipoRecuperador::EntalpicoCon:
         break;
@@ -85,7 +86,8 @@ VentiladorAire::Hora VentiladorAire::EnTerciario(float Te, float QV, float CUTA,
                          ajustes_.recuperador == TipoRecuperador::EntalpicoCon;
   if (conBypass)
     hora.puenteado = conEnfriamiento ? uta || Te > TminImp_ : Teminrec_ < Te && Te < Temaxrec_;
-  hora.potencia = (hora.puenteado ? WRecuperadorr_ : WRecuperador_) * f;
+  if (ajustes_.recuperador != TipoRecuperador::Otro)
+    hora.potencia = (hora.puenteado ? WRecuperadorr_ : WRecuperador_) * f;
   if (forzada_ != 0.0F)
     hora.potencia = uta ? CUTA * 2300.0F / kSegundosHora : QV * 1450.0F / kSegundosHora * f;
   return hora;

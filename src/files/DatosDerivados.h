@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "model/SistemaResidencial.h"
+#include "model/NodoConservado.h"
 #include "model/TablaEnvolvente.h"
 
 namespace novex {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "files/xmlParser.h"
-#include "model/SistemaResidencial.h"
+#include "model/NodoConservado.h"
 
 namespace novex {
 

@@ -1,8 +1,5 @@
 #include <algorithm>
 
-#include "base/Texto.h"
-#include "files/LimitesProyecto.h"
-#include "files/NodoConservadoXml.h"
 #include "files/SeccionesProyecto.h"
 
 namespace novex {
@@ -11,14 +8,10 @@ namespace {
 using R = RegistrosCaso;
 using D = DatosGenerales;
 using X = DatosDerivados::Caso;
-using S = SistemaResidencial;
-using I = Instalaciones;
 constexpr auto g = &R::generales;
 constexpr auto x = &R::derivados;
 
 constexpr std::string_view kSeccion = "Instalaciones";
-constexpr std::string_view kSistema = "Tipo_sistema";
-constexpr std::string_view kFabricante = "Fabricante";
 
 constexpr std::array kCampos = {
     Real<g, &D::Aporte_fotovoltaico_kwh_ano>("Aporte_fotovoltaico_kwh_ano", 2),
@@ -91,19 +84,6 @@ constexpr std::array kVentilacionMecanica = {
     Real<x, &X::Caudal2Vent>("Caudal2Vent", 2),
     Real<x, &X::PotenciaEspecificaVent>("PotenciaEspecificaVent", 2), kConsumoAExt};
 
-constexpr std::array kCamposSistema = {
-    Texto<&S::Tipo_sistema>(kSistema), Texto<&S::Nombre_sistema>("Nombre_sistema"),
-    Real<&S::Sup_ACS>("Sup_ACS", 2), Real<&S::Sup_Calefaccion>("Sup_Calefaccion", 2),
-    Real<&S::Sup_Refrigeracion>("Sup_Refrigeracion", 2)};
-constexpr std::array kCamposGenerador = {Texto<&I::Seleccion>("Seleccion"),
-                                         Texto<&I::TipoInstalacionesG>("TipoInstalacionesG")};
-
-// Comienzos de las etiquetas que son resultado de un cálculo anterior y no se conservan.
-constexpr std::array<std::string_view, 11> kResultados = {
-    "ACSTotalProducido",     "CaleTotalProducido", "FrioTotalProducido", "EnergiaConsumidaEn",
-    "RendimientoEstacional", "SCOPEstacional",     "SEEREstacional",     "Caudal2",
-    "PotenciaEspecifica",    "ConsumoBomba",       "ConsumoVent"};
-
 // Nombres que tuvieron los recuperadores, y las versiones que ya definían su consumo como ahora.
 struct NombreCambiado {
   std::string_view antes;
@@ -127,63 +107,6 @@ void CambiarRecuperador(D& datos, Mensajes& mensajes) {
                     "versión 5.09");
 }
 
-template <class Tabla>
-bool EstaEn(const Tabla& campos, std::string_view etiqueta) {
-  return std::any_of(campos.begin(), campos.end(), [etiqueta](const auto& c) {
-    return IgualesSinMayusculas(c.etiqueta, etiqueta);
-  });
-}
-
-bool SeConserva(std::string_view etiqueta) {
-  const bool resultado =
-      std::any_of(kResultados.begin(), kResultados.end(),
-                  [etiqueta](std::string_view p) { return etiqueta.starts_with(p); });
-  return !resultado && !EstaEn(kCamposSistema, etiqueta) && !EstaEn(kCamposGenerador, etiqueta);
-}
-
-S LeerSistema(const XMLNode& nodo, Mensajes& mensajes) {
-  S sistema;
-  LeerCampos<S>(nodo, kCamposSistema, sistema, mensajes);
-  I& generador = sistema.instalaciones.emplace_back();
-  LeerCampos<I>(nodo, kCamposGenerador, generador, mensajes);
-  for (std::size_t i = 0; i < nodo.childCount(); ++i) {
-    const XMLNode hijo = nodo.childAt(i);
-    if (SeConserva(*hijo.nameOf())) generador.campos.push_back(Conservar(hijo));
-  }
-  return sistema;
-}
-
-// Los resultados van delante del fabricante, tras los datos del generador.
-void EscribirGenerador(XMLNode& nodo, const I& generador, const X::ResultadosSistema* resultados) {
-  I copia = generador;
-  EscribirCampos<I>(nodo, kCamposGenerador, copia);
-  bool pendientes = resultados != nullptr;
-  const auto escribirResultados = [&] {
-    if (pendientes)
-      for (const auto& [etiqueta, valor] : *resultados) AnadirValor(nodo, etiqueta, valor);
-    pendientes = false;
-  };
-  for (const NodoConservado& campo : generador.campos) {
-    if (campo.nombre == kFabricante) escribirResultados();
-    Devolver(nodo, campo);
-  }
-  escribirResultados();
-}
-
-void EscribirSistemas(XMLNode& instalaciones, const X& derivados, const Edificio& edificio) {
-  std::size_t bloque = 0;
-  for (std::size_t i = 0; i < edificio.NumeroSistemas(); ++i) {
-    S sistema = edificio.GetSistema(i);
-    for (const I& generador : sistema.instalaciones) {
-      XMLNode nodo = instalaciones.appendChild(kSistema);
-      EscribirCampos<S>(nodo, kCamposSistema, sistema);
-      const bool hay = bloque < derivados.resultadosSistemas.size();
-      EscribirGenerador(nodo, generador, hay ? &derivados.resultadosSistemas[bloque] : nullptr);
-      ++bloque;
-    }
-  }
-}
-
 }  // namespace
 
 void LeerInstalaciones(const XMLNode& novex, RegistrosCaso& r, Edificio& edificio,
@@ -191,11 +114,7 @@ void LeerInstalaciones(const XMLNode& novex, RegistrosCaso& r, Edificio& edifici
   const XMLNode instalaciones = novex.childNamed(kSeccion);
   LeerCampos<R>(instalaciones, kCampos, r, mensajes);
   CambiarRecuperador(r.generales, mensajes);
-  std::size_t i = 0;
-  while (const XMLNode nodo = instalaciones.childNamed(kSistema, &i)) {
-    edificio.AnadirSistema(LeerSistema(nodo, mensajes));
-    limiteProyecto::Comprobar("sistemas", edificio.NumeroSistemas(), limiteProyecto::kSistemas);
-  }
+  LeerSistemas(instalaciones, edificio, mensajes);
 }
 
 void EscribirInstalaciones(XMLNode& novex, RegistrosCaso& r, const Edificio& edificio) {

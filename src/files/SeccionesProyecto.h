@@ -108,6 +108,10 @@ void EscribirMateriales(XMLNode& novex, const Edificio& edificio);
 void LeerInstalaciones(const XMLNode& novex, RegistrosCaso& r, Edificio& edificio,
                        Mensajes& mensajes);
 void EscribirInstalaciones(XMLNode& novex, RegistrosCaso& r, const Edificio& edificio);
+/// Los sistemas, un elemento por bloque de generador dentro del de las instalaciones.
+void LeerSistemas(const XMLNode& instalaciones, Edificio& edificio, Mensajes& mensajes);
+void EscribirSistemas(XMLNode& instalaciones, const DatosDerivados::Caso& derivados,
+                      const Edificio& edificio);
 void LeerEstudio(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes);
 void EscribirEstudio(XMLNode& novex, const RegistrosCaso& r);
 

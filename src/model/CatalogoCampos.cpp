@@ -181,7 +181,7 @@ float ComprobarValor(std::string_view texto, std::string_view clave, Mensajes& m
   std::replace(conPunto.begin(), conPunto.end(), ',', '.');
   const double real = RealInicial(conPunto);
   const long entero = EnteroInicial(conPunto);
-  float valor = static_cast<float>(real);
+  float valor = static_cast<float>(real) + 0.0F;  // "-0.00" es 0, sin signo
   const auto tomar = [&](float nuevo, const char* titulo) {
     valor = nuevo;
     mensajes.Avisar(titulo, Explicacion(campo, valor));

@@ -36,8 +36,10 @@ class FilasEnvolvente {
       if (area == 0.0F) continue;
       total_ += area;
       const composicion& capas = edificio_.GetComposicion(ranuras[i]);
-      tabla_.filas.push_back({std::string(familia) + " " + std::to_string(i + 1), Cifra(area),
-                              Celda::Numero(static_cast<double>(capas.U), 3), capas.nombre});
+      tabla_.filas.push_back(
+          {std::string(familia) + " " + std::to_string(i + 1), Cifra(area),
+           Celda::Numero(static_cast<double>(capas.U), 3),
+           capas.nombre == composicion::kNoDefinido ? std::string() : capas.nombre});
     }
   }
   float Total() const { return total_; }

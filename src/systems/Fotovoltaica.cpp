@@ -19,7 +19,7 @@ float PotenciaFotovoltaica(const DatosGenerales& g, const SeriesClima& clima, fl
     total += pico * G * rendimiento * 0.001F;
   }
   // A una vivienda de un bloque le toca su parte de la instalación común.
-  if (g.PerfilUso == 2 && g.NVBloqueF > 0.0F) total /= g.NVBloqueF;
+  if (g.PerfilUso == 2) total = g.NVBloqueF == 0.0F ? 0.0F : total / g.NVBloqueF;
   return total;
 }
 

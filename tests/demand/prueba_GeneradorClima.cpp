@@ -50,8 +50,8 @@ std::vector<double> MediasDiarias(const FicheroMet& fichero, std::size_t m,
 }
 
 // Curso medio del día en el mes.
-PerfilDiario CursoMedio(const FicheroMet& fichero, std::size_t m, float RegistroMet::*campo) {
-  PerfilDiario curso{};
+CursoDiario CursoMedio(const FicheroMet& fichero, std::size_t m, float RegistroMet::*campo) {
+  CursoDiario curso{};
   for (std::size_t d = PrimerDia(m); d < PrimerDia(m) + DiasDe(m); ++d)
     for (std::size_t h = 0; h < 24; ++h)
       curso[h] += Hora(fichero, d, h, campo) / static_cast<double>(DiasDe(m));
@@ -119,10 +119,10 @@ TEST_P(PruebaZona, CumpleLasCifrasMensuales) {
 TEST_P(PruebaZona, SigueElCursoMedioDelDia) {
   for (std::size_t m = 0; m < kMeses; ++m) {
     const EstadisticasMes& e = estadisticas_.meses[m];
-    const PerfilDiario seca = CursoMedio(fichero_, m, &RegistroMet::seca);
-    const PerfilDiario directa = CursoMedio(fichero_, m, &RegistroMet::directaHorizontal);
-    const PerfilDiario difusa = CursoMedio(fichero_, m, &RegistroMet::difusa);
-    const PerfilDiario absoluta = CursoMedio(fichero_, m, &RegistroMet::humedadAbsoluta);
+    const CursoDiario seca = CursoMedio(fichero_, m, &RegistroMet::seca);
+    const CursoDiario directa = CursoMedio(fichero_, m, &RegistroMet::directaHorizontal);
+    const CursoDiario difusa = CursoMedio(fichero_, m, &RegistroMet::difusa);
+    const CursoDiario absoluta = CursoMedio(fichero_, m, &RegistroMet::humedadAbsoluta);
     for (std::size_t h = 0; h < 24; ++h) {
       SCOPED_TRACE("mes " + std::to_string(m + 1) + " hora " + std::to_string(h + 1));
       EXPECT_NEAR(seca[h], e.temperatura[h], 0.1);
@@ -323,8 +323,8 @@ TEST(ClimaOficial, ElGeneradoTieneSuDispersionHorariaYSuCursoDiario) {
       }
       const double desviacion = DesviacionDe(horasOficial);
       EXPECT_NEAR(DesviacionDe(horasGenerado), desviacion, 0.05 * desviacion);
-      const PerfilDiario a = CursoMedio(oficial, m, &RegistroMet::directaHorizontal);
-      const PerfilDiario b = CursoMedio(generado, m, &RegistroMet::directaHorizontal);
+      const CursoDiario a = CursoMedio(oficial, m, &RegistroMet::directaHorizontal);
+      const CursoDiario b = CursoMedio(generado, m, &RegistroMet::directaHorizontal);
       for (std::size_t h = 0; h < 24; ++h) EXPECT_NEAR(b[h], a[h], 0.03 * a[h] + 1.5);
     }
   }

@@ -36,18 +36,36 @@ void LlenarAdministracion(DatosGenerales& d, Valores& v) {
   d.Uso = "Administrativo";
   d.GradoProteccion = "Integral";
   d.Certificador_Provincia = "Sevilla";
-  Poner(v, {&d.Equipos_Defecto, &d.Reforma, &d.Modo_Vision, &d.Fecha, &d.Alcance,
-            &d.NormativaEdificacion, &d.NormativaInstalaciones, &d.Otra_legislacion_aplicable,
-            &d.Edificio_Titulo, &d.Direccion, &d.CodigoPostal, &d.AnoConstruccion,
-            &d.Certificador_Empresa, &d.Certificador_Nombre, &d.Certificador_Direccion,
-            &d.Certificador_NIF, &d.Certificador_CP, &d.Certificador_Localidad,
-            &d.Certificador_Movil, &d.Certificador_CIF, &d.Certificador_email,
-            &d.Certificador_Profesion, &d.Tiposimulacion, &d.MedidaMejora});
-  Encender({&d.CBConfort, &d.CBIluminacion, &d.CBMovilidad, &d.CBSeguridad, &d.CBAccesibilidad,
-            &d.CBIncendios, &d.CBSalubridad, &d.CBRuido, &d.CBOtros, &d.CBHuecos, &d.CBCubiertas,
-            &d.CBFachadas, &d.CBSuelos, &d.CBMedianeras, &d.CBSombras, &d.CBGeneracionTermica,
-            &d.CBRenovables, &d.CBIluminacion2, &d.CBDistribucion, &d.CBRecuperacion, &d.CBOtras,
-            &d.CBUsoIntervencion});
+  Poner(v, {&d.Equipos_Defecto,
+            &d.Reforma,
+            &d.Modo_Vision,
+            &d.Fecha,
+            &d.Alcance,
+            &d.NormativaEdificacion,
+            &d.NormativaInstalaciones,
+            &d.Otra_legislacion_aplicable,
+            &d.Edificio_Titulo,
+            &d.Direccion,
+            &d.CodigoPostal,
+            &d.AnoConstruccion,
+            &d.Certificador_Empresa,
+            &d.Certificador_Nombre,
+            &d.Certificador_Direccion,
+            &d.Certificador_NIF,
+            &d.Certificador_CP,
+            &d.Certificador_Localidad,
+            &d.Certificador_Movil,
+            &d.Certificador_CIF,
+            &d.Certificador_email,
+            &d.Certificador_Profesion,
+            &d.Tiposimulacion,
+            &d.MedidaMejora});
+  Encender({&d.CBConfort,       &d.CBIluminacion,    &d.CBMovilidad,    &d.CBSeguridad,
+            &d.CBAccesibilidad, &d.CBIncendios,      &d.CBSalubridad,   &d.CBRuido,
+            &d.CBOtros,         &d.CBHuecos,         &d.CBCubiertas,    &d.CBFachadas,
+            &d.CBSuelos,        &d.CBMedianeras,     &d.CBSombras,      &d.CBGeneracionTermica,
+            &d.CBRenovables,    &d.CBIluminacion2,   &d.CBDistribucion, &d.CBRecuperacion,
+            &d.CBOtras,         &d.CBUsoIntervencion});
   d.Coste = 3;
   d.PlazoAmortizacion = 2;
   for (auto& memo : d.Memo) memo = {v.Texto(), "", v.Texto()};
@@ -60,15 +78,16 @@ void LlenarAdministracion(DatosGenerales& d, Valores& v) {
 }
 
 void LlenarUso(DatosGenerales& d, Valores& v) {
-  Poner(v, {&d.Tipo, &d.TipoVEIIMax, &d.Actividad, &d.CriterioACS, &d.ManejoVentilacion,
-            &d.TipoCO2, &d.ControlVent, &d.UTAFreeCooling, &d.UTAHumectacion, &d.RehabIntegralHE5});
-  Poner(v, 0, {&d.Ventilacion, &d.Qescaparates, &d.WRecuperadorr, &d.HRmin, &d.NEquiposVent,
-               &d.TminFreeCooling, &d.CaudalUTA, &d.PerdPresionToma});
+  Poner(v, {&d.Tipo, &d.TipoVEIIMax, &d.Actividad, &d.CriterioACS, &d.ManejoVentilacion, &d.TipoCO2,
+            &d.ControlVent, &d.UTAFreeCooling, &d.UTAHumectacion, &d.RehabIntegralHE5});
+  Poner(v, 0,
+        {&d.Ventilacion, &d.Qescaparates, &d.WRecuperadorr, &d.HRmin, &d.NEquiposVent,
+         &d.TminFreeCooling, &d.CaudalUTA, &d.PerdPresionToma});
   Poner(v, 1, {&d.Teminrec, &d.Temaxrec, &d.TminImp});
-  Poner(v, 2, {&d.Sensibleocupantes, &d.Latenteocupantes, &d.Iluminacion, &d.Equipos, &d.Lux,
-               &d.VEII, &d.VEIIMax, &d.EPotIluMax, &d.QOCUPSSimple, &d.QOCUPLSimple, &d.Nm2_p,
-               &d.RendVentToma, &d.SuperficieTotalHE5, &d.SuperficieCubiertaHE5,
-               &d.SuperficieCaptadorestermHE5});
+  Poner(v, 2,
+        {&d.Sensibleocupantes, &d.Latenteocupantes, &d.Iluminacion, &d.Equipos, &d.Lux, &d.VEII,
+         &d.VEIIMax, &d.EPotIluMax, &d.QOCUPSSimple, &d.QOCUPLSimple, &d.Nm2_p, &d.RendVentToma,
+         &d.SuperficieTotalHE5, &d.SuperficieCubiertaHE5, &d.SuperficieCaptadorestermHE5});
   for (auto& familia : d.perfiles.tabla)
     for (PerfilDiario& perfil : familia)
       for (std::size_t h = 1; h < perfil.size(); ++h) perfil[h] = v.Real(2);
@@ -87,15 +106,15 @@ void LlenarInstalaciones(DatosGenerales& d, Valores& v) {
   PonerTabla(v, 0, d.Incli_FV);
   d.N_colec_term = v.Entero();
   d.Tipo_Inst_ST = v.Entero();
-  Poner(v, 0, {&d.PSuciedad_FV, &d.PTcelula_FV, &d.PConversor_FV, &d.Incli_colec_term,
-               &d.Azimut_colec_term, &d.Volumen_Dep_ST, &d.LD_Dep_ST, &d.UA_Dep_ST,
-               &d.Caudal_Col_ST, &d.Caudal_Dep_ST, &d.Caudal_Rec_ST, &d.Efi_Inter_ST,
-               &d.Long_Tub_ST, &d.Control_Tmin_ST, &d.NVBloqueF, &d.Eficiencia_recuperador,
-               &d.Eficiencia_recuperador_Ental});
-  Poner(v, 2, {&d.Aporte_fotovoltaico_kwh_ano, &d.Aporte_solar_tanto_por_cien, &d.Sup_colec_term,
-               &d.PerdP_Col_ST, &d.PerdP_Dep_ST, &d.PerdP_Rec_ST, &d.PerdCalor_Tub_ST,
-               &d.Area_Serp_ST, &d.Valorn50, &d.ERelaMasa, &d.WRecuperador,
-               &d.ConsumoAgua_litros_dia});
+  Poner(v, 0,
+        {&d.PSuciedad_FV, &d.PTcelula_FV, &d.PConversor_FV, &d.Incli_colec_term,
+         &d.Azimut_colec_term, &d.Volumen_Dep_ST, &d.LD_Dep_ST, &d.UA_Dep_ST, &d.Caudal_Col_ST,
+         &d.Caudal_Dep_ST, &d.Caudal_Rec_ST, &d.Efi_Inter_ST, &d.Long_Tub_ST, &d.Control_Tmin_ST,
+         &d.NVBloqueF, &d.Eficiencia_recuperador, &d.Eficiencia_recuperador_Ental});
+  Poner(v, 2,
+        {&d.Aporte_fotovoltaico_kwh_ano, &d.Aporte_solar_tanto_por_cien, &d.Sup_colec_term,
+         &d.PerdP_Col_ST, &d.PerdP_Dep_ST, &d.PerdP_Rec_ST, &d.PerdCalor_Tub_ST, &d.Area_Serp_ST,
+         &d.Valorn50, &d.ERelaMasa, &d.WRecuperador, &d.ConsumoAgua_litros_dia});
   Poner(v, 4, {&d.AA_colec_term, &d.BB_colec_term, &d.CC_colec_term});
 }
 
@@ -111,9 +130,10 @@ void LlenarSitio(Edificio& e, Valores& v) {
   l.Cambio_zona_temperatura = "SI";
   e.SetLocalizacion(l);
   ObstaculosRemotos o;
-  Poner(v, 2, {&o.Oeste_Altura, &o.Oeste_Distancia, &o.SurOeste_Altura, &o.SurOeste_Distancia,
-               &o.Sur_Altura, &o.Sur_Distancia, &o.SurEste_Altura, &o.SurEste_Distancia,
-               &o.Este_Altura, &o.Este_Distancia});
+  Poner(v, 2,
+        {&o.Oeste_Altura, &o.Oeste_Distancia, &o.SurOeste_Altura, &o.SurOeste_Distancia,
+         &o.Sur_Altura, &o.Sur_Distancia, &o.SurEste_Altura, &o.SurEste_Distancia, &o.Este_Altura,
+         &o.Este_Distancia});
   e.SetObstaculosRemotos(o);
   Ventilacion ventilacion;
   for (TipologiaVivienda& t : ventilacion.tipologias)
@@ -140,9 +160,10 @@ void LlenarConstruccion(Edificio& e, Valores& v) {
   k.Def_Puentes_termicos_ventanas = 2;
   k.Clase_de_higrometria = v.Entero();
   k.Longitud_puentes_termicos_modo = v.Texto();
-  Poner(v, 2, {&k.Espesor_forjado, &k.Anchura_pilar, &k.Perimetro_forjados, &k.Perimetro_cubiertas,
-               &k.Longitud_esquinas_sal_menos_ent, &k.Perimetro_suelo_ext, &k.Perimetro_huecos,
-               &k.Perimetro_suelo_terreno});
+  Poner(v, 2,
+        {&k.Espesor_forjado, &k.Anchura_pilar, &k.Perimetro_forjados, &k.Perimetro_cubiertas,
+         &k.Longitud_esquinas_sal_menos_ent, &k.Perimetro_suelo_ext, &k.Perimetro_huecos,
+         &k.Perimetro_suelo_terreno});
   PonerTabla(v, 2, k.U_L_Puentes);
   PonerTabla(v, 2, k.fi_Puentes);
   PonerTabla(v, 2, k.Long_pilares);
@@ -164,8 +185,8 @@ void LlenarConstruccion(Edificio& e, Valores& v) {
   e.SetConstruccion(k);
 }
 
-// El recinto es un nombre seguido de reales y luego de enteros: se llena por sus bytes, y así ningún
-// área que se le añada se queda sin probar.
+// El recinto es un nombre seguido de reales y luego de enteros: se llena por sus bytes, y así
+// ningún área que se le añada se queda sin probar.
 void LlenarRecinto(Recinto& r, Valores& v) {
   static_assert(std::is_standard_layout_v<Recinto>);
   auto* bytes = reinterpret_cast<std::byte*>(&r);
@@ -185,13 +206,13 @@ void LlenarRecinto(Recinto& r, Valores& v) {
 Huecos GrupoLleno(Valores& v) {
   Huecos h;
   h.Nombre_hueco = v.Texto();
-  Poner(v, 2, {&h.Ancho_m, &h.Alto_m, &h.Distancia_alero_m, &h.Longitud_alero_m, &h.Retranqueo_m,
-               &h.U_cristal_W_m2K, &h.FS_cristal_tanto_por_uno, &h.U_marco_W_m2K,
-               &h.Fraccion_marco_tanto_por_cien, &h.Valor_multiplicativo_FS_verano,
-               &h.Valor_multiplicativo_FS_invierno, &h.Valor_multiplicativo_U_verano,
-               &h.Valor_multiplicativo_U_invierno, &h.Permeabilidad_Ventanas,
-               &h.U_Caja_de_persiana_W_m2K, &h.Vinf_Caja_de_persiana_m3_h,
-               &h.Altura_Caja_de_persiana_m});
+  Poner(v, 2,
+        {&h.Ancho_m, &h.Alto_m, &h.Distancia_alero_m, &h.Longitud_alero_m, &h.Retranqueo_m,
+         &h.U_cristal_W_m2K, &h.FS_cristal_tanto_por_uno, &h.U_marco_W_m2K,
+         &h.Fraccion_marco_tanto_por_cien, &h.Valor_multiplicativo_FS_verano,
+         &h.Valor_multiplicativo_FS_invierno, &h.Valor_multiplicativo_U_verano,
+         &h.Valor_multiplicativo_U_invierno, &h.Permeabilidad_Ventanas, &h.U_Caja_de_persiana_W_m2K,
+         &h.Vinf_Caja_de_persiana_m3_h, &h.Altura_Caja_de_persiana_m});
   h.Tipo_de_hueco = kEscaparate;
   h.Indice_tipo_cristal = 3;
   h.Indice_cristal_concreto = v.Entero();
@@ -223,12 +244,73 @@ void LlenarComposiciones(Edificio& e, Valores& v) {
     material m;
     Poner(v, {&m.Material, &m.Iniciales, &m.Nombre_material, &m.Grupo,
               &m.Pertenece_a_base_de_datos_CTE, &m.Aplicacion});
-    Poner(v, 3, {&m.Espesor, &m.Conductividad, &m.Densidad, &m.CalorEspecifico,
-                 &m.Resistencia_termica, &m.Resisvidad_relativa_vapor});
+    Poner(v, 3,
+          {&m.Espesor, &m.Conductividad, &m.Densidad, &m.CalorEspecifico, &m.Resistencia_termica,
+           &m.Resisvidad_relativa_vapor});
     e.AnadirMaterial(m, ranura);
     // Otra capa compartida, para que el orden dentro de la composición cuente.
     e.AnadirCapa(ranura, ranura / 2);
   }
+}
+
+void LlenarGenerador(Instalaciones& g, Valores& v) {
+  Poner(v, {&g.Seleccion,      &g.TipoInstalacionesG,
+            &g.TipoGenerador1, &g.TipoBC1,
+            &g.TipoGenerador2, &g.TipoBC12,
+            &g.Distribucion,   &g.Distribucion2,
+            &g.Retorno,        &g.Alimentacion,
+            &g.Alimentacion2,  &g.Alimentacion3,
+            &g.Alimentacion4,  &g.Emisor,
+            &g.ConsumoEmisor,  &g.CombCalor1,
+            &g.CombCalorBio1,  &g.CombCalor2,
+            &g.CombCalorBio2,  &g.CombEst,
+            &g.Fabricante,     &g.Modelo});
+  for (int* n : {&g.NEmisores, &g.NEquipos, &g.NHretorno, &g.Nradiadores}) *n = v.Entero();
+  Poner(v, 0,
+        {&g.TimpCalor, &g.saltoGenerador, &g.TimpACS, &g.TimpFrio, &g.saltoZona, &g.CaudalVent,
+         &g.SaltoPVent});
+  Poner(v, 1, {&g.EControlTe, &g.LD_deposito});
+  Poner(v, 2,
+        {&g.Long_tuberias,
+         &g.Pot_perdida_m_tub,
+         &g.Distanciaext_int,
+         &g.Perdida_m_tub_ext_int,
+         &g.Volumen,
+         &g.UA_deposito,
+         &g.TaltaD,
+         &g.TbajaD,
+         &g.AintermbD,
+         &g.AintermbD2,
+         &g.EfiIntercamb,
+         &g.rendVent,
+         &g.QcalorCaldera1,
+         &g.RendCalor1,
+         &g.RadiadorElectrico,
+         &g.QcalorCaldera2,
+         &g.RendCalor2,
+         &g.QcalorBC1,
+         &g.WeCalor1,
+         &g.QcalorBC2,
+         &g.WeCalor2,
+         &g.RendCalorEst,
+         &g.RendFrioEst,
+         &g.RendACSEst,
+         &g.SCOP,
+         &g.QFrioSen1,
+         &g.QFrioTot1,
+         &g.WeFrio1,
+         &g.QFrioSen2,
+         &g.QFrioTot2,
+         &g.WeFrio2,
+         &g.QApoyoEquipo,
+         &g.QApoyoTermo});
+  for (BombaCircuito* b : {&g.SBZ, &g.GEN1, &g.GEN2, &g.DEP, &g.INT, &g.RET})
+    *b = {v.Real(2), v.Real(b == &g.RET ? 0 : 1), v.Real(2), v.Real(2), v.Texto()};
+  // Las curvas son todo reales: se llenan por sus bytes.
+  static_assert(std::is_trivially_copyable_v<CurvasEquipo>);
+  std::array<float, sizeof(CurvasEquipo) / sizeof(float)> curvas{};
+  PonerTabla(v, 8, curvas);
+  std::memcpy(static_cast<void*>(&g.curvas), curvas.data(), sizeof curvas);
 }
 
 SistemaResidencial SistemaLleno(Valores& v, const std::string& tipo) {
@@ -236,16 +318,13 @@ SistemaResidencial SistemaLleno(Valores& v, const std::string& tipo) {
   s.Tipo_sistema = tipo;
   s.Nombre_sistema = v.Texto();
   Poner(v, 2, {&s.Sup_ACS, &s.Sup_Calefaccion, &s.Sup_Refrigeracion});
-  Instalaciones generador;
-  generador.Seleccion = v.Texto();
-  generador.TipoInstalacionesG = v.Texto();
-  generador.campos = {{"SCOP", {{"name", "2.65"}}, "", {}},
-                      {"Nuevo", {{"a", v.Texto()}, {"b", "x"}}, "", {}},
-                      {"ConTexto", {}, v.Texto(), {}},
-                      {"Rama", {}, "", {{"Hoja", {{"name", v.Texto()}}, "", {}}}},
-                      {"Fabricante", {{"name", "Defecto"}}, "", {}},
-                      {"cC0", {{"name", "1.06000000"}}, "", {}}};
-  s.instalaciones = {generador};
+  Instalaciones g;
+  LlenarGenerador(g, v);
+  // Elementos que el registro no conoce.
+  g.campos = {{"Nuevo", {{"a", v.Texto()}, {"b", "x"}}, "", {}},
+              {"ConTexto", {}, v.Texto(), {}},
+              {"Rama", {}, "", {{"Hoja", {{"name", v.Texto()}}, "", {}}}}};
+  s.instalaciones = {g};
   return s;
 }
 
@@ -276,9 +355,10 @@ DatosDerivados::Caso ResultadosDePrueba(int semilla) {
   Valores v(semilla);
   DatosDerivados::Caso r;
   PonerTabla(v, 2, r.UCTE);
-  Poner(v, 2, {&r.WBombCAPST, &r.WBombDEPST, &r.WBombRECST, &r.WEnergiaFinalVent,
-               &r.WEnergiaFinalVentUTC, &r.WEnergiaFinalVentUTR, &r.ConsumoVentilacionAExt,
-               &r.Caudal2Vent, &r.PotenciaEspecificaVent, &r.CargaInternaMedia});
+  Poner(v, 2,
+        {&r.WBombCAPST, &r.WBombDEPST, &r.WBombRECST, &r.WEnergiaFinalVent, &r.WEnergiaFinalVentUTC,
+         &r.WEnergiaFinalVentUTR, &r.ConsumoVentilacionAExt, &r.Caudal2Vent,
+         &r.PotenciaEspecificaVent, &r.CargaInternaMedia});
   return r;
 }
 

@@ -20,8 +20,8 @@ class Valores {
   int n_;
 };
 
-/// Llena todos los campos de un caso en blanco que el fichero de proyecto guarda, con valores distintos
-/// de los del caso en blanco. Con semillas distintas los valores lo son.
+/// Llena todos los campos de un caso en blanco que el fichero de proyecto guarda, con valores
+/// distintos de los del caso en blanco. Con semillas distintas los valores lo son.
 void LlenarCaso(Edificio& edificio, int semilla);
 
 /// Resultados con todos los valores distintos de 0.

@@ -9,9 +9,13 @@ namespace novex {
 namespace {
 
 // Los ejemplos de RFC 4648.
-const std::vector<std::pair<std::string, std::string>> kEjemplos = {
-    {"", ""},           {"f", "Zg=="},         {"fo", "Zm8="},        {"foo", "Zm9v"},
-    {"foob", "Zm9vYg=="}, {"fooba", "Zm9vYmE="}, {"foobar", "Zm9vYmFy"}};
+const std::vector<std::pair<std::string, std::string>> kEjemplos = {{"", ""},
+                                                                    {"f", "Zg=="},
+                                                                    {"fo", "Zm8="},
+                                                                    {"foo", "Zm9v"},
+                                                                    {"foob", "Zm9vYg=="},
+                                                                    {"fooba", "Zm9vYmE="},
+                                                                    {"foobar", "Zm9vYmFy"}};
 
 TEST(Base64, LosEjemplosDeLaNormaEnLosDosSentidos) {
   for (const auto& [bytes, texto] : kEjemplos) {

@@ -28,9 +28,9 @@ TEST(CodificacionXml, SinDeclaracionDecidenLosBytes) {
 
 TEST(CodificacionXml, LaDeclaracionSeComparaPorSuComienzo) {
   const auto con = [](std::string_view nombre, std::string_view resto, CodificacionXml antes) {
-    return Deducida("<?xml version=\"1.0\" encoding=\"" + std::string(nombre) + "\"?>" +
-                        std::string(resto),
-                    antes);
+    return Deducida(
+        "<?xml version=\"1.0\" encoding=\"" + std::string(nombre) + "\"?>" + std::string(resto),
+        antes);
   };
   EXPECT_EQ(con("UTF-8", "<a/>", kLegado), kUtf8);
   EXPECT_EQ(con("utf8", "<a/>", kLegado), kUtf8);

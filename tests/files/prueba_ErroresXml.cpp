@@ -99,7 +99,8 @@ TEST(ErroresXml, ElNumeroDeElementosTieneLimite) {
 
 TEST(ErroresXml, TodoTrozoDeUnDocumentoFallaSinRomperNada) {
   const std::string entero =
-      "<?xml version=\"1.0\"?>\n<a n=\"1\">\n<!-- c --><b m='&amp;x'>t&#233;</b><![CDATA[z]]><c/></a>";
+      "<?xml version=\"1.0\"?>\n<a n=\"1\">\n<!-- c --><b "
+      "m='&amp;x'>t&#233;</b><![CDATA[z]]><c/></a>";
   for (std::size_t n = 0; n < entero.size(); ++n)
     EXPECT_NE(FalloDe(entero.substr(0, n)).codigo, 0) << entero.substr(0, n);
   EXPECT_EQ(FalloDe(entero).codigo, 0);

@@ -57,8 +57,9 @@ TEST(XMLNode, ElRecorridoPorNombrePasaPorTodosYNoMiraMayusculas) {
 }
 
 TEST(XMLNode, LosTextosPierdenLosBlancosYUnenSusTrozos) {
-  const XMLNode a = Leer("<a>\n\t <b> dos palabras \r\n</b> \t <c>uno <!-- x --> <!-- y --> dos</c>"
-                         "<d> <!-- nada --> </d><e>1<f/> 2 </e><g>&#32;z&#32;</g></a>");
+  const XMLNode a = Leer(
+      "<a>\n\t <b> dos palabras \r\n</b> \t <c>uno <!-- x --> <!-- y --> dos</c>"
+      "<d> <!-- nada --> </d><e>1<f/> 2 </e><g>&#32;z&#32;</g></a>");
   EXPECT_EQ(a.textCount(), 0U);
   EXPECT_EQ(*a.childNamed("b").textAt(0), "dos palabras");
   EXPECT_EQ(a.childNamed("c").textCount(), 1U);
@@ -124,7 +125,8 @@ TEST(XMLNode, CambiarElBloqueSoloTocaElPrimero) {
 TEST(XMLNode, UnHijoViveAunqueSuPadreNoTengaAsa) {
   XMLNode b;
   {
-    const XMLNode a = Leer("<a><b name=\"un texto más largo que una cadena corta &amp; más\"/></a>");
+    const XMLNode a =
+        Leer("<a><b name=\"un texto más largo que una cadena corta &amp; más\"/></a>");
     b = a.childAt(0);
   }
   EXPECT_EQ(*b.attributeValue("name"), "un texto más largo que una cadena corta & más");

@@ -1,0 +1,264 @@
+#include "systems/Despacho.h"
+
+#include <algorithm>
+
+#include "systems/Calefaccion.h"
+#include "systems/Refrigeracion.h"
+
+namespace novex {
+namespace {
+
+constexpr float kDespreciable = 0.001F;  // kW
+
+float Cociente(float a, float b) {
+  return b == 0.0F ? 0.0F : a / b;
+}
+
+}  // namespace
+
+struct Despacho::Bloque {
+  GeneradorPreparado generador;
+  std::unique_ptr<HoraACS> acs;
+  std::size_t indice;
+};
+
+struct Despacho::Sistema {
+  SistemaResidencial* datos;
+  TipoSistema tipo;
+  bool deAire;
+  std::vector<std::unique_ptr<Bloque>> bloques;
+};
+
+// Frío de la hora.
+struct Despacho::Totales {
+  float frioTotal = 0, frioSensible = 0;
+};
+
+Despacho::Despacho(Edificio& edificio, const AjustesUso& ajustes, calculo& caso, Mensajes& mensajes)
+    : edificio_(edificio),
+      ajustes_(ajustes),
+      caso_(caso),
+      superficie_(edificio.GetRecinto(0).Suelo_habitable_m2) {
+  for (std::size_t n = 0; n < edificio.NumeroSistemas(); ++n) {
+    SistemaResidencial& datos = edificio.GetSistema(n);
+    if (datos.instalaciones.empty()) continue;
+    auto sistema = std::make_unique<Sistema>();
+    sistema->datos = &datos;
+    sistema->tipo = TipoSistemaDe(datos.Tipo_sistema);
+    const Instalaciones& primera = datos.instalaciones.front();
+    sistema->deAire = EmisorDeVentilacion(primera.Emisor) ||
+                      ClaseGeneradorDe(primera.Seleccion) == ClaseGenerador::Rooftop;
+    for (const Instalaciones& i : datos.instalaciones) {
+      haySistemasDeAire_ = haySistemasDeAire_ || EmisorDeVentilacion(i.Emisor) ||
+                           ClaseGeneradorDe(i.Seleccion) == ClaseGenerador::Rooftop;
+      auto bloque = std::make_unique<Bloque>(Bloque{
+          GeneradorPreparado(edificio, datos, i, static_cast<int>(n) + 1), nullptr, sumas_.size()});
+      if (DaACS(sistema->tipo))
+        bloque->acs =
+            std::make_unique<HoraACS>(edificio, bloque->generador, estadoSolar_, caso, mensajes);
+      sumas_.emplace_back();
+      sistema->bloques.push_back(std::move(bloque));
+    }
+    sistemas_.push_back(std::move(sistema));
+  }
+  conEtapaDeAire_ = haySistemasDeAire_ && ajustes.aire != SistemaAire::UTA;
+  RepartirSuperficies();
+}
+
+Despacho::~Despacho() = default;
+
+float Despacho::Potencia(const Sistema& s, Servicio servicio) const {
+  const Bloque& b = *s.bloques.front();
+  const Instalaciones& i = *b.generador.datos;
+  const auto n = static_cast<float>(i.NEquipos);
+  const ClaseGenerador c = b.generador.clase;
+  if (servicio == kRefrigeracion) return DaRefrigeracion(s.tipo) ? n * i.QFrioTot1 : 0.0F;
+  if (!DaCalefaccion(s.tipo)) return 0.0F;
+  if (EsAireAire(c)) return n * i.QcalorBC1;
+  switch (c) {
+    case ClaseGenerador::Caldera:
+    case ClaseGenerador::CalderaMixta:
+      return n * i.QcalorCaldera1;
+    case ClaseGenerador::BombaCalor:
+      return n * i.QcalorBC1;
+    case ClaseGenerador::BombaCalorCaldera:
+      return n * 0.5F * (i.QcalorCaldera1 + i.QcalorBC1);
+    case ClaseGenerador::Radiadores:
+      return n * i.RadiadorElectrico;
+    default:
+      return 0.0F;
+  }
+}
+
+void Despacho::RepartirSuperficies() {
+  // [de aire][servicio]: los sistemas de ventilación y los de zona reparten cada uno la superficie.
+  std::array<CargasHora, 2> total{};
+  const auto estacional = [](const Sistema& s) {
+    return EsEstacional(s.bloques.front()->generador.clase);
+  };
+  for (const auto& s : sistemas_) {
+    if (estacional(*s)) continue;
+    const bool deAire = s->deAire;
+    total[deAire][kCalefaccion] += Potencia(*s, kCalefaccion);
+    total[deAire][kRefrigeracion] += Potencia(*s, kRefrigeracion);
+  }
+  for (const auto& s : sistemas_) {
+    SistemaResidencial& d = *s->datos;
+    if (estacional(*s)) {
+      d.Sup_Calefaccion = DaCalefaccion(s->tipo) ? superficie_ : 0.0F;
+      d.Sup_Refrigeracion = DaRefrigeracion(s->tipo) ? superficie_ : 0.0F;
+    } else {
+      const CargasHora& grupo = total[s->deAire];
+      d.Sup_Calefaccion = superficie_ * Cociente(Potencia(*s, kCalefaccion), grupo[kCalefaccion]);
+      d.Sup_Refrigeracion =
+          superficie_ * Cociente(Potencia(*s, kRefrigeracion), grupo[kRefrigeracion]);
+    }
+    servida_[kACS] += d.Sup_ACS;
+    servida_[kCalefaccion] += d.Sup_Calefaccion;
+    servida_[kRefrigeracion] += d.Sup_Refrigeracion;
+  }
+  for (float& area : servida_) area = std::min(area, superficie_);
+}
+
+void Despacho::Contabilizar(Bloque& b, const HoraSistemas& hora, const RespuestaHora& r) {
+  TablasMensuales& meses = caso_.meses;
+  const GeneradorPreparado& g = b.generador;
+  SumasBloque& suma = sumas_[b.indice];
+  const auto anotar = [&](const std::optional<VectorEnergetico>& v, std::size_t s, float consumo) {
+    if (v && Indice(*v) < kVectoresConsumo)
+      SumarMes(meses.consumo[Indice(*v)][s], hora.mes, consumo);
+  };
+  for (std::size_t s = 0; s < kServiciosDemanda; ++s) {
+    anotar(g.vector1, s, r.consumo1[s]);
+    anotar(g.vector2, s, r.consumo2[s]);
+    SumarMes(meses.ambiente[s], hora.mes, r.ambiente[s]);
+    SumarMes(meses.bombas[s], hora.mes, r.bombas[s] * 0.001F);
+    SumarMes(meses.ventiladores[s], hora.mes, r.ventiladores[s] * 0.001F);
+    suma.dado[0][s] += r.dado[s] - r.dado2[s];
+    suma.dado[1][s] += r.dado2[s];
+    suma.consumo[0][s] += r.consumo1[s];
+    suma.consumo[1][s] += r.consumo2[s];
+  }
+  SumarMes(meses.calorBiomasa, hora.mes, r.calorBiomasa);
+}
+
+void Despacho::ContabilizarACS(const HoraSistemas& hora, const ResultadoACS& acs) {
+  TablasMensuales& meses = caso_.meses;
+  SumarMes(meses.perdidaDeposito, hora.mes, acs.perdidaDeposito);
+  SumarMes(meses.perdidaRetorno, hora.mes, acs.perdidaRetorno);
+  if (!acs.contabilizaSolar) return;
+  SumarMes(meses.solarCaptada, hora.mes, acs.captada);
+  SumarMes(meses.perdidaDepositoSolar, hora.mes, acs.perdidaSolar);
+  SumarMes(meses.perdidaTuberiaCaptador, hora.mes, acs.perdidaTuberia);
+  SumarMes(meses.irradiacionCaptadores, hora.mes, acs.irradiacion);
+}
+
+RespuestaHora Despacho::CorrerSistema(Sistema& s, const HoraSistemas& hora,
+                                      const CargasHora& cargas, Totales& totales) {
+  RespuestaHora ultima;
+  ultima.noDado = cargas;
+  for (const auto& bloque : s.bloques) {
+    RespuestaHora r;
+    r.noDado = cargas;
+    if (bloque->acs)
+      ContabilizarACS(hora, HoraAguaCaliente(bloque->generador, *bloque->acs, hora, caso_,
+                                             cargas[kCalefaccion], r));
+    else if (DaCalefaccion(s.tipo) && cargas[kCalefaccion] > 0.0F)
+      HoraCalor(bloque->generador, hora, 0.0F, cargas[kCalefaccion], r);
+    if (DaRefrigeracion(s.tipo)) HoraFrio(bloque->generador, hora, cargas[kRefrigeracion], r);
+    totales.frioTotal += r.frioTotal;
+    totales.frioSensible += r.dado[kRefrigeracion];
+    Contabilizar(*bloque, hora, r);
+    ultima = r;
+  }
+  return ultima;
+}
+
+CargasHora Despacho::EtapaDeAire(const HoraSistemas& hora, float ventilacion, Totales& totales) {
+  CargasHora sinDar{};
+  for (const auto& s : sistemas_) {
+    if (!s->deAire) continue;
+    CargasHora cargas{};
+    if (ventilacion > 0.0F)
+      cargas[kCalefaccion] =
+          Cociente(ventilacion * s->datos->Sup_Calefaccion, servida_[kCalefaccion]);
+    if (ventilacion < 0.0F)
+      cargas[kRefrigeracion] =
+          Cociente(-ventilacion * s->datos->Sup_Refrigeracion, servida_[kRefrigeracion]);
+    const RespuestaHora r = CorrerSistema(*s, hora, cargas, totales);
+    sinDar[kCalefaccion] += r.noDado[kCalefaccion];
+    sinDar[kRefrigeracion] += r.noDado[kRefrigeracion];
+  }
+  return sinDar;
+}
+
+ResultadoDespacho Despacho::Hora(const HoraSistemas& hora) {
+  const SeriesZona& zona = caso_.zona;
+  const float A = superficie_;
+  const float calefaccion = zona.cargaCalefaccion[hora.h];
+  const float refrigeracion = zona.cargaRefrigeracion[hora.h];
+  const float ventilacion = zona.DVENT[hora.h];
+  const float demandaACS = zona.DACS[hora.h];
+  const CargasHora& S = servida_;
+  Totales totales;
+
+  CargasHora deAire{};
+  if (conEtapaDeAire_) deAire = EtapaDeAire(hora, ventilacion, totales);
+  CargasHora porDar{};
+  porDar[kACS] = demandaACS * S[kACS] / A;
+  const bool aireCalor = conEtapaDeAire_ && ventilacion > 0.0F;
+  const bool aireFrio = conEtapaDeAire_ && !aireCalor;
+  porDar[kCalefaccion] =
+      aireCalor ? deAire[kCalefaccion] - (calefaccion + ventilacion) * S[kCalefaccion] / A
+                : -calefaccion * S[kCalefaccion] / A;
+  porDar[kRefrigeracion] =
+      aireFrio ? deAire[kRefrigeracion] + (refrigeracion + ventilacion) * S[kRefrigeracion] / A
+               : refrigeracion * S[kRefrigeracion] / A;
+
+  // A cada sistema le toca su parte y lo que los anteriores no han alcanzado.
+  CargasHora resto = porDar;
+  CargasHora pendiente = deAire;
+  const bool uta = ajustes_.aire == SistemaAire::UTA;
+  const float ventilacionZona = !uta && haySistemasDeAire_ ? ventilacion : 0.0F;
+  for (const auto& s : sistemas_) {
+    if (s->deAire && !uta) continue;
+    CargasHora parte{};
+    parte[kACS] = Cociente(s->datos->Sup_ACS * porDar[kACS], S[kACS]);
+    if (calefaccion != 0.0F && s->datos->Sup_Calefaccion != 0.0F)
+      parte[kCalefaccion] =
+          -(calefaccion + ventilacionZona) * s->datos->Sup_Calefaccion / S[kCalefaccion] +
+          pendiente[kCalefaccion];
+    if (refrigeracion != 0.0F && s->datos->Sup_Refrigeracion != 0.0F)
+      parte[kRefrigeracion] =
+          (refrigeracion + ventilacionZona) * s->datos->Sup_Refrigeracion / S[kRefrigeracion] +
+          pendiente[kRefrigeracion];
+    CargasHora cargas{};
+    for (std::size_t k = 0; k < kServiciosDemanda; ++k)
+      cargas[k] = std::clamp(parte[k], 0.0F, std::max(0.0F, resto[k]));
+    const RespuestaHora r = CorrerSistema(*s, hora, cargas, totales);
+    for (std::size_t k = 0; k < kServiciosDemanda; ++k) {
+      resto[k] += r.noDado[k] - cargas[k];
+      if (cargas[k] > 0.0F) pendiente[k] = std::max(0.0F, parte[k] - cargas[k]) + r.noDado[k];
+    }
+  }
+
+  ResultadoDespacho salida;
+  const float cargaFueraCal =
+      haySistemasDeAire_ && calefaccion != 0.0F ? -(calefaccion + ventilacion) : -calefaccion;
+  const float cargaFueraRef =
+      haySistemasDeAire_ && refrigeracion != 0.0F ? refrigeracion + ventilacion : refrigeracion;
+  const CargasHora fuera = {(A - S[kACS]) * demandaACS / A,
+                            (A - S[kCalefaccion]) * cargaFueraCal / A,
+                            (A - S[kRefrigeracion]) * cargaFueraRef / A};
+  for (std::size_t k = 0; k < kServiciosDemanda; ++k) {
+    salida.sinCubrir[k] = resto[k] < kDespreciable ? 0.0F : resto[k];
+    salida.defecto[k] = salida.sinCubrir[k] + fuera[k];
+    SumarMes(caso_.meses.servida[k], hora.mes, porDar[k] - salida.sinCubrir[k]);
+    caso_.resultados.noServido[k] += fuera[k];
+    caso_.resultados.noCubierto[k] += salida.sinCubrir[k];
+  }
+  salida.frioLatente = (totales.frioTotal - totales.frioSensible) * 1000.0F;
+  return salida;
+}
+
+}  // namespace novex

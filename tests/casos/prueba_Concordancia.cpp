@@ -1,0 +1,124 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdlib>
+#include <iostream>
+
+#include "base/NumeroTexto.h"
+#include "casos/CasoPrueba.h"
+#include "files/ProyectoFichero.h"
+#include "rating/Escala.h"
+
+namespace novex {
+namespace {
+
+using pruebas::CarpetaCasos;
+using pruebas::CasoPrueba;
+using pruebas::Comparacion;
+
+bool ListaCorta() {
+  const char* casos = std::getenv("NOVEX_CASOS");
+  return casos != nullptr && std::string_view(casos) == "corta";
+}
+
+std::vector<std::string> Viviendas() {
+  std::vector<std::string> nombres = pruebas::NombresCasos('v');
+  if (ListaCorta()) nombres.resize(1);
+  return nombres;
+}
+
+// Una fila de la tabla de contraste por magnitud, con su peor diferencia.
+void ImprimirContraste(const std::string& caso, const std::vector<Comparacion>& todas) {
+  const char* pedido = std::getenv("NOVEX_CONTRASTE");
+  if (pedido == nullptr || std::string_view(pedido) != "1") return;
+  for (const Comparacion& c : pruebas::Peores(todas)) {
+    const double relativa =
+        c.esperado == 0.0 ? 0.0 : 100.0 * c.Diferencia() / std::fabs(c.esperado);
+    std::cout << "CONTRASTE;" << caso << ';' << c.grupo << ';' << c.detalle << ';'
+              << Fijo(c.esperado, 4) << ';' << Fijo(c.obtenido, 4) << ';' << Fijo(relativa, 3)
+              << ';' << Fijo(100.0 * c.Razon(), 1) << '\n';
+  }
+}
+
+void EsperarAcuerdo(const std::vector<Comparacion>& todas) {
+  ASSERT_FALSE(todas.empty());
+  for (const Comparacion& c : pruebas::Peores(todas))
+    EXPECT_LE(c.Razon(), 1.0) << c.grupo << ", " << c.detalle << ": esperado " << c.esperado
+                              << ", obtenido " << c.obtenido << ", tolerancia " << c.tolerancia;
+}
+
+class Vivienda : public testing::TestWithParam<std::string> {};
+
+// Frente a un cálculo independiente del mismo proyecto y el mismo clima.
+TEST_P(Vivienda, ConcuerdaConElCalculoIndependiente) {
+  const nlohmann::json esperado = pruebas::LeerEsperado(GetParam());
+  const CasoPrueba caso(GetParam(), CarpetaCasos() / "programa");
+  ASSERT_TRUE(caso.calculado);
+  EXPECT_TRUE(caso.mensajes.recibidos.empty());
+  const ResultadosCaso& r = caso.Resultado().resultados;
+
+  const auto anuales = pruebas::CompararResultados(esperado, caso);
+  ImprimirContraste(GetParam(), anuales);
+  EsperarAcuerdo(anuales);
+  if (std::filesystem::exists(CarpetaCasos() / "esperado" / (GetParam() + ".csv"))) {
+    const auto horarias = pruebas::CompararSeries(GetParam(), caso);
+    ImprimirContraste(GetParam(), horarias);
+    EsperarAcuerdo(horarias);
+  }
+
+  for (const auto& [clave, letra] : esperado.at("letras").items()) {
+    // Sin los calentadores simulados, el agua caliente y los totales no llevan su letra.
+    if (clave.ends_with("ACS") || clave.ends_with("Totales")) continue;
+    const auto i = static_cast<std::size_t>(IndicadorDeClave(clave));
+    EXPECT_EQ(r.escala.letra[i], letra.get<std::string>()) << clave;
+  }
+  EXPECT_EQ(r.horasOcupacion, esperado.at("horas_ocupacion").get<float>());
+  EXPECT_EQ(r.horasFueraCalefaccion, 0.0F);
+  EXPECT_EQ(r.horasFueraRefrigeracion, 0.0F);
+}
+
+// El equipo por defecto de una vivienda es una caldera de gas de rendimiento 0,92.
+TEST_P(Vivienda, ElAguaCalienteLaDaElEquipoPorDefecto) {
+  const CasoPrueba caso(GetParam(), CarpetaCasos() / "programa");
+  ASSERT_TRUE(caso.calculado);
+  const ResultadosCaso& r = caso.Resultado().resultados;
+  const float area = caso.Viejo().GetRecinto(0).Suelo_habitable_m2;
+  ASSERT_GT(r.demandaACS, 10.0F);
+  const float final = r.demandaACS / 0.92F;
+  EXPECT_NEAR(r.servicio[kACS].porUnidad[kFinal][0], final, 1e-4F * final);
+  const auto& vectores = r.servicio[kACS].finalPorVector;
+  EXPECT_NEAR(vectores[Indice(VectorEnergetico::GasNatural)][0] / area, final, 1e-4F * final);
+  float suma = 0;
+  for (const TablaMensual& vector : vectores) suma += std::fabs(vector[0]);
+  EXPECT_EQ(suma, vectores[Indice(VectorEnergetico::GasNatural)][0]);
+}
+
+INSTANTIATE_TEST_SUITE_P(Casos, Vivienda, testing::ValuesIn(Viviendas()),
+                         [](const auto& parametro) { return parametro.param; });
+
+TEST(ProyectosDeCaso, TodosSeLeenEnterosYSinAvisos) {
+  std::size_t leidos = 0;
+  for (const char clase : {'v', 's', 't'})
+    for (const std::string& nombre : pruebas::NombresCasos(clase)) {
+      SCOPED_TRACE(nombre);
+      GestorEdifActivo gestor;
+      RegistroMensajes mensajes;
+      const ProyectoAbierto abierto = AbrirProyecto(
+          gestor, CarpetaCasos() / "proyectos" / (nombre + ".xml"), ModoApertura::Nuevo, mensajes);
+      EXPECT_THAT(abierto.casos, testing::ElementsAre(caso::kViejo));
+      EXPECT_TRUE(abierto.casosSinUso.empty());
+      EXPECT_TRUE(mensajes.recibidos.empty()) << mensajes.recibidos.front().texto;
+      const nlohmann::json esperado = pruebas::LeerEsperado(nombre);
+      const Edificio& edificio = gestor.Activo();
+      EXPECT_EQ(edificio.GetLocalizacion().ZonaClimatica, esperado.at("zona"));
+      EXPECT_EQ(edificio.GetDatosGenerales().PerfilUso, esperado.at("perfil_uso"));
+      EXPECT_FLOAT_EQ(edificio.GetRecinto(0).Suelo_habitable_m2, esperado.at("superficie_m2"));
+      EXPECT_FLOAT_EQ(edificio.GetRecinto(0).Volumen_total_m3, esperado.at("volumen_m3"));
+      ++leidos;
+    }
+  EXPECT_EQ(leidos, 14U);
+}
+
+}  // namespace
+}  // namespace novex

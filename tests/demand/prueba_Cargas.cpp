@@ -1,0 +1,208 @@
+#include "demand/Cargas.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <memory>
+#include <numeric>
+
+#include "demand/Convolucion.h"
+#include "model/Edificio.h"
+
+namespace novex {
+namespace {
+
+TEST(ConvolucionPeriodica, ElAnoSeRepite) {
+  SerieHoraria serie;
+  serie[8760] = 10;
+  const std::array<float, 3> pesos = {0.5F, 0.3F, 0.2F};
+  ConvolucionPeriodica(serie, pesos, serie);
+  EXPECT_FLOAT_EQ(serie[8760], 5);
+  EXPECT_FLOAT_EQ(serie[1], 3);
+  EXPECT_FLOAT_EQ(serie[2], 2);
+  EXPECT_FLOAT_EQ(std::accumulate(serie.begin() + 1, serie.end(), 0.0F), 10);
+}
+
+TEST(RedondearSerie, ElDecimalMasCercanoConEmpatesAlPar) {
+  SerieHoraria serie;
+  serie[1] = 0.125F;
+  serie[2] = 0.375F;
+  serie[3] = -7.126F;
+  serie[4] = -0.004F;
+  RedondearSerie(serie, 2);
+  EXPECT_EQ(serie[1], 0.12F);
+  EXPECT_EQ(serie[2], 0.38F);
+  EXPECT_EQ(serie[3], -7.13F);
+  EXPECT_EQ(serie[4], 0.0F);
+  serie[1] = 0.0123456F;
+  RedondearSerie(serie, 5);
+  EXPECT_EQ(serie[1], 0.01235F);
+}
+
+class RetardoRadiante : public testing::Test {
+ protected:
+  std::unique_ptr<SeriesCarga> carga = std::make_unique<SeriesCarga>();
+  std::unique_ptr<SeriesClima> clima = std::make_unique<SeriesClima>();
+};
+
+TEST_F(RetardoRadiante, UnaCargaConstanteQuedaComoEstaba) {
+  for (SerieHoraria* s : {&carga->QOCUPSh, &carga->QILUh, &carga->QEQh, &clima->MLIGERO[este],
+                          &clima->CLIGEROH, &clima->COND})
+    std::fill(s->begin() + 1, s->end(), 12.34F);
+  AplicarRetardoRadiante(*carga, *clima);
+  for (const int h : {1, 22, 4000, 8760}) {
+    EXPECT_EQ(carga->QOCUPSh[h], 12.34F);
+    EXPECT_EQ(carga->QILUh[h], 12.34F);
+    EXPECT_EQ(carga->QEQh[h], 12.34F);
+    EXPECT_EQ(clima->MLIGERO[este][h], 12.34F);
+    EXPECT_EQ(clima->CLIGEROH[h], 12.34F);
+    EXPECT_EQ(clima->COND[h], 12.34F);
+  }
+}
+
+TEST_F(RetardoRadiante, UnPulsoLlegaEnVeintiunaHoras) {
+  carga->QOCUPSh[8760] = carga->QOCUPShT[8760] = carga->latente[8760] = 100;
+  carga->QILUh[8760] = carga->QEQh[8760] = 100;
+  clima->MLIGERO[sur][8760] = clima->SUELOEXT[8760] = clima->CLIGERO[sur][8760] = 100;
+  clima->COND[8760] = 100;
+  AplicarRetardoRadiante(*carga, *clima);
+  // En la hora, la parte convectiva y el 31 % de la radiante; en la siguiente, el 16 %.
+  const auto esperar = [](const SerieHoraria& s, float enHora, float despues) {
+    EXPECT_FLOAT_EQ(s[8760], enHora);
+    EXPECT_FLOAT_EQ(s[1], despues);
+  };
+  esperar(carga->QOCUPSh, 58.6F, 9.6F);
+  esperar(carga->QILUh, 44.8F, 12.8F);
+  esperar(carga->QEQh, 93.1F, 1.6F);
+  esperar(clima->MLIGERO[sur], 68.26F, 7.36F);
+  esperar(clima->SUELOEXT, 68.26F, 7.36F);
+  esperar(clima->CLIGERO[sur], 58.6F, 9.6F);
+  esperar(clima->COND, 77.23F, 5.28F);
+  EXPECT_FLOAT_EQ(carga->QOCUPSh[20], 0.6F);
+  EXPECT_EQ(carga->QOCUPSh[21], 0.0F);
+  EXPECT_NEAR(std::accumulate(carga->QOCUPSh.begin(), carga->QOCUPSh.end(), 0.0), 100, 1e-3);
+  // Ni lo programado ni lo latente se retrasan.
+  EXPECT_EQ(carga->QOCUPShT[8760], 100.0F);
+  EXPECT_EQ(carga->latente[8760], 100.0F);
+}
+
+// Los horarios dan en cada familia, clase y hora un número distinto.
+class Horarios : public testing::Test {
+ protected:
+  Horarios() {
+    for (std::size_t f = 0; f < kFamilias; ++f)
+      for (std::size_t k = 0; k < kClasesDia; ++k)
+        for (std::size_t d = 1; d <= 24; ++d) g.perfiles.tabla[f][k][d] = Valor(f, k, d);
+    g.perfiles.calendario.fill(1);
+    g.perfiles.calendario[180] = 0;  // 30 de junio
+    g.perfiles.calendario[181] = 9;  // 1 de julio
+    for (std::size_t m = 1; m <= 12; ++m) g.perfiles.AccionMes[m] = "Cale+Refri";
+    g.perfiles.AccionMes[1] = "Sólo Cale";
+    g.perfiles.AccionMes[7] = "Sólo Refri";
+    g.perfiles.AccionMes[10] = "Nada";
+    g.ManejoVentanas2 = "Abiertas";
+    lugar.mesmin = 6;
+    lugar.mesmax = 9;
+  }
+  static float Valor(std::size_t f, std::size_t k, std::size_t d) {
+    return static_cast<float>(f * 1000 + k * 100 + d);
+  }
+  SeriesCarga Generar(int perfil) {
+    g.PerfilUso = perfil;
+    Edificio edificio;
+    edificio.SetDatosGenerales(g);
+    edificio.SetLocalizacion(lugar);
+    SeriesCarga carga;
+    GenerarCargas(g, ResolverAjustes(edificio), carga);
+    return carga;
+  }
+  static int Hora(int dia, int d) { return (dia - 1) * 24 + d; }
+
+  DatosGenerales g;
+  Localizacion lugar;
+};
+
+TEST_F(Horarios, ResidencialesEnW) {
+  const SeriesCarga carga = Generar(2);
+  const int h = Hora(182, 15);
+  EXPECT_EQ(carga.QOCUPSh[h], Valor(C1, 8, 15));
+  EXPECT_EQ(carga.latente[h], Valor(C2, 8, 15));
+  EXPECT_EQ(carga.QILUh[h], Valor(CIlu, 8, 15));
+  EXPECT_EQ(carga.QEQh[h], Valor(CEq, 8, 15));
+  EXPECT_EQ(carga.NRR[h], Valor(CNR, 8, 15));
+  EXPECT_EQ(carga.CCAC[h], Valor(CCAC, 8, 15));
+  EXPECT_EQ(carga.QOCUPShT[h], carga.QOCUPSh[h]);
+  EXPECT_EQ(carga.QOCUPSh[Hora(182, 1)], Valor(C1, 8, 1));
+  EXPECT_EQ(carga.QOCUPSh[Hora(183, 24)], Valor(C1, 0, 24));
+}
+
+TEST_F(Horarios, TerciariosEnTantoPorCientoDelPico) {
+  g.Sensibleocupantes = 6;
+  g.Latenteocupantes = 4;
+  g.Iluminacion = 10;
+  g.Equipos = 0.5F;
+  SeriesCarga carga = Generar(3);
+  const int h = Hora(40, 10);
+  EXPECT_FLOAT_EQ(carga.QOCUPSh[h], 0.06F * Valor(C1, 0, 10));
+  EXPECT_FLOAT_EQ(carga.latente[h], 0.04F * Valor(C2, 0, 10));
+  EXPECT_FLOAT_EQ(carga.QILUh[h], 0.1F * Valor(CIlu, 0, 10));
+  EXPECT_FLOAT_EQ(carga.QEQh[h], 0.005F * Valor(CEq, 0, 10));
+  EXPECT_EQ(carga.NRR[h], Valor(CNR, 0, 10));
+  // Con sonda de CO2 la ventilación sigue a la ocupación, salvo con tomas en cada unidad.
+  g.TipoCO2 = "SondaCO2 con freecooling";
+  EXPECT_EQ(Generar(3).NRR[h], Valor(CNR, 0, 10));
+  g.ManejoVentilacion = "UTA";
+  EXPECT_EQ(Generar(3).NRR[h], Valor(C1, 0, 10));
+}
+
+TEST_F(Horarios, VentanasAbiertasLasNochesDeVerano) {
+  SeriesCarga carga = Generar(0);
+  EXPECT_EQ(carga.NRR[Hora(152, 1)], 400.0F);  // 1 de junio
+  EXPECT_EQ(carga.NRR[Hora(273, 7)], 400.0F);  // 30 de septiembre
+  EXPECT_EQ(carga.NRR[Hora(152, 8)], Valor(CNR, 0, 8));
+  EXPECT_EQ(carga.NRR[Hora(151, 1)], Valor(CNR, 0, 1));
+  EXPECT_EQ(carga.NRR[Hora(274, 1)], Valor(CNR, 0, 1));
+  // También los días sin uso, en los que lo demás es 0.
+  EXPECT_EQ(carga.NRR[Hora(181, 3)], 400.0F);
+  for (const int d : {1, 12, 24})
+    for (const SerieHoraria* s : {&carga.QOCUPSh, &carga.latente, &carga.QILUh, &carga.QEQh,
+                                  &carga.TCR, &carga.TRR, &carga.CCAC})
+      EXPECT_EQ((*s)[Hora(181, d)], 0.0F);
+  EXPECT_EQ(carga.NRR[Hora(181, 8)], 0.0F);
+
+  EXPECT_NE(Generar(3).NRR[Hora(152, 1)], 400.0F);
+  g.ManejoVentanas2 = "Cerradas";
+  EXPECT_EQ(Generar(0).NRR[Hora(152, 1)], Valor(CNR, 0, 1));
+}
+
+TEST_F(Horarios, LaAccionDelMesQuitaConsignas) {
+  const SeriesCarga carga = Generar(0);
+  const auto esperar = [&](int dia, bool cale, bool refri) {
+    EXPECT_EQ(carga.TCR[Hora(dia, 12)], cale ? Valor(CTCh, 0, 12) : 0.0F) << dia;
+    EXPECT_EQ(carga.TRR[Hora(dia, 12)], refri ? Valor(CTRh, 0, 12) : 0.0F) << dia;
+  };
+  esperar(31, true, false);    // enero: solo calefacción
+  esperar(32, true, true);     // febrero
+  esperar(183, false, true);   // julio: solo refrigeración
+  esperar(274, false, false);  // octubre: nada
+  esperar(304, false, false);
+  esperar(305, true, true);
+}
+
+TEST_F(Horarios, UnDiaSinClaseConservaLosValoresDePartida) {
+  EXPECT_FALSE(NecesitaUsoBase(g));
+  g.perfiles.calendario[365] = 77;  // no es un día del año
+  EXPECT_FALSE(NecesitaUsoBase(g));
+  g.perfiles.calendario[364] = 10;
+  EXPECT_TRUE(NecesitaUsoBase(g));
+  Edificio edificio;
+  edificio.SetDatosGenerales(g);
+  SeriesCarga carga;
+  carga.QOCUPSh[Hora(365, 5)] = carga.QOCUPSh[Hora(364, 5)] = 3.5F;
+  GenerarCargas(g, ResolverAjustes(edificio), carga);
+  EXPECT_EQ(carga.QOCUPSh[Hora(365, 5)], 3.5F);
+  EXPECT_EQ(carga.QOCUPSh[Hora(364, 5)], Valor(C1, 0, 5));
+}
+
+}  // namespace
+}  // namespace novex

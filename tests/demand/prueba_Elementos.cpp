@@ -1,0 +1,218 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "demand/ElementosHuecos.h"
+#include "demand/ElementosOpacos.h"
+
+namespace novex {
+namespace {
+
+class Elementos : public testing::Test {
+ protected:
+  Elementos() {
+    lugar.latitud = 40;
+    lugar.mesmin = 6;
+    lugar.mesmax = 9;
+    edificio.SetLocalizacion(lugar);
+    caso->resultados.alturaLibre = 0.9F;
+    caso->resultados.Uefectiva.fill(0.5F);
+    caso->alturaEdificio = 6;
+    Huecos& g = edificio.GetHuecos(0);
+    g.Ancho_m = 2;
+    g.Alto_m = 1;
+    g.Fraccion_marco_tanto_por_cien = 0;
+    g.FS_cristal_tanto_por_uno = 0.8F;
+    g.U_cristal_W_m2K = 3;
+  }
+  AjustesUso Ajustes(int perfil) {
+    DatosGenerales g = edificio.GetDatosGenerales();
+    g.PerfilUso = perfil;
+    edificio.SetDatosGenerales(g);
+    return ResolverAjustes(edificio);
+  }
+  float Valor(const std::string& clave, int h) const { return caso->valores.at(clave).valor[h]; }
+
+  Edificio edificio;
+  Recinto& r = edificio.GetRecinto(0);
+  Localizacion lugar;
+  std::unique_ptr<calculo> caso = std::make_unique<calculo>();
+};
+
+TEST_F(Elementos, ElMuroReparteSuSombraEntreSuOrientacionYElNorte) {
+  r.Muro_ext_m2[1][sur] = 20;
+  r.Muro_ext_Var_m2[1][sur] = 4;
+  ObstaculosRemotos o;
+  o.Sur_Altura = 10;
+  o.Sur_Distancia = 12;
+  edificio.SetObstaculosRemotos(o);
+  caso->clima.MLIGERO[sur][8000] = -4;
+  caso->clima.MLIGERO[norte][8000] = -10;
+  ElementosOpacos opacos(edificio, Ajustes(0), *caso);
+  opacos.RefrescarMes(12);
+  const Valores& muro = caso->valores.at("0-Muro2S");
+  EXPECT_FLOAT_EQ(muro.areaBruta, 18);
+  // Diciembre: 0,222441 de los 14,4 m2 en su plano y los 3,6 de fuera.
+  EXPECT_NEAR(muro.areaSombra, 6.80315, 1e-3);
+  EXPECT_EQ(muro.grupo, "Muros");
+  EXPECT_EQ(muro.orientacion, "SUR");
+  const double esperado = (11.19685 * -4 + 6.80315 * -10) * 0.5;
+  EXPECT_NEAR(opacos.Ganancias(8000, 12, 20), esperado, 1e-2);
+  EXPECT_NEAR(Valor("0-Muro2S", 8000), esperado, 1e-2);
+}
+
+TEST_F(Elementos, LosSuelosSiguenALaTemperaturaDeLaZona) {
+  r.Suelo_ext_m2[1] = 10;
+  caso->clima.SUELOEXT[5] = -12;
+  ElementosOpacos opacos(edificio, Ajustes(0), *caso);
+  // 10 × 0,9 × 0,5 × -12 por 0,5 hasta 20 °C, 1,5 desde 25 y lineal en medio.
+  EXPECT_NEAR(opacos.Ganancias(5, 1, 15), -27, 1e-3);
+  EXPECT_NEAR(opacos.Ganancias(5, 1, 22.5F), -54, 1e-3);
+  EXPECT_NEAR(opacos.Ganancias(5, 1, 25), -81, 1e-3);
+  EXPECT_NEAR(Valor("0-SueloExt2", 5), -81, 1e-3);
+}
+
+TEST_F(Elementos, CubiertasYEspaciosNoAcondicionados) {
+  r.Cubierta_horiz_sol_m2[0] = 50;
+  r.Cubierta_horiz_sombra_m2[0] = 20;
+  r.Cubierta_techo_ventilado_m2[0] = 40;
+  r.Cubierta_buhardilla_ext_m2[0] = 40;
+  r.Suelo_vacio_sanitario_m2[0] = 30;
+  r.Muro_otro_local_m2[1] = 12;
+  r.Muro_otro_local_ext_m2[1] = 12;
+  caso->clima.CLIGEROH[1] = 8;
+  caso->clima.SUELOEXT[1] = -2;
+  for (const Sector s : {norte, sur, este, oeste}) caso->clima.MLIGERO[s][1] = -5;
+  ElementosOpacos opacos(edificio, Ajustes(0), *caso);
+  const float suma = opacos.Ganancias(1, 1, 20);
+  EXPECT_NEAR(Valor("0-CubHzExt", 1), (30 * 8 - 20 * 2) * 0.9 * 0.5, 1e-3);
+  EXPECT_NEAR(Valor("0-CubAbuarL_B", 1), 40 * 0.9 * 0.5 * 0.5 * 8, 1e-3);
+  EXPECT_NEAR(Valor("0-SueloVacioSanitario", 1), 30 * 0.9 * 0.35 * 0.5 * -2, 1e-3);
+  EXPECT_NEAR(Valor("0-MuroLocalNoHabL_N2", 1), 12 * 0.9 * 0.5 * 0.5 * -5, 1e-3);
+  EXPECT_EQ(caso->valores.size(), 4U);
+  EXPECT_NEAR(suma, 90 + 72 - 9.45 - 13.5, 1e-2);
+}
+
+// Un hueco al sur de 2 m2 con un pulso de 500 W/m2 a las 12 h del 1 de enero.
+TEST_F(Elementos, ElSolDeLaVentanaSeRetrasaDiezHoras) {
+  edificio.GetHuecos(0).columnas[sur].Anadir(1);
+  caso->clima.CENITS[12] = 60;
+  caso->clima.IRAD[sur][12] = 500;
+  ElementosHuecos huecos(edificio, Ajustes(4), *caso);
+  float total = 0;
+  for (int h = 1; h <= 40; ++h) total += huecos.Ganancias(h, 1);
+  EXPECT_NEAR(Valor("0-S-G-1", 12), 0.769 * 800, 1e-2);
+  EXPECT_NEAR(Valor("0-S-G-1", 13), 0.33 * 0.17 * 800, 1e-2);
+  EXPECT_NEAR(Valor("0-S-G-1", 22), 0.33 * 0.03 * 800, 1e-2);
+  EXPECT_EQ(Valor("0-S-G-1", 23), 0.0F);
+  EXPECT_NEAR(total, 0.9967 * 800, 1e-2);
+}
+
+TEST_F(Elementos, LaParteEnSombraRecibeLoQueElNorte) {
+  Huecos& g = edificio.GetHuecos(0);
+  g.columnas[sur].Anadir(2);
+  g.columnas[norte].Anadir(1);
+  g.Indice_tipo_sombra_fija = 11;  // deja pasar el 2 % al sur
+  caso->clima.CENITS[12] = 60;
+  caso->clima.IRAD[sur][12] = 500;
+  caso->clima.IRAD[norte][12] = 100;
+  // A la hora siguiente el sol está detrás de la fachada.
+  caso->clima.CENITS[13] = 60;
+  caso->clima.AZIMUTS[13] = 120;
+  caso->clima.IRAD[sur][13] = 500;
+  caso->clima.IRAD[norte][13] = 100;
+  ElementosHuecos huecos(edificio, Ajustes(4), *caso);
+  huecos.Ganancias(12, 1);
+  EXPECT_NEAR(Valor("0-S-G-1", 12), 0.769 * 0.8 * (0.08 * 500 + 3.92 * 100), 1e-2);
+  EXPECT_NEAR(Valor("0-N-G-1", 12), 0.769 * 0.8 * 200, 1e-2);
+  huecos.Ganancias(13, 1);
+  EXPECT_NEAR(Valor("0-S-G-1", 13), 0.769 * 0.8 * 400 + 0.33 * 0.17 * 0.8 * 432, 1e-2);
+}
+
+TEST_F(Elementos, CortinaYPersianaTomanLaMenorEnVeranoYLaMayorEnInvierno) {
+  Huecos& g = edificio.GetHuecos(0);
+  g.columnas[norte].Anadir(1);
+  g.Indice_tipo_sombra_movil = 4;  // con vidrio sencillo pasa 0,22
+  g.Indice_tipo_control_Verano = 7;
+  g.Indice_tipo_control_Invierno = 0;
+  const auto hora = [&](int h, int mes, int perfil, float sobreFachada) {
+    caso->clima.IRAD[norte][h] = 100;
+    caso->clima.irradianciaVertical[norte][h] = sobreFachada;
+    ElementosHuecos huecos(edificio, Ajustes(perfil), *caso);
+    huecos.Ganancias(h, mes);
+    return Valor("0-N-G-1", h) / (0.769F * 200);
+  };
+  const int julio = 4345, enero = 1;
+  // 12 h de julio: cortina 0,7 × 0,8; persiana 0,3 × 0,8 + 0,7 × 0,22.
+  EXPECT_NEAR(hora(julio + 11, 7, 0, 120), 0.394, 1e-4);
+  EXPECT_NEAR(hora(julio + 11, 7, 0, 0), 0.56, 1e-4);
+  EXPECT_NEAR(hora(julio + 11, 7, 4, 0), 0.8, 1e-4);
+  // 12 h de enero: con sol la persiana está levantada y no hay cortina.
+  EXPECT_NEAR(hora(enero + 11, 1, 0, 120), 0.8, 1e-4);
+  // 20 h de enero, sin sol: cortina cerrada y media persiana.
+  EXPECT_NEAR(hora(enero + 19, 1, 0, 0), 0.5 * 0.8 + 0.5 * 0.22, 1e-4);
+  // Sin persiana, la cortina de noche lo tapa todo.
+  g.Indice_tipo_sombra_movil = 0;
+  EXPECT_NEAR(hora(enero + 19, 1, 0, 0), 0, 1e-4);
+}
+
+TEST_F(Elementos, LosLucernariosNoTienenRetardo) {
+  Huecos& g = edificio.GetHuecos(0);
+  g.columnas[sur].Anadir(1);
+  g.columnas[kColumnaHorizontal].Anadir(3);
+  g.Tipo_de_hueco = kLucernario;
+  g.Longitud_alero_m = 1;  // pozo de 1 m: ancho 2 y alto 1, factor 0,55
+  caso->clima.IRADH[12] = 600;
+  caso->clima.IRAD[sur][12] = 200;
+  ElementosHuecos huecos(edificio, Ajustes(0), *caso);
+  huecos.Ganancias(12, 1);
+  EXPECT_NEAR(Valor("0-LS-G-1", 12), 2 * 0.8 * 0.55 * (0.3 * 200 + 0.7 * 600), 1e-2);
+  EXPECT_NEAR(Valor("0-LH-G-1", 12), 6 * 0.8 * 0.55 * 600, 1e-2);
+  EXPECT_EQ(caso->valores.at("0-LH-G-1").orientacion, "HORIZONTAL");
+  EXPECT_EQ(caso->valores.at("0-LH-G-1").numero, 3);
+  huecos.Ganancias(13, 1);
+  EXPECT_EQ(Valor("0-LH-G-1", 13), 0.0F);
+}
+
+// U = 3: la cortina o la persiana cerradas la bajan a 3/1,495.
+TEST_F(Elementos, LaConductanciaCambiaConLaHora) {
+  Huecos& g = edificio.GetHuecos(0);
+  g.columnas[este].Anadir(2);
+  g.columnas[este].FactorUColumna = 0.5F;
+  g.Valor_multiplicativo_U_invierno = 2;
+  const double cortina = 0.3 / 1.495 + 0.7;
+  {
+    const ElementosHuecos huecos(edificio, Ajustes(0), *caso);
+    EXPECT_NEAR(huecos.UA(true, 5), 4 * 0.5 * 3, 1e-4);
+    EXPECT_NEAR(huecos.UA(true, 6), 4 * 0.5 * 3 * cortina, 1e-4);
+    EXPECT_NEAR(huecos.UA(true, 21), 4 * 0.5 * 3 * cortina, 1e-4);
+    EXPECT_NEAR(huecos.UA(true, 22), 4 * 0.5 * 3, 1e-4);
+    EXPECT_NEAR(huecos.UA(false, 7), 4 * 0.5 * 2 * 3 * cortina, 1e-4);
+    EXPECT_NEAR(huecos.UA(false, 8), 4 * 0.5 * 2 * 3, 1e-4);
+    EXPECT_NEAR(huecos.UA(false, 15), 4 * 0.5 * 2 * 3, 1e-4);
+    EXPECT_NEAR(huecos.UA(false, 16), 4 * 0.5 * 2 * 3 * cortina, 1e-4);
+  }
+  g.Indice_tipo_sombra_movil = 1;
+  g.Indice_tipo_control_Verano = 8;
+  g.Indice_tipo_control_Invierno = 3;
+  ElementosHuecos huecos(edificio, Ajustes(4), *caso);
+  EXPECT_NEAR(huecos.UA(true, 12), 6 * (0.5 / 1.495 + 0.5), 1e-4);
+  EXPECT_NEAR(huecos.UA(true, 20), 6, 1e-4);
+  EXPECT_NEAR(huecos.UA(false, 3), 12 / 1.495, 1e-4);
+  // La conducción se suma a lo que el elemento ya guarda.
+  huecos.AnadirConduccion(20, true, -5);
+  huecos.AnadirConduccion(20, true, -5);
+  EXPECT_NEAR(Valor("0-E-G-1", 20), -60, 1e-3);
+  EXPECT_NEAR(huecos.SumaGuardada(20), -60, 1e-3);
+}
+
+TEST_F(Elementos, UnaColumnaVaciaNoDaElemento) {
+  edificio.GetHuecos(0).columnas[sur].FactorAreaColumna = 0;
+  edificio.GetHuecos(0).columnas[sur].Anadir(2);
+  ElementosHuecos huecos(edificio, Ajustes(0), *caso);
+  EXPECT_FALSE(huecos.Hay());
+  EXPECT_TRUE(caso->valores.empty());
+}
+
+}  // namespace
+}  // namespace novex

@@ -1,0 +1,178 @@
+#include "demand/Recuperador.h"
+
+#include <gtest/gtest.h>
+
+#include "demand/Series.h"
+#include "demand/VentiladorAire.h"
+
+namespace novex {
+namespace {
+
+TEST(EficienciaParcial, Contracorriente) {
+  EXPECT_NEAR(EficienciaParcial(50, 1, 100, false), 50, 1e-3);
+  EXPECT_NEAR(EficienciaParcial(50, 1, 50, false), 100.0 * 2 / 3, 1e-3);  // NTU 2
+  EXPECT_NEAR(EficienciaParcial(62.9F, 1, 30, false), 84.9656, 1e-2);
+  // Masas distintas: (1 - e^-0,2) / (1 - 0,8 e^-0,2) × 0,8.
+  EXPECT_NEAR(EficienciaParcial(50, 0.8F, 100, false), 42.0316, 1e-2);
+}
+
+// El punto fijo se para a 0,05 de NTU, medio punto de eficiencia.
+TEST(EficienciaParcial, FlujoCruzado) {
+  EXPECT_NEAR(EficienciaParcial(75, 1, 100, false), 75, 0.5);
+  EXPECT_NEAR(EficienciaParcial(75, 1, 50, false), 80.9725, 0.5);
+  EXPECT_NEAR(EficienciaParcial(80, 0.9F, 70, false), 77.0593, 0.5);
+  EXPECT_NEAR(EficienciaParcial(90, 1, 100, false), 90, 0.5);
+  // Cerca de 63 % el punto fijo no se asienta: vale la raíz.
+  for (const float e : {63.0F, 63.5F, 64.0F, 65.0F, 66.0F, 67.0F})
+    EXPECT_NEAR(EficienciaParcial(e, 1, 100, false), e, 0.5) << e;
+  EXPECT_NEAR(EficienciaParcial(65, 1, 60, false), 72.4719, 0.2);
+  // Por encima de 99 %, NTU 1000.
+  EXPECT_NEAR(EficienciaParcial(99.5F, 1, 100, false), 98.9651, 1e-2);
+  EXPECT_NEAR(EficienciaParcial(99.5F, 0.9F, 100, false), 89.4395, 1e-2);
+}
+
+TEST(EficienciaParcial, SinCaudalNoRecuperaYEnViviendaEsLaNominal) {
+  EXPECT_EQ(EficienciaParcial(0, 1, 100, false), 0.0F);
+  EXPECT_EQ(EficienciaParcial(75, 1, 0, false), 0.0F);
+  EXPECT_EQ(EficienciaParcial(75, 1, 30, true), 75.0F);
+  EXPECT_EQ(EficienciaParcial(99.5F, 0.5F, 30, true), 99.5F);
+}
+
+class RecuperadorCaso : public testing::Test {
+ protected:
+  RecuperadorCaso() {
+    g.Eficiencia_recuperador = 50;
+    g.Eficiencia_recuperador_Ental = 20;
+    g.ERelaMasa = 1;
+    g.Teminrec = 15;
+    g.Temaxrec = 25;
+    g.TminImp = 12;
+    ajustes.vivienda = VentilacionVivienda::Mecanica;
+    ajustes.recuperador = TipoRecuperador::SensibleCon;
+    ajustes.ventanasAbiertas = true;
+  }
+  EficienciaHora Hora(float Te, bool conEnfriamiento = false, float NRR = 50, float QV = 500) {
+    return Recuperador(g, ajustes, forzada, 1000).Hora(NRR, Te, QV, conEnfriamiento);
+  }
+  void Terciario(SistemaAire aire) {
+    ajustes.residencial = false;
+    ajustes.perfil = 7;
+    ajustes.aire = aire;
+  }
+
+  DatosGenerales g;
+  AjustesUso ajustes;
+  float forzada = 0;
+};
+
+TEST_F(RecuperadorCaso, LaBandaDelBypassEsAbierta) {
+  EXPECT_EQ(Hora(15).sensible, 50.0F);
+  EXPECT_EQ(Hora(15.01F).sensible, 0.0F);
+  EXPECT_EQ(Hora(24.99F).sensible, 0.0F);
+  EXPECT_EQ(Hora(25).sensible, 50.0F);
+  ajustes.recuperador = TipoRecuperador::SensibleSin;
+  EXPECT_EQ(Hora(20).sensible, 50.0F);
+  // Con las ventanas abiertas no pasa aire por él.
+  EXPECT_EQ(Hora(20, false, kVentanasAbiertas).sensible, 0.0F);
+}
+
+TEST_F(RecuperadorCaso, EnViviendaHibridaSoloElDeLaMedida) {
+  ajustes.vivienda = VentilacionVivienda::Hibrida;
+  EXPECT_EQ(Hora(5).sensible, 0.0F);
+  forzada = 84;
+  EXPECT_EQ(Hora(20).sensible, 84.0F);
+  EXPECT_EQ(Hora(20, false, kVentanasAbiertas).sensible, 0.0F);
+}
+
+TEST_F(RecuperadorCaso, EnTerciarioSigueAlCaudalYAlEnfriamiento) {
+  Terciario(SistemaAire::Toma);
+  EXPECT_EQ(Hora(5).sensible, 0.0F);
+  Terciario(SistemaAire::Primario);
+  EXPECT_NEAR(Hora(5).sensible, 66.667, 1e-2);  // medio caudal
+  EXPECT_EQ(Hora(20).sensible, 0.0F);           // en la banda
+  EXPECT_EQ(Hora(5, false, 50, 0).sensible, 0.0F);
+  // Con enfriamiento gratuito manda la temperatura de impulsión, no la banda.
+  EXPECT_EQ(Hora(12.1F, true).sensible, 0.0F);
+  EXPECT_NEAR(Hora(12, true).sensible, 66.667, 1e-2);
+  Terciario(SistemaAire::UTA);
+  EXPECT_EQ(Hora(5, true).sensible, 0.0F);
+  // El entálpico recupera además humedad: NTU 0,25 a la mitad de caudal, 0,5.
+  ajustes.recuperador = TipoRecuperador::EntalpicoSin;
+  EXPECT_NEAR(Hora(20).sensible, 66.667, 1e-2);
+  EXPECT_NEAR(Hora(20).humedad, 100.0 / 3, 1e-2);
+  ajustes.recuperador = TipoRecuperador::EntalpicoCon;
+  EXPECT_EQ(Hora(20).humedad, 0.0F);
+}
+
+TEST(FactorCargaParcial, PorSuControl) {
+  const auto variador = ControlVentilador::Variador;
+  const auto compuertas = ControlVentilador::Compuertas;
+  EXPECT_NEAR(FactorCargaParcial(100, variador), 1.0, 1e-5);
+  EXPECT_NEAR(FactorCargaParcial(50, variador), 0.2281125, 1e-5);
+  EXPECT_NEAR(FactorCargaParcial(29, variador), 0.0943659, 1e-5);  // como 30
+  EXPECT_NEAR(FactorCargaParcial(30, variador), 0.0943659, 1e-5);
+  EXPECT_NEAR(FactorCargaParcial(100, compuertas), 1.0, 1e-5);
+  EXPECT_NEAR(FactorCargaParcial(50, compuertas), 0.8625125, 1e-5);
+  EXPECT_EQ(FactorCargaParcial(0, compuertas), 0.0F);
+  EXPECT_EQ(FactorCargaParcial(80, ControlVentilador::Otro), 0.0F);
+}
+
+class VentiladorCaso : public RecuperadorCaso {
+ protected:
+  VentiladorCaso() {
+    g.WRecuperador = 100;
+    g.WRecuperadorr = 25;
+  }
+  VentiladorAire::Hora Fan(float Te, bool conEnfriamiento = false, float NRR = 50, float QV = 500,
+                           float CUTA = 500) {
+    return VentiladorAire(g, 8, ajustes, forzada, 1000)
+        .Potencia(NRR, Te, QV, CUTA, conEnfriamiento);
+  }
+};
+
+TEST_F(VentiladorCaso, EnVivienda) {
+  EXPECT_EQ(Fan(10).potencia, 100.0F);
+  EXPECT_FALSE(Fan(10).puenteado);
+  EXPECT_EQ(Fan(20).potencia, 25.0F);
+  EXPECT_TRUE(Fan(20).puenteado);
+  EXPECT_EQ(Fan(20, false, kVentanasAbiertas).potencia, 0.0F);
+  g.PerfilUso = ajustes.perfil = 1;  // un bloque: una unidad por vivienda
+  EXPECT_EQ(Fan(10).potencia, 800.0F);
+  g.PerfilUso = ajustes.perfil = 2;
+  EXPECT_EQ(Fan(10).potencia, 100.0F);
+  ajustes.recuperador = TipoRecuperador::EntalpicoSin;
+  EXPECT_EQ(Fan(10).potencia, 0.0F);
+  ajustes.recuperador = TipoRecuperador::No;
+  ajustes.vivienda = VentilacionVivienda::Hibrida;
+  EXPECT_EQ(Fan(10).potencia, 0.0F);
+  // Medida del 80 % con 360 m3/h: 2 (0,07 × 3000 + 1100 - 15) W/(m3/s) por 0,1 m3/s.
+  forzada = 80;
+  EXPECT_NEAR(Fan(10, false, 50, 360).potencia, 259, 1e-2);
+}
+
+TEST_F(VentiladorCaso, EnTerciario) {
+  Terciario(SistemaAire::Toma);
+  g.Ventilacion = 3600;
+  g.PerdPresionToma = 75;
+  g.RendVentToma = 0.6F;
+  EXPECT_NEAR(Fan(10).potencia, 62.5, 1e-3);  // 0,5 × 1 m3/s × 75 / 0,6
+  g.RendVentToma = 0;
+  EXPECT_EQ(Fan(10).potencia, 0.0F);
+
+  Terciario(SistemaAire::Primario);
+  ajustes.control = ControlVentilador::Compuertas;
+  EXPECT_NEAR(Fan(10).potencia, 86.25125, 1e-3);
+  EXPECT_NEAR(Fan(20).potencia, 0.25 * 86.25125, 1e-3);
+  EXPECT_NEAR(Fan(12, true).potencia, 86.25125, 1e-3);
+  EXPECT_NEAR(Fan(13, true).potencia, 0.25 * 86.25125, 1e-3);
+  EXPECT_EQ(Fan(10, false, 50, 0).potencia, 0.0F);
+
+  // La unidad de todo aire va por su propio caudal.
+  Terciario(SistemaAire::UTA);
+  g.CaudalUTA = 500;
+  EXPECT_NEAR(Fan(10).potencia, 100, 1e-3);
+  EXPECT_TRUE(Fan(-5, true).puenteado);
+}
+
+}  // namespace
+}  // namespace novex

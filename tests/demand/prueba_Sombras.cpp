@@ -1,0 +1,148 @@
+#include "demand/Sombras.h"
+
+#include <gtest/gtest.h>
+
+#include "demand/CieloClaro.h"
+
+namespace novex {
+namespace {
+
+constexpr float kLatitud = 40;
+
+// Alturas buscadas aparte, recorriendo el día hasta que el sol llega al azimut.
+TEST(AlturaSolEnDireccion, EnLosCincoRumbos) {
+  EXPECT_NEAR(AlturaSolEnDireccion(sur, kLatitud, 12).tangente, 0.499672, 1e-4);  // 26,55°
+  EXPECT_NEAR(AlturaSolEnDireccion(sur_oeste, kLatitud, 12).tangente, 0.210084, 1e-4);
+  EXPECT_NEAR(AlturaSolEnDireccion(sur_este, kLatitud, 12).tangente, 0.210084, 1e-4);
+  EXPECT_NEAR(AlturaSolEnDireccion(sur_oeste, kLatitud, 11).tangente, 0.283538, 1e-4);
+  EXPECT_NEAR(AlturaSolEnDireccion(sur_este, kLatitud, 6).tangente, 2.522762, 1e-3);
+  EXPECT_NEAR(AlturaSolEnDireccion(oeste, kLatitud, 6).tangente, 0.788345, 1e-4);
+  EXPECT_NEAR(AlturaSolEnDireccion(este, kLatitud, 5).tangente, 0.638160, 1e-4);
+  EXPECT_NEAR(AlturaSolEnDireccion(oeste, kLatitud, 8).tangente, 0.325632, 1e-4);
+  // En los equinoccios el sol sale justo por el este.
+  EXPECT_TRUE(AlturaSolEnDireccion(este, kLatitud, 3).dentro);
+  EXPECT_NEAR(AlturaSolEnDireccion(este, kLatitud, 9).tangente, 0, 1e-3);
+  for (const int mes : {1, 2, 10, 11, 12}) {
+    EXPECT_FALSE(AlturaSolEnDireccion(oeste, kLatitud, mes).dentro) << mes;
+    EXPECT_FALSE(AlturaSolEnDireccion(este, kLatitud, mes).dentro) << mes;
+  }
+}
+
+TEST(FraccionObstaculos, EsLaMediaDeLasDireccionesConSol) {
+  ObstaculosRemotos o;
+  o.Sur_Altura = 10;
+  o.Sur_Distancia = 12;
+  // Diciembre: 10 - 0,49967 × 12 = 4,004 m de los 6 de la fachada, en una de tres direcciones.
+  EXPECT_NEAR(FraccionObstaculos(sur, o, kLatitud, 12, 6), 0.222441, 1e-4);
+  EXPECT_EQ(FraccionObstaculos(sur, o, kLatitud, 6, 6), 0.0F);
+  EXPECT_EQ(FraccionObstaculos(oeste, o, kLatitud, 12, 6), 0.0F);
+  EXPECT_EQ(FraccionObstaculos(norte, o, kLatitud, 12, 6), 0.0F);
+  // Más alto que la fachada no la tapa más de una vez.
+  o.Sur_Altura = 100;
+  EXPECT_NEAR(FraccionObstaculos(sur, o, kLatitud, 12, 6), 1.0 / 3, 1e-5);
+
+  // Al oeste, en invierno, solo cuenta el suroeste: 8 - 0,210084 × 20 = 3,798 m.
+  ObstaculosRemotos p;
+  p.Oeste_Altura = 50;
+  p.Oeste_Distancia = 5;
+  p.SurOeste_Altura = 8;
+  p.SurOeste_Distancia = 20;
+  EXPECT_NEAR(FraccionObstaculos(oeste, p, kLatitud, 12, 6), 0.633053, 1e-4);
+  // En junio tapa el oeste, y el suroeste no llega.
+  EXPECT_NEAR(FraccionObstaculos(oeste, p, kLatitud, 6, 6), 0.5, 1e-5);
+}
+
+TEST(SombraMuro, SumaLoQueEstaFueraDelPlano) {
+  EXPECT_FLOAT_EQ(SombraMuro(20, 4, 0.25F, 0, true), 5);
+  EXPECT_FLOAT_EQ(SombraMuro(20, 4, 0.25F, 0, false), 8);
+  EXPECT_FLOAT_EQ(SombraMuro(20, 4, 0.25F, 3, true), 6.5F);
+  EXPECT_FLOAT_EQ(SombraMuro(20, 4, 0.25F, 3, false), 6.5F);
+  EXPECT_FLOAT_EQ(SombraMuro(20, 4, 0.25F, 4, true), 5);
+  // Todo fuera del plano: el elemento se deja como está.
+  EXPECT_LT(SombraMuro(20, 20, 0.25F, 0, true), 0.0F);
+}
+
+TEST(FraccionSinObstaculos, TapaLosHuecosDeAbajo) {
+  ColumnaHuecos columna;
+  columna.Anadir(4);
+  columna.obstaculos[1] = {10, 12};  // al sur
+  // Diciembre: 4,004 m de sombra y huecos cada 3 m son dos, en una de tres direcciones.
+  EXPECT_NEAR(FraccionSinObstaculos(columna, sur, kLatitud, 12, 0, false), 1 - 2.0 / 12, 1e-5);
+  EXPECT_EQ(FraccionSinObstaculos(columna, sur, kLatitud, 6, 0, true), 1.0F);
+  // Sin separación, todos o ninguno.
+  columna.Separacion_ventanas_vertical = 0;
+  EXPECT_NEAR(FraccionSinObstaculos(columna, sur, kLatitud, 12, 0, false), 1 - 4.0 / 12, 1e-5);
+  EXPECT_EQ(FraccionSinObstaculos(columna, sur, kLatitud, 6, 0, true), 1.0F);
+  EXPECT_EQ(FraccionSinObstaculos(columna, norte, kLatitud, 12, 0, false), 1.0F);
+}
+
+TEST(FraccionSinObstaculos, ElEsteYElOesteSoloCuentanEnVerano) {
+  ColumnaHuecos columna;
+  columna.Anadir(4);
+  columna.obstaculos[1] = {20, 10};  // al este: 20 - 0,788345 × 10 = 12,1 m tapan los cuatro
+  EXPECT_NEAR(FraccionSinObstaculos(columna, este, kLatitud, 6, 0, true), 0.5, 1e-5);
+  EXPECT_EQ(FraccionSinObstaculos(columna, este, kLatitud, 6, 0, false), 1.0F);
+  EXPECT_NEAR(FraccionSinObstaculos(columna, este, kLatitud, 6, 5, true), 0.75, 1e-5);
+  EXPECT_NEAR(FraccionSinObstaculos(columna, este, kLatitud, 6, 5, false), 0.75, 1e-5);
+}
+
+SombraPropia Hueco(float distancia, float alero, float retranqueo) {
+  Huecos g;
+  g.Ancho_m = 2;
+  g.Alto_m = 1.2F;
+  g.Distancia_alero_m = distancia;
+  g.Longitud_alero_m = alero;
+  g.Retranqueo_m = retranqueo;
+  return SombraPropia(g);
+}
+
+TEST(SombraPropia, AleroYRetranqueo) {
+  EXPECT_FALSE(Hueco(0.3F, 0, 0).Hay());
+  EXPECT_FLOAT_EQ(Hueco(0, 0, 0).FraccionSoleada(5, 5), 1);
+  // Alero de 0,5 m a 0,2 m: con t = 1 la sombra baja 0,3 m; con t = 0,4 llega justo al hueco.
+  EXPECT_FLOAT_EQ(Hueco(0.2F, 0.5F, 0).FraccionSoleada(1, 0), 0.75F);
+  EXPECT_FLOAT_EQ(Hueco(0.2F, 0.5F, 0).FraccionSoleada(0.4F, 0), 1);
+  // Retranqueo de 0,1 m: la jamba y el dintel quitan 0,1 m cada uno.
+  EXPECT_FLOAT_EQ(Hueco(0, 0, 0.1F).FraccionSoleada(1, 1), 1.9F * 1.1F / 2.4F);
+  // Los dos: 0,6 × 1 - 0,2 m.
+  EXPECT_FLOAT_EQ(Hueco(0.2F, 0.5F, 0.1F).FraccionSoleada(1, 0), 0.8F / 1.2F);
+  EXPECT_EQ(Hueco(0.2F, 0.5F, 0.1F).FraccionSoleada(30, 0), 0.0F);
+  EXPECT_EQ(Hueco(0, 0, 0.1F).FraccionSoleada(1, 50), 0.0F);
+}
+
+TEST(MirarSol, ElPlanoDeLaFachadaQuedaFuera) {
+  EXPECT_FALSE(MirarSol(0, 50, 90).delante);     // 90° exactos
+  EXPECT_FALSE(MirarSol(180, 50, -90).delante);  // 270°
+  EXPECT_TRUE(MirarSol(180, 50, -90.5F).delante);
+  EXPECT_TRUE(MirarSol(0.5F, 50, 90).delante);
+  EXPECT_FALSE(MirarSol(0, 90, 0).delante);
+  EXPECT_TRUE(MirarSol(0, 89, 0).delante);
+  const SolEnFachada sol = MirarSol(-60, 45, 0);
+  EXPECT_NEAR(sol.t, 2, 1e-4);
+  EXPECT_NEAR(sol.s, 1.7320508, 1e-4);
+}
+
+TEST(IrradianciaCieloClaro, ModeloDeBird) {
+  EXPECT_NEAR(IrradianciaCieloClaro(30, 0.5F), 624.327, 0.1);
+  EXPECT_NEAR(IrradianciaCieloClaro(60, 0.8F), 772.396, 0.1);
+  EXPECT_NEAR(IrradianciaCieloClaro(85, 0.3F), 128.782, 0.1);
+  EXPECT_EQ(IrradianciaCieloClaro(90, 0.3F), 0.0F);
+}
+
+// Fracciones calculadas aparte, con las mismas horas y pesos.
+TEST(FraccionSolCercana, PesaLasHorasConElCieloClaro) {
+  const SombraPropia hueco = Hueco(0.2F, 0.5F, 0.1F);
+  EXPECT_NEAR(FraccionSolCercana(hueco, sur, kLatitud, 12), 0.919927, 1e-3);
+  EXPECT_NEAR(FraccionSolCercana(hueco, oeste, kLatitud, 6), 0.668478, 1e-3);
+  EXPECT_EQ(FraccionSolCercana(hueco, sur, kLatitud, 6), 0.0F);
+  EXPECT_EQ(FraccionSolCercana(Hueco(0.2F, 0, 0), sur, kLatitud, 6), 1.0F);
+  // El mediodía, en el plano de la fachada, no cuenta a ningún lado: el este y el oeste son
+  // iguales.
+  for (const int mes : {1, 2, 3, 6, 9, 12})
+    EXPECT_NEAR(FraccionSolCercana(hueco, oeste, kLatitud, mes),
+                FraccionSolCercana(hueco, este, kLatitud, mes), 1e-4)
+        << mes;
+}
+
+}  // namespace
+}  // namespace novex

@@ -1,0 +1,166 @@
+#include "reference/LongitudesPuentes.h"
+
+#include <gtest/gtest.h>
+
+namespace novex {
+namespace {
+
+void PonerModo(Edificio& e, const std::string& modo) {
+  Construccion c = e.GetConstruccion();
+  c.Longitud_puentes_termicos_modo = modo;
+  e.SetConstruccion(c);
+}
+
+// Un edificio con algo en cada clase de área.
+void Rellenar(Edificio& e) {
+  Recinto& r = e.GetRecinto(0);
+  r.Suelo_habitable_m2 = 200;
+  r.Volumen_total_m3 = 600;
+  r.Suelo_al_terreno_m2 = {64, 0, 36};
+  r.Suelo_otro_local_m2 = {0, 9};
+  r.Suelo_vacio_sanitario_m2 = {16, 0};
+  r.Suelo_ext_m2 = {10, 6};
+  r.Cubierta_horiz_sol_m2 = {60, 40, 0};
+  r.Cubierta_horiz_sombra_m2 = {30, 0, 0};
+  r.Cubierta_incl_m2[0][norte] = 11;
+  r.Cubierta_incl_m2[2][sur] = 10;
+  r.Cubierta_incl_Sombra_m2[2][sur] = 5;
+  r.Cubierta_techo_ventilado_m2 = {0, 49};
+  r.Muro_ext_m2[0][norte] = 150;
+  r.Muro_ext_m2[4][sur] = 60;
+  r.Muro_ext_m2[1][este] = 60;
+  r.Muro_otro_local_m2 = {12, 0};
+  r.Muro_al_terreno_m2 = {0, 18};
+  r.Muro_adiabatico_m2 = {40, 20};
+  e.GetHuecos(0).columnas[sur].Anadir(4);  // 2 x 1 m
+  e.GetHuecos(0).columnas[kColumnaHorizontal].Anadir(1);
+  Huecos segundo;
+  segundo.Ancho_m = 1.2F;
+  segundo.Alto_m = 1.5F;
+  segundo.columnas[norte].Anadir(3);
+  e.AnadirHuecos(segundo);
+  PonerModo(e, "Estimados");
+}
+
+TEST(LongitudesPuentes, EdificioConTodasLasClases) {
+  Edificio e;
+  Rellenar(e);
+  // H = 600/200 = 3 m; F = 100 + 25 + 16 = 141 m2; n = 200/141 = 1,418.
+  EXPECT_FLOAT_EQ(AlturaDeEdificio(e).alturaPlanta, 3);
+  EXPECT_NEAR(AlturaDeEdificio(e).plantas, 1.41844, 1e-5);
+  EXPECT_NEAR(AlturaDeEdificio(e).Total(), 4.25532, 1e-5);
+
+  const Construccion c = LongitudesEstimadas(e);
+  // Perímetros de planta cuadrada: terreno 40, no acondicionado 20, exterior 16, cubierta 44 (121
+  // m2), bajo buhardilla 28. Muros 300/3 = 100 m y medianeras 60/3 = 20 m: parte exterior 5/6.
+  // Pilares: (40 + 20 + 16)/4 - 3 = 16; 16 x 3 x 1,418 x 5/6 = 56,74 m, por las partes de muro
+  // 0,5, 0,2 y 0,2.
+  EXPECT_EQ(c.Long_pilares, (std::array<float, 6>{28, 0, 0, 11, 0, 11}));
+  EXPECT_EQ(c.Longitud_esquinas_sal_menos_ent, 14);  // 4 x 3 x 1,418 x 5/6 = 14,18
+  // Interiores 100 - 76 = 24; 20 x 0,6 + 24 + 28 x 0,6 = 52,8.
+  EXPECT_EQ(c.Perimetro_forjados, 52);
+  EXPECT_EQ(c.Perimetro_suelo_terreno, 40);
+  EXPECT_EQ(c.Perimetro_cubiertas, 44);
+  EXPECT_EQ(c.Perimetro_suelo_ext, 16);
+  EXPECT_EQ(c.Perimetro_huecos, 46);  // 5 x 6 + 3 x 5,4 = 46,2
+}
+
+TEST(LongitudesPuentes, SueloDe100SobreTerreno) {
+  Edificio e;
+  PonerModo(e, "Estimados");
+  e.GetRecinto(0).Suelo_al_terreno_m2[1] = 100;
+  EXPECT_EQ(LongitudesEstimadas(e).Perimetro_suelo_terreno, 40);
+}
+
+TEST(LongitudesPuentes, LosPerimetrosSeCortanSinRedondear) {
+  Edificio e;
+  PonerModo(e, "Estimados");
+  Recinto& r = e.GetRecinto(0);
+  r.Suelo_al_terreno_m2[0] = 50;   // 28,28
+  r.Suelo_ext_m2[0] = 22;          // 18,76
+  r.Cubierta_horiz_sol_m2[2] = 8;  // 11,31
+  const Construccion c = LongitudesEstimadas(e);
+  EXPECT_EQ(c.Perimetro_suelo_terreno, 28);
+  EXPECT_EQ(c.Perimetro_suelo_ext, 18);
+  EXPECT_EQ(c.Perimetro_cubiertas, 11);
+}
+
+TEST(LongitudesPuentes, SinMurosNoHayPilaresNiEsquinas) {
+  Edificio e;
+  Rellenar(e);
+  Recinto& r = e.GetRecinto(0);
+  r.Muro_ext_m2 = {};
+  r.Muro_otro_local_m2 = {};
+  r.Muro_al_terreno_m2 = {};
+  for (const float medianeras : {60.0F, 0.0F}) {
+    r.Muro_adiabatico_m2 = {medianeras, 0};
+    const Construccion c = LongitudesEstimadas(e);
+    EXPECT_EQ(c.Long_pilares, (std::array<float, 6>{}));
+    EXPECT_EQ(c.Longitud_esquinas_sal_menos_ent, 0);
+    EXPECT_EQ(c.Perimetro_forjados, 28);  // sin interiores: 12 + 16,8
+    EXPECT_EQ(c.Perimetro_suelo_terreno, 40);
+  }
+}
+
+TEST(LongitudesPuentes, SinSuelosEsUnaPlantaSinPilares) {
+  Edificio e;
+  PonerModo(e, "Estimados");
+  e.GetRecinto(0).Muro_ext_m2[0][sur] = 90;  // 100 m2 y 300 m3
+  EXPECT_EQ(AlturaDeEdificio(e).plantas, 1);
+  const Construccion c = LongitudesEstimadas(e);
+  EXPECT_EQ(c.Long_pilares, (std::array<float, 6>{}));
+  EXPECT_EQ(c.Longitud_esquinas_sal_menos_ent, 12);
+  EXPECT_EQ(c.Perimetro_forjados, 30);
+}
+
+TEST(LongitudesPuentes, LasPlantasNoBajanDeUna) {
+  Edificio e;
+  e.GetRecinto(0).Suelo_ext_m2[0] = 150;  // más que la superficie útil
+  EXPECT_EQ(AlturaDeEdificio(e).plantas, 1);
+}
+
+TEST(LongitudesPuentes, SinSuperficieUtilNoHayDivisionPorCero) {
+  Edificio e;
+  Rellenar(e);
+  e.GetRecinto(0).Suelo_habitable_m2 = 0;
+  EXPECT_EQ(AlturaDeEdificio(e).alturaPlanta, 0);
+  const Construccion c = LongitudesEstimadas(e);
+  EXPECT_EQ(c.Long_pilares, (std::array<float, 6>{}));
+  EXPECT_EQ(c.Longitud_esquinas_sal_menos_ent, 0);
+  EXPECT_EQ(c.Perimetro_cubiertas, 44);
+}
+
+TEST(LongitudesPuentes, ConVariosRecintosQuedanLasDelUltimo) {
+  Edificio e;
+  PonerModo(e, "Estimados");
+  e.GetRecinto(0).Suelo_al_terreno_m2[0] = 75;
+  Recinto segundo;
+  segundo.Suelo_al_terreno_m2[0] = 25;
+  e.AnadirRecinto(segundo);
+  EXPECT_EQ(LongitudesEstimadas(e).Perimetro_suelo_terreno, 10);  // 25 de 100 m2, de 40 m
+}
+
+TEST(LongitudesPuentes, LasFacilitadasNoSeTocan) {
+  Edificio e;
+  Rellenar(e);
+  Construccion c = e.GetConstruccion();
+  c.Perimetro_huecos = 7.25F;
+  c.Long_pilares[oeste] = 3.5F;
+  for (const char* modo : {"Facilitados", "", "estimados"}) {
+    c.Longitud_puentes_termicos_modo = modo;
+    e.SetConstruccion(c);
+    EXPECT_EQ(LongitudesEstimadas(e), c) << modo;
+  }
+  // Estimadas, lo que no son longitudes sigue igual.
+  c.Longitud_puentes_termicos_modo = "Estimados";
+  c.U_L_Puentes[puente_pilares] = 0.8F;
+  c.NPlantasSobreRasante = 4;
+  e.SetConstruccion(c);
+  const Construccion estimada = LongitudesEstimadas(e);
+  EXPECT_EQ(estimada.U_L_Puentes, c.U_L_Puentes);
+  EXPECT_EQ(estimada.NPlantasSobreRasante, 4);
+  EXPECT_EQ(estimada.Long_pilares[oeste], 0);
+}
+
+}  // namespace
+}  // namespace novex

@@ -1,0 +1,199 @@
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+#include "base/FicheroSeguro.h"
+#include "demand/GeneradorClima.h"
+#include "shell/ProyectoPrueba.h"
+
+#ifndef NOVEX_EJECUTABLE_CLI
+#define NOVEX_EJECUTABLE_CLI ""
+#endif
+
+namespace novex {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Ejecucion {
+  int codigo;
+  std::string salida, errores;
+};
+
+bool Contiene(const std::string& texto, const std::string& parte) {
+  return texto.find(parte) != std::string::npos;
+}
+
+// Una carpeta de programa con los datos y el clima de una zona, y un proyecto en blanco, en una
+// carpeta que se borra al acabar.
+class Ordenes : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (std::string(NOVEX_EJECUTABLE_CLI).empty()) GTEST_SKIP() << "sin novex-cli";
+    std::string plantilla = (fs::temp_directory_path() / "novexXXXXXX").string();
+    ASSERT_NE(mkdtemp(plantilla.data()), nullptr);
+    raiz = plantilla;
+    fs::create_directories(programa() / "databaseCTE");
+    fs::copy(fs::path(NOVEX_RAIZ_DATOS) / "database", programa() / "database",
+             fs::copy_options::recursive);
+    static const std::string met =
+        GenerarMet(LeerEstadisticasClima(fs::path(NOVEX_RAIZ_DATOS) / "clima"), "D3", "Oficial");
+    EscribirFichero(programa() / "databaseCTE" / "ZonaD3.met", met);
+  }
+  void TearDown() override {
+    if (!raiz.empty()) fs::remove_all(raiz);
+  }
+
+  fs::path programa() const { return raiz / "programa"; }
+  // Un proyecto con un caso base y las mejoras pedidas.
+  std::string Proyecto(const std::string& zona = "D3", float superficie = 100, int mejoras = 0) {
+    const fs::path ruta = raiz / "casa de campo.xml";
+    pruebas::GuardarProyectoPrueba(ruta, zona, superficie, mejoras);
+    return ruta.string();
+  }
+  Ejecucion Ejecutar(const std::vector<std::string>& argumentos) const {
+    std::string orden = "'" NOVEX_EJECUTABLE_CLI "'";
+    for (const std::string& a : argumentos) orden += " '" + a + "'";
+    const fs::path salida = raiz / "salida", errores = raiz / "errores";
+    orden += " >'" + salida.string() + "' 2>'" + errores.string() + "'";
+    const int estado = std::system(orden.c_str());
+    return {WIFEXITED(estado) ? WEXITSTATUS(estado) : -1, LeerFichero(salida),
+            LeerFichero(errores)};
+  }
+  Ejecucion Calcular(const std::string& proyecto, std::vector<std::string> mas = {}) const {
+    mas.insert(mas.begin(), {"calcular", proyecto, "--programa", programa().string()});
+    return Ejecutar(mas);
+  }
+
+  fs::path raiz;
+};
+
+TEST_F(Ordenes, CalcularDaTablaJsonYSeriesSinTocarElProyecto) {
+  const std::string proyecto = Proyecto();
+  const std::string antes = LeerFichero(proyecto);
+  const fs::path json = raiz / "r.json", series = raiz / "s.csv";
+  const Ejecucion tabla =
+      Calcular(proyecto, {"--json", json.string(), "--series", series.string()});
+  ASSERT_EQ(tabla.codigo, 0) << tabla.errores;
+  EXPECT_TRUE(Contiene(tabla.salida, "Calefacción"));
+  EXPECT_TRUE(Contiene(tabla.salida, "zona D3"));
+  const std::string lineas = LeerFichero(series);
+  EXPECT_EQ(std::count(lineas.begin(), lineas.end(), '\n'), 8761);
+
+  const Ejecucion salida = Calcular(proyecto, {"--json", "-"});
+  EXPECT_EQ(salida.codigo, 0);
+  EXPECT_EQ(salida.salida, LeerFichero(json));
+  EXPECT_TRUE(Contiene(salida.salida, "\"proyecto\": \"casa de campo.xml\""));
+  EXPECT_EQ(LeerFichero(proyecto), antes);
+  // Sin pedirlos no se escriben ficheros de caso.
+  EXPECT_FALSE(fs::exists(programa() / "database" / "Prueba.xml"));
+}
+
+TEST_F(Ordenes, CalcularTodosLosCasosOUno) {
+  const std::string proyecto = Proyecto("D3", 100, 1);
+  const fs::path series = raiz / "s.csv", mejora = raiz / "s_Mejora_1.csv";
+  EXPECT_TRUE(Contiene(Calcular(proyecto, {"--json", "-", "--series", series.string()}).salida,
+                       "\"caso\": \"Mejora_1\""));
+  EXPECT_TRUE(fs::exists(series));
+  EXPECT_TRUE(fs::exists(mejora));
+  const std::string una = Calcular(proyecto, {"--json", "-", "--caso", "Mejora_1"}).salida;
+  EXPECT_TRUE(Contiene(una, "\"caso\": \"Mejora_1\""));
+  EXPECT_FALSE(Contiene(una, "\"caso\": \"Viejo\""));
+  const Ejecucion otra = Calcular(proyecto, {"--caso", "Mejora_2"});
+  EXPECT_EQ(otra.codigo, 2);
+  EXPECT_TRUE(Contiene(otra.errores, "tiene: Viejo, Mejora_1"));
+}
+
+TEST_F(Ordenes, LaOrdenMalEscritaSaleCon2) {
+  const std::string proyecto = Proyecto();
+  const std::vector<std::string> ordenes[] = {{},
+                                              {"calcular"},
+                                              {"calcular", proyecto, "--nada"},
+                                              {"calcular", proyecto, "--json"},
+                                              {"calcular", (raiz / "casa.dat").string()},
+                                              {"clima"},
+                                              {"clima", "info", "Z9"},
+                                              {"clima", "info", "D3", "--conjunto", "1800"},
+                                              {"inventada"}};
+  for (const auto& orden : ordenes) {
+    const Ejecucion e = Ejecutar(orden);
+    EXPECT_EQ(e.codigo, 2) << e.errores;
+    EXPECT_FALSE(e.errores.empty());
+    EXPECT_TRUE(e.salida.empty());
+  }
+  EXPECT_EQ(Ejecutar({"--help"}).codigo, 0);
+  // Los resultados no se escriben encima de lo que se calcula.
+  const std::string antes = LeerFichero(proyecto);
+  EXPECT_EQ(Calcular(proyecto, {"--json", proyecto}).codigo, 2);
+  EXPECT_EQ(LeerFichero(proyecto), antes);
+}
+
+TEST_F(Ordenes, UnXmlQueNoSeEntiendeSaleCon255YDiceDonde) {
+  const std::string entero = LeerFichero(Proyecto());
+  const fs::path roto = raiz / "roto.xml", ajeno = raiz / "ajeno.xml";
+  EscribirFichero(roto, entero.substr(0, entero.size() / 2));
+  EscribirFichero(ajeno, "<?xml version=\"1.0\"?>\n<Otro/>\n");
+  for (const fs::path& ruta : {roto, ajeno, raiz / "falta.xml"}) {
+    const Ejecucion e = Calcular(ruta.string());
+    EXPECT_EQ(e.codigo, 255) << ruta;
+    EXPECT_TRUE(Contiene(e.errores, "XML Parsing error inside file '" + ruta.string() + "'."));
+    EXPECT_TRUE(Contiene(e.errores, "At line ")) << e.errores;
+    EXPECT_EQ(Ejecutar({"info", ruta.string()}).codigo, 255) << ruta;
+  }
+  EXPECT_TRUE(Contiene(Calcular(ajeno.string()).errores,
+                       "First Tag should be 'DatosEnergeticosDelEdificio'."));
+}
+
+TEST_F(Ordenes, LoQueNoSePuedeCalcularSaleCon3) {
+  const Ejecucion sinClima = Calcular(Proyecto("B3"), {"--json", "-"});
+  EXPECT_EQ(sinClima.codigo, 3);
+  EXPECT_EQ(sinClima.errores,
+            "fichero entrada datos ambientales: No se pudo abrir el fichero .met\n");
+  EXPECT_TRUE(sinClima.salida.empty());
+
+  const Ejecucion sinSuelo = Calcular(Proyecto("D3", 0));
+  EXPECT_EQ(sinSuelo.codigo, 3);
+  EXPECT_TRUE(Contiene(sinSuelo.errores, "Suelo_habitable_m2")) << sinSuelo.errores;
+
+  const std::string proyecto = Proyecto();
+  EXPECT_EQ(Calcular(proyecto, {"--json", (raiz / "no" / "r.json").string()}).codigo, 3);
+  EXPECT_EQ(Ejecutar({"calcular", proyecto, "--programa", (raiz / "no").string()}).codigo, 3);
+}
+
+TEST_F(Ordenes, InfoDiceLoQueHay) {
+  const Ejecucion e = Ejecutar({"info", Proyecto("D3", 123, 2)});
+  ASSERT_EQ(e.codigo, 0) << e.errores;
+  EXPECT_TRUE(Contiene(e.salida, "3 casos"));
+  EXPECT_TRUE(Contiene(e.salida, "123.00 m²"));
+  EXPECT_TRUE(Contiene(e.salida, "Mejora_2"));
+}
+
+TEST_F(Ordenes, ClimaInstalaLosFicherosQueValen) {
+  const fs::path origen = raiz / "oficiales";
+  fs::create_directories(origen);
+  const auto instalar = [&] {
+    return Ejecutar({"clima", "instalar", origen.string(), "--conjunto", "2012", "--programa",
+                     programa().string()});
+  };
+  EXPECT_EQ(instalar().codigo, 3);  // no hay ninguno
+  const std::string met = LeerFichero(programa() / "databaseCTE" / "ZonaD3.met");
+  EscribirFichero(origen / "zonad3.met", met);
+  EXPECT_EQ(instalar().codigo, 0);
+  EXPECT_EQ(LeerFichero(programa() / "database2012" / "ZonaD3.met"), met);
+  EscribirFichero(origen / "zonaC1.met", met.substr(0, met.size() / 3));
+  const Ejecucion conFaltas = instalar();
+  EXPECT_EQ(conFaltas.codigo, 1);
+  EXPECT_TRUE(Contiene(conFaltas.salida, "no vale"));
+  EXPECT_FALSE(fs::exists(programa() / "database2012" / "ZonaC1.met"));
+
+  const Ejecucion info = Ejecutar({"clima", "info", "D3", "--programa", programa().string()});
+  EXPECT_EQ(info.codigo, 0);
+  EXPECT_TRUE(Contiene(info.salida, "ANUAL"));
+}
+
+}  // namespace
+}  // namespace novex
