@@ -330,7 +330,71 @@ def PuentesTermicos():
     return raiz
 
 
-GENERADORES = (Capitales, CoefTransf, Defecto, FactoresConversion, Localidades,
+# Grupo de curvas del catálogo: prefijo del coeficiente y cuántos lleva.
+CURVAS_CATALOGO = (("CapTotRef_T", (("Ra", 6),)), ("ConRef_T", (("Rb", 6),)),
+                   ("CapSenRef_T", (("Re", 7),)), ("ConRef_F", (("Rc", 4),)),
+                   ("CapCal_T", (("Qaa", 6), ("Qab", 6))),
+                   ("ConCal_T", (("Qba", 6), ("Qbb", 6))), ("ConCal_F", (("Qc", 4),)),
+                   ("ren_F", (("Cc", 4),)), ("ren_T", (("Cg", 4),)))
+NOMINALES_CATALOGO = (("PotTotRef", "PotTotRef (kW)"), ("PotSenRef", "PotSenRef (kW)"),
+                      ("ConRef", "ConRef (kW)"), ("PotCal", "PotCal (kW)"),
+                      ("ConCal", "ConCal (kW)"))
+
+
+def _Curvas(modelo, filas):
+    """Añade a un modelo los grupos de curvas que tiene."""
+    for grupo, prefijos in CURVAS_CATALOGO:
+        atributos = {}
+        for prefijo, numero in prefijos:
+            if (grupo, prefijo) not in filas:
+                continue
+            fila = filas[grupo, prefijo]
+            for n in range(numero):
+                atributos[f"{prefijo}{n}"] = fila[f"c{n}"]
+            if prefijo == "Qaa":
+                atributos["Tecamb"] = fila["TeCambio (°C bulbo humedo)"]
+        if atributos:
+            modelo.Hijo(grupo, atributos)
+
+
+def Equipos():
+    """Catálogo de equipos: un modelo genérico por curva y los tamaños comerciales.
+
+    El genérico lleva las potencias del primer tamaño comercial de su curva: son
+    las que enseña la lista; al aplicarlo solo se copian las curvas.
+    """
+    curvas = {}
+    for fila in LeerHechos("curvas_equipos"):
+        clave = (fila["familia"], fila["tipo"], fila["modelo_generico"])
+        curvas.setdefault(clave, {})[
+            fila["grupo_curva"], fila["prefijo_coeficientes"]] = fila
+    comerciales = LeerHechos("equipos_comerciales")
+    primero = {}
+    for fila in comerciales:
+        primero.setdefault((fila["familia"], fila["tipo"], fila["curva_generica"]), fila)
+    if primero.keys() != curvas.keys():
+        raise ValueError("equipos_comerciales.csv y curvas_equipos.csv no se corresponden")
+    genericos = [(clave, clave[2], primero[clave]) for clave in curvas]
+    tamanos = [((f["familia"], f["tipo"], f["curva_generica"]), f["modelo"], f)
+               for f in comerciales]
+    raiz = Nodo("EquiposNovex")
+    for fabricante, modelos in (("Defecto", genericos), ("Genérico comercial", tamanos)):
+        n_fabricante = raiz.Hijo("Fabricante", {"name": fabricante})
+        n_familia = n_tipo = None
+        for clave, nombre, nominal in modelos:
+            familia, tipo, _ = clave
+            if n_familia is None or dict(n_familia.atributos)["name"] != familia:
+                n_familia, n_tipo = n_fabricante.Hijo("Familia", {"name": familia}), None
+            if n_tipo is None or dict(n_tipo.atributos)["name"] != tipo:
+                n_tipo = n_familia.Hijo("Tipo", {"name": tipo})
+            modelo = n_tipo.Hijo("Modelo", {
+                "name": nombre, "modelo": nombre,
+                **{a: nominal[c] or "0" for a, c in NOMINALES_CATALOGO}})
+            _Curvas(modelo, curvas[clave])
+    return raiz
+
+
+GENERADORES = (Capitales, CoefTransf, Defecto, Equipos, FactoresConversion, Localidades,
                NuevoUsoControl, PerfilesUso, PuentesTermicos)
 
 

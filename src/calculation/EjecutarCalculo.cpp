@@ -1,9 +1,14 @@
 #include "calculation/EjecutarCalculo.h"
 
+#include <optional>
+
 #include "calculation/ComprobarDatos.h"
 #include "calculation/PrepararCaso.h"
 #include "calculation/SimulacionCaso.h"
 #include "demand/FicherosCaso.h"
+#include "rating/EnvolventeReferencia.h"
+#include "rating/Escala.h"
+#include "rating/ValoresReferencia.h"
 
 namespace novex {
 namespace {
@@ -27,6 +32,33 @@ void EscribirFicherosDeCaso(std::string_view nombreCaso, Entorno& entorno, const
   EscribirFicheroSistemas(carpeta, nombreCaso);
 }
 
+// Pone en la referencia el edificio base con la envolvente del código. Sus equipos no cuentan: solo
+// se leen su demanda y su iluminación.
+void ConstruirReferencia(GestorEdifActivo& gestor) {
+  gestor.CrearReferencia();
+  Edificio& referencia = *gestor.Caso(caso::kReferencia);
+  DatosGenerales g = referencia.GetDatosGenerales();
+  g.WRecuperador = g.WRecuperadorr = 0;
+  g.Eficiencia_recuperador = g.Eficiencia_recuperador_Ental = 0;
+  g.PerdPresionToma = 0;
+  referencia.SetDatosGenerales(g);
+  while (referencia.NumeroSistemas() > 0) referencia.BorrarSistema(0);
+  PonerEnvolventeReferencia(referencia);
+}
+
+std::optional<DemandaReferencia> DemandaDeReferencia(GestorEdifActivo& gestor, Entorno& entorno) {
+  Edificio* referencia = gestor.Caso(caso::kReferencia);
+  if (referencia == nullptr || !CalculoDe(*referencia).Calculado()) {
+    ConstruirReferencia(gestor);
+    referencia = gestor.Caso(caso::kReferencia);
+    if (!EjecutarCalculo(*referencia, caso::kReferencia, kModoTodo, entorno)) return std::nullopt;
+  }
+  const calculo& c = *referencia->GetCalculo();
+  const float superficie = referencia->GetRecinto(0).Suelo_habitable_m2;
+  return DemandaReferencia{c.resultados.demandaCalefaccion, c.resultados.demandaRefrigeracion,
+                           c.resultados.demandaACS, c.meses.iluminacion[0] / superficie};
+}
+
 }  // namespace
 
 calculo& CalculoDe(Edificio& edificio) {
@@ -48,12 +80,23 @@ bool EjecutarCalculo(Edificio& edificio, std::string_view nombreCaso, std::strin
   return true;
 }
 
+bool CalcularCaso(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno& entorno) {
+  Edificio& edificio = *gestor.Caso(nombreCaso);
+  if (!EjecutarCalculo(edificio, nombreCaso, kModoTodo, entorno)) return false;
+  const DatosGenerales& g = edificio.GetDatosGenerales();
+  if (g.EsResidencial() || g.Tiposimulacion == "Simulacion") return true;
+  const auto referencia = DemandaDeReferencia(gestor, entorno);
+  if (!referencia) return false;
+  calculo& caso = CalculoDe(edificio);
+  PonerValoresReferencia(edificio, *referencia, caso.resultados, entorno.mensajes);
+  CalificarCaso(edificio, caso);
+  return true;
+}
+
 bool CalcularProyecto(GestorEdifActivo& gestor, Entorno& entorno) {
   bool todos = true;
-  for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i) {
-    const std::string_view nombre = GestorEdifActivo::NombreCasoUsuario(i);
-    todos = EjecutarCalculo(*gestor.Caso(nombre), nombre, kModoTodo, entorno) && todos;
-  }
+  for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i)
+    todos = CalcularCaso(gestor, GestorEdifActivo::NombreCasoUsuario(i), entorno) && todos;
   return todos;
 }
 

@@ -23,6 +23,11 @@ calculo& CalculoDe(Edificio& edificio);
 bool EjecutarCalculo(Edificio& edificio, std::string_view nombreCaso, std::string_view modo,
                      Entorno& entorno);
 
+/// Calcula un caso del proyecto y lo califica; a un uso terciario le hace antes falta el edificio
+/// de referencia, que se calcula si no tiene resultados. \returns false si falta el fichero de
+/// clima \throws lo mismo que `EjecutarCalculo`
+bool CalcularCaso(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno& entorno);
+
 /// Calcula todos los casos de usuario del proyecto, en su orden. El caso activo no cambia.
 /// \returns false si algún caso se ha quedado sin clima
 /// \throws lo mismo que `EjecutarCalculo`

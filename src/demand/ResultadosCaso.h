@@ -68,6 +68,9 @@ struct EscalaCaso {
   std::array<std::array<float, 6>, kIndicadores> th{};  ///< [indicador][th0 a th5]
   std::array<float, kIndicadores> referencia{};
   float DemandaACS = 0, DemandaACS_solar_minima = 0;  ///< kWh/m2
+  float iluminacionReferencia = 0;                    ///< kWh/m2
+  /// Totales del edificio de referencia con los servicios que el caso tiene, kg/m2 y kWh/m2.
+  float totalReferenciaEmisiones = 0, totalReferenciaPrimaria = 0;
   std::array<std::string, kIndicadores> letra;        ///< "A" a "G" o "( - )"
 };
 

@@ -15,10 +15,8 @@ void calculo::VaciarResultados() {
   resultados.forzados = previos.forzados;
   resultados.factores = previos.factores;
   resultados.defecto = previos.defecto;
-  resultados.escala.th = previos.escala.th;
-  resultados.escala.referencia = previos.escala.referencia;
-  resultados.escala.DemandaACS = previos.escala.DemandaACS;
-  resultados.escala.DemandaACS_solar_minima = previos.escala.DemandaACS_solar_minima;
+  resultados.escala = previos.escala;
+  resultados.escala.letra = {};
   zona = SeriesZona{};
   meses = TablasMensuales{};
   valores.clear();

@@ -160,10 +160,18 @@ TEST(BalanceDelAno, CierraEnUnaVivienda) {
     const double Ca = lugar.EsVerano(HoraDelMes(h)) ? Caverano : Cainvierno;
     const double carga =
         1000.0 * static_cast<double>(c.zona.cargaCalefaccion[h] + c.zona.cargaRefrigeracion[h]);
-    const double ventilador = carga == 0.0 ? 0.5 * static_cast<double>(c.zona.CV[h]) : 0.0;
     // La primera hora no cuenta lo que guarda el aire en su carga.
     const double deAire = h == 1 && carga != 0.0 ? 0.0 : Ca * (T(h - 1) - T(h));
-    const double resto = deElementos + deHistoria + deAire + ventilador - carga;
+    double ventilador = carga == 0.0 ? 0.5 * static_cast<double>(c.zona.CV[h]) : 0.0;
+    double resto = deElementos + deHistoria + deAire + ventilador - carga;
+    // Una zona que solo pasa de la consigna por el calor del ventilador se queda en ella sin carga:
+    // el balance cierra con menos de ese calor.
+    if (carga == 0.0 && c.carga.TRR[h] > 0.0F && c.zona.TSL[h] == c.carga.TRR[h]) {
+      EXPECT_GE(resto, 0.0) << h;
+      EXPECT_LE(resto, ventilador) << h;
+      ventilador -= resto;
+      resto = 0;
+    }
     peor = std::max(peor, std::fabs(resto));
     elementos += deElementos + ventilador - static_cast<double>(respuesta.K) * T(h);
     acumulado += deHistoria + static_cast<double>(respuesta.K) * T(h) + deAire;

@@ -17,9 +17,8 @@ constexpr double kRelativa = 0.002;
 constexpr double kMinimaEnergia = 0.02;     // kWh/m2
 constexpr double kMinimaEmisiones = 0.005;  // kg/m2
 
-// Los calentadores de agua no se simulan todavía: su energía y los totales se quedan fuera.
-constexpr std::array<Servicio, 3> kServiciosComparados = {kCalefaccion, kRefrigeracion,
-                                                          kVentilacion};
+constexpr std::array<Servicio, kServicios> kTodosLosServicios = {kACS, kCalefaccion, kRefrigeracion,
+                                                                 kVentilacion, kIluminacion};
 
 constexpr std::array<std::pair<const char*, UnidadEnergia>, kUnidadesEnergia> kBloques = {
     {{"energia_final", kFinal},
@@ -39,6 +38,10 @@ class Comparador {
     salida.push_back({grupo, detalle, esperado, static_cast<double>(obtenido),
                       std::max(kRelativa * std::fabs(esperado), minima)});
   }
+  void ConTolerancia(const std::string& grupo, const std::string& detalle, double esperado,
+                     float obtenido, double tolerancia) {
+    salida.push_back({grupo, detalle, esperado, static_cast<double>(obtenido), tolerancia});
+  }
   void Meses(const std::string& grupo, const std::string& detalle, const nlohmann::json& esperado,
              const TablaMensual& tabla, float factor) {
     for (std::size_t m = 1; m <= kMeses; ++m)
@@ -51,7 +54,7 @@ class Comparador {
 // Energía final de los meses: los vectores que no se usan no están entre los esperados.
 void CompararVectores(const nlohmann::json& esperado, const CasoPrueba& caso, Comparador& c) {
   const float area = caso.Viejo().GetRecinto(0).Suelo_habitable_m2;
-  for (const Servicio s : kServiciosComparados)
+  for (const Servicio s : kTodosLosServicios)
     for (std::size_t v = 0; v < kVectores; ++v) {
       const nlohmann::json& servicio = esperado.at(Clave(s));
       const auto it = servicio.find(kNombreVector[v]);
@@ -165,12 +168,20 @@ std::vector<Comparacion> CompararResultados(const nlohmann::json& esperado,
   for (const Servicio s : {kCalefaccion, kRefrigeracion, kACS})
     c.Meses("demanda mensual", Clave(s), mensual.at("demanda").at(Clave(s)),
             caso.Resultado().meses.demanda[s], s == kCalefaccion ? -1.0F : 1.0F);
-  for (const auto& [bloque, unidad] : kBloques)
-    for (const Servicio s : kServiciosComparados)
+  for (const auto& [bloque, unidad] : kBloques) {
+    const double minima = unidad == kEmisiones ? kMinimaEmisiones : kMinimaEnergia;
+    for (const Servicio s : kTodosLosServicios)
       c.Anadir(bloque, Clave(s), esperado.at(bloque).at(Clave(s)),
-               r.servicio[s].porUnidad[unidad][0],
-               unidad == kEmisiones ? kMinimaEmisiones : kMinimaEnergia);
+               r.servicio[s].porUnidad[unidad][0], minima);
+    c.Anadir(bloque, "total", esperado.at(bloque).at("total"), r.total[unidad], minima);
+  }
   CompararVectores(mensual.at("energia_final"), caso, c);
+  const double ocupacion = esperado.at("horas_ocupacion");
+  const nlohmann::json& fuera = esperado.at("horas_fuera_consigna");
+  c.ConTolerancia("horas fuera", "calefaccion", fuera.at("calefaccion"), r.horasFueraCalefaccion,
+                  0.01 * ocupacion);
+  c.ConTolerancia("horas fuera", "refrigeracion", fuera.at("refrigeracion"),
+                  r.horasFueraRefrigeracion, 0.01 * ocupacion);
   return c.salida;
 }
 

@@ -24,6 +24,7 @@ bool ListaCorta() {
 
 std::vector<std::string> Viviendas() {
   std::vector<std::string> nombres = pruebas::NombresCasos('v');
+  for (const std::string& n : pruebas::NombresCasos('s')) nombres.push_back(n);
   if (ListaCorta()) nombres.resize(1);
   return nombres;
 }
@@ -68,30 +69,10 @@ TEST_P(Vivienda, ConcuerdaConElCalculoIndependiente) {
   }
 
   for (const auto& [clave, letra] : esperado.at("letras").items()) {
-    // Sin los calentadores simulados, el agua caliente y los totales no llevan su letra.
-    if (clave.ends_with("ACS") || clave.ends_with("Totales")) continue;
     const auto i = static_cast<std::size_t>(IndicadorDeClave(clave));
     EXPECT_EQ(r.escala.letra[i], letra.get<std::string>()) << clave;
   }
   EXPECT_EQ(r.horasOcupacion, esperado.at("horas_ocupacion").get<float>());
-  EXPECT_EQ(r.horasFueraCalefaccion, 0.0F);
-  EXPECT_EQ(r.horasFueraRefrigeracion, 0.0F);
-}
-
-// El equipo por defecto de una vivienda es una caldera de gas de rendimiento 0,92.
-TEST_P(Vivienda, ElAguaCalienteLaDaElEquipoPorDefecto) {
-  const CasoPrueba caso(GetParam(), CarpetaCasos() / "programa");
-  ASSERT_TRUE(caso.calculado);
-  const ResultadosCaso& r = caso.Resultado().resultados;
-  const float area = caso.Viejo().GetRecinto(0).Suelo_habitable_m2;
-  ASSERT_GT(r.demandaACS, 10.0F);
-  const float final = r.demandaACS / 0.92F;
-  EXPECT_NEAR(r.servicio[kACS].porUnidad[kFinal][0], final, 1e-4F * final);
-  const auto& vectores = r.servicio[kACS].finalPorVector;
-  EXPECT_NEAR(vectores[Indice(VectorEnergetico::GasNatural)][0] / area, final, 1e-4F * final);
-  float suma = 0;
-  for (const TablaMensual& vector : vectores) suma += std::fabs(vector[0]);
-  EXPECT_EQ(suma, vectores[Indice(VectorEnergetico::GasNatural)][0]);
 }
 
 INSTANTIATE_TEST_SUITE_P(Casos, Vivienda, testing::ValuesIn(Viviendas()),

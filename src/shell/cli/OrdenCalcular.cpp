@@ -65,7 +65,7 @@ std::vector<CasoCalculado> CalcularCasos(GestorEdifActivo& gestor,
   std::vector<CasoCalculado> calculados;
   for (const std::string& nombre : nombres) {
     Edificio& edificio = *gestor.Caso(nombre);
-    if (!EjecutarCalculo(edificio, nombre, kModoTodo, entorno)) return {};
+    if (!CalcularCaso(gestor, nombre, entorno)) return {};
     calculados.push_back({nombre, &edificio, edificio.GetCalculo().get(), mensajes.Tomar()});
   }
   return calculados;
