@@ -51,14 +51,30 @@ def _Calculable(e, proyecto):
     for ranura, (_, capas, _) in proyecto.composiciones.items():
         if "Cámara" in capas[0].nombre or "Cámara" in capas[-1].nombre:
             yield f"{ranura} empieza o acaba en cámara de aire"
-    bloque = proyecto.g["PerfilUso"] == "1"
-    if bloque:
+    yield from _AguaCaliente(e, proyecto.g["PerfilUso"])
+
+
+def _AguaCaliente(e, perfil):
+    """Un equipo por vivienda, o uno central, y un solo esquema solar."""
+    sistemas = [s for s in e.sistemas if "ACS" in s["tipo"].split("+")]
+    individuales = [s for s in sistemas if not s["central"]]
+    if perfil == "1":
         for i, v in enumerate(e.viviendas):
-            equipos = sum(s["equipos"] for s in e.sistemas if s["tipo_vivienda"] == i)
-            if equipos != v.numero:
+            equipos = sum(s["equipos"] for s in individuales if s["tipo_vivienda"] == i)
+            if individuales and equipos != v.numero:
                 yield f"calentadores del tipo {i}: {equipos} para {v.numero} viviendas"
-    elif len(e.sistemas) != 1 or e.sistemas[0]["equipos"] != 1:
+        if not sistemas:
+            yield "el bloque no tiene agua caliente"
+    elif not e.terciario and (len(sistemas) != 1
+                              or sistemas[0]["equipos"] != 1):
         yield "una vivienda lleva un solo equipo de agua caliente"
+    if not e.terciario and any(g.tipo == "Escaparate" for g in e.huecos):
+        yield "una vivienda no tiene escaparates"
+    captadores = e.instalacion["campos"].get("N_colec_term", "0") != "0"
+    solares = {v for s in sistemas for k, v in s["campos"].items()
+               if k.startswith("Alimentacion") and "solar" in v}
+    if len(solares) != (1 if captadores else 0):
+        yield "los captadores y la alimentación de los depósitos no se corresponden"
 
 
 def _Administrativo(g):

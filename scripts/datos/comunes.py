@@ -72,11 +72,16 @@ def General(titulo, **datos):
     return {**comunes, "Edificio_Titulo": titulo, **datos}
 
 
-def Instalacion(**datos):
-    """Ventilación: híbrida sin recuperador salvo que se diga."""
+def Instalacion(campos=(), **datos):
+    """Ventilación: híbrida sin recuperador salvo que se diga.
+
+    `campos` son los de captadores solares y fotovoltaica, por su etiqueta; `varios`,
+    los del tratamiento de aire en uso terciario.
+    """
     return {"TipoVentilacion2": "Hibrida", "Recuperador": "No", "WRecuperador": 100,
-            "WRecuperadorr": 25, "Temaxrec": 30, "Eficiencia_recuperador": 75,
-            "NVBloqueF": 1, **datos}
+            "WRecuperadorr": 25, "Teminrec": 15, "Temaxrec": 30,
+            "Eficiencia_recuperador": 75, "Eficiencia_recuperador_Ental": 25,
+            "NVBloqueF": 1, "varios": {}, "campos": dict(campos), **datos}
 
 
 def Rectangulo(x, y, ancho, fondo):

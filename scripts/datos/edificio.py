@@ -131,14 +131,13 @@ class Capa:
 
 
 class Catalogo:
-    """Materiales, vidrios, marcos y curvas de los hechos."""
+    """Materiales, vidrios y marcos de los hechos."""
 
     def __init__(self):
         self._materiales = {}
         for fila in LeerHechos("materiales"):
             self._materiales.setdefault(fila["nombre"], fila)
         self._huecos = LeerHechos("vidrios_marcos")
-        self._curvas = LeerHechos("curvas_equipos")
 
     def Capa(self, nombre, espesor, ranura):
         """Capa de un material con otro espesor; rt = e/k, o la tabla si es cámara."""
@@ -171,18 +170,6 @@ class Catalogo:
             if fila["nombre"] == nombre:
                 return fila, posicion
         raise KeyError((tabla, indice, nombre))
-
-    def CurvasCaldera(self, modelo):
-        """{cC0..gC3: coeficiente} del modelo genérico de generador."""
-        curvas = {}
-        for fila in self._curvas:
-            if fila["familia"] == "Generadores" and fila["modelo_generico"] == modelo:
-                prefijo = {"Cc": "cC", "Cg": "gC"}[fila["prefijo_coeficientes"]]
-                for n in range(4):
-                    curvas[f"{prefijo}{n}"] = float(fila[f"c{n}"])
-        if len(curvas) != 8:
-            raise KeyError(modelo)
-        return curvas
 
 
 def TransmitanciaCapas(capas, ranura):
@@ -230,7 +217,8 @@ PSI_VIDRIO = {  # por tipo de vidrio: marco 0; 1 y 2; 3 a 6; 7 (W/mK)
 
 FACTOR_SOMBRA = {  # DA DB-HE/1 tabla 12: sencillo, doble, bajo emisivo
     0: (1.0, 1.0, 1.0), 1: (0.06, 0.05, 0.03), 2: (0.11, 0.08, 0.05),
-    3: (0.15, 0.11, 0.08), 13: (0.06, 0.05, 0.03)}
+    3: (0.15, 0.11, 0.08), 7: (0.34, 0.34, 0.34), 10: (0.53, 0.51, 0.49),
+    13: (0.06, 0.05, 0.03)}
 
 
 def DatosHueco(grupo, catalogo):
@@ -268,6 +256,8 @@ def DatosHueco(grupo, catalogo):
 # ------------------------------------------------------- magnitudes de norma
 
 PUENTES_DEFECTO = {  # psi / factor de temperatura, por zona: orden de PUENTES
+    "A3": ((0.22, 0.63), (0.41, 0.70), (0.42, 0.68), (0.42, 0.68),
+           (0.16, 0.76), (0.87, 0.56), (0.13, 0.72)),
     "B3": ((0.27, 0.63), (0.42, 0.72), (0.46, 0.71), (0.43, 0.71),
            (0.16, 0.78), (0.87, 0.59), (0.13, 0.73)),
     "C1": ((0.27, 0.63), (0.41, 0.75), (0.46, 0.72), (0.43, 0.72),
@@ -277,9 +267,33 @@ PUENTES_DEFECTO = {  # psi / factor de temperatura, por zona: orden de PUENTES
     "E1": ((0.29, 0.67), (0.39, 0.79), (0.46, 0.76), (0.43, 0.76),
            (0.16, 0.83), (0.72, 0.67), (0.13, 0.78)),
 }
+PUENTES_DEFECTO["B4"] = PUENTES_DEFECTO["B3"]
 PUENTES_DEFECTO["C2"] = PUENTES_DEFECTO["C1"]
+PUENTES_DEFECTO["D1"] = PUENTES_DEFECTO["D3"]
 PUENTES = ("ventanas", "forjados", "cubiertas", "suelo_exterior",
            "esquina_saliente", "pilares", "suelo_terreno")
+
+
+@dataclass
+class Terciario:
+    """Uso no residencial: perfil, ocupación, aire exterior, agua y alumbrado."""
+    clave: str  # "8hM", "12hM"..
+    actividad: str
+    m2_persona: float
+    aire_persona: float  # m3/h (RITE, IT 1.1.4.2)
+    litros_persona: float  # al día, a 60 °C
+    alumbrado: float  # W/m2
+    lux: float
+    veei_max: tuple  # límite y texto de la lista
+    equipos: float  # W/m2
+
+    def personas(self, suelo):
+        return suelo / self.m2_persona
+
+    def perfil(self):
+        """Texto del perfil normalizado del espacio."""
+        carga = {"B": "baja", "M": "media", "A": "alta"}[self.clave[-1]]
+        return f"noresidencial-{self.clave[:-1]}-{carga}"
 
 
 @dataclass
@@ -376,6 +390,7 @@ class Edificio:
     volumen_cubierta: float = 0.0
     fuera_de_plano: tuple = ()
     forjado: float = 0.30
+    terciario: Terciario = None
 
     def suelo(self):
         return round(sum(p.superficie() * p.veces for p in self.plantas), 1)
@@ -417,11 +432,17 @@ class Edificio:
 
     def agua_caliente(self):
         """Litros al día a 60 °C: 28 por persona y el factor de centralización."""
+        if self.terciario:
+            t = self.terciario
+            return t.personas(self.suelo()) * t.litros_persona
         personas = sum(v.numero * v.personas() for v in self.viviendas)
         return 28 * personas * FactorCentralizacion(self.numero_viviendas())
 
     def renovaciones(self):
-        caudal = sum(v.numero * v.caudal() for v in self.viviendas) * 3.6
+        if self.terciario:
+            caudal = self.terciario.personas(self.suelo()) * self.terciario.aire_persona
+        else:
+            caudal = sum(v.numero * v.caudal() for v in self.viviendas) * 3.6
         return round(caudal / self.volumen(), 2)
 
     def longitudes_puentes(self):

@@ -260,6 +260,15 @@ def NumerarAtributos(valores):
     return {f"C{i}": v for i, v in enumerate(valores, 1)}
 
 
+def PicosTerciario(clave):
+    """(ocupación sensible, latente, equipos) en W/m2 de una clave de perfil."""
+    carga = {"B": "baja", "M": "media", "A": "alta"}[clave[-1]]
+    (fila,) = (f for f in LeerHechos("perfiles_terciario_picos")
+               if f["carga_interna"] == carga)
+    return tuple(fila[c] for c in ("ocupacion_sensible_W_m2", "ocupacion_latente_W_m2",
+                                   "equipos_W_m2"))
+
+
 PERFILES = [("Residencial", "Residencial", None)] + [
     (horas + letra, horas, carga) for horas in HORARIOS[1:]
     for letra, carga in (("B", "baja"), ("M", "media"), ("A", "alta"))]

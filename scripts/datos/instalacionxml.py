@@ -1,24 +1,31 @@
-"""Sección de instalaciones de un proyecto: ventilación y agua caliente.
+"""Sección de instalaciones de un proyecto: ventilación, captadores y sistemas.
 
-Los valores que la simulación de un calentador o un termo no usa son los que el
-programa pone al crear el sistema.
+Lo que un sistema no dice es lo que el programa pone al crearlo.
 """
 
 import math
 
+from equipos import CURVAS, CatalogoEquipos
+from sistemas import COMERCIAL
 from textoxml import Fijo
 
 RED = "Alimentación agua red"
 
 BOMBAS = ("SBZ", "GEN1", "GEN2", "DEP", "INT", "RET")
-CURVAS = ([f"{f}{i}" for f in ("aaQ", "abQ", "baQ", "bbQ") for i in range(6)]
-          + [f"cQ{i}" for i in range(4)] + [f"aR{i}" for i in range(6)]
-          + [f"eR{i}" for i in range(7)] + [f"bR{i}" for i in range(6)]
-          + [f"{f}{i}" for f in ("cR", "cC", "gC") for i in range(4)] + ["TeCambio"])
+
+# Decimales de los campos con número; los que no están son texto.
+DECIMALES = {
+    **dict.fromkeys(("NEmisores", "NEquipos", "NHretorno", "TimpCalor", "saltoGenerador",
+                     "TimpACS", "TimpFrio", "saltoZona", "CaudalVent", "SaltoPVent",
+                     "Nradiadores", "DTRET"), 0),
+    **dict.fromkeys(("EControlTe", "LD_deposito", "DTSBZ", "DTGEN1", "DTGEN2", "DTDEP",
+                     "DTINT"), 1)}
+DECIMALES_CORRIENTES = 2
 
 
 def _Generales(n, edificio):
     i = edificio.instalacion
+    propios = dict(i["campos"])
     for etiqueta, valor in (
             ("Aporte_fotovoltaico_kwh_ano", "0.00"), ("Existe_fotovoltaica", "No"),
             ("Uso_fotovoltaico", "Refrigeracion"),
@@ -40,18 +47,22 @@ def _Generales(n, edificio):
             ("WBombRECST", "0.00"), ("WEnergiaFinalVent", "0.00"),
             ("WEnergiaFinalVentUTC", "0.00"), ("WEnergiaFinalVentUTR", "0.00"),
             ("Tipon50", "Teorico"), ("Valorn50", "0.00"),
-            ("TipoVentilacion2", i["TipoVentilacion2"]), ("ManejoVentanas2", "Abiertas"),
+            ("TipoVentilacion2", i["TipoVentilacion2"]),
+            ("ManejoVentanas2", "Cerradas" if edificio.terciario else "Abiertas"),
             ("Recuperador", i["Recuperador"]), ("ERelaMasa", "1.00"),
             ("NVBloqueF", str(i["NVBloqueF"])),
             ("WRecuperador", Fijo(i["WRecuperador"], 2)),
-            ("WRecuperadorr", Fijo(i["WRecuperadorr"], 2)), ("Teminrec", "15.0"),
+            ("WRecuperadorr", Fijo(i["WRecuperadorr"], 2)),
+            ("Teminrec", Fijo(i["Teminrec"], 1)),
             ("Temaxrec", Fijo(i["Temaxrec"], 1)), ("TminImp", "14.0"), ("HRmin", "30"),
             ("Eficiencia_recuperador", str(i["Eficiencia_recuperador"])),
-            ("Eficiencia_recuperador_Ental", "25"),
+            ("Eficiencia_recuperador_Ental", str(i["Eficiencia_recuperador_Ental"])),
             ("ConsumoAgua_litros_dia", Fijo(edificio.agua_caliente(), 2)),
             ("ConsumoVentilacionAExt", "0.00")):
-        n.Hoja(etiqueta, valor)
-    if i["TipoVentilacion2"] == "Mecanica":
+        n.Hoja(etiqueta, propios.pop(etiqueta, valor))
+    if propios:
+        raise KeyError(f"campos desconocidos: {sorted(propios)}")
+    if i["TipoVentilacion2"] == "Mecanica" and not edificio.terciario:
         for etiqueta in ("Caudal2Vent", "PotenciaEspecificaVent",
                          "ConsumoVentilacionAExt"):
             n.Hoja(etiqueta, "0.00")
@@ -66,71 +77,107 @@ def _Deposito(volumen):
     return serpentin, 1.01 * superficie
 
 
-def _Sistema(n, edificio, catalogo, s, orden):
-    """Un sistema de ACS individual, calentador instantáneo o termo eléctrico."""
-    termo = s["seleccion"] == "1 Termo electrico"
-    unidades = edificio.numero_viviendas()
-    litros = edificio.agua_caliente() / unidades
-    p = litros * 0.5 * 4.18 * 45 / 3600  # kW de dimensionado por vivienda
-    caudal = p * 3600 / (4.18 * 5)
-    serpentin, ua = _Deposito(litros)
+def _Superficies(edificio, s):
+    """m2 que sirve: los de agua caliente van con las viviendas que tienen el equipo."""
     area = edificio.suelo()
-    caudales = {"SBZ": caudal, "GEN1": caudal, "GEN2": caudal, "DEP": caudal / 2,
-                "INT": caudal, "RET": 250.0}
-    for etiqueta, valor in (
-            ("Tipo_sistema", "ACS"), ("Nombre_sistema", f"Sistema {orden}"),
-            ("Sup_ACS", Fijo(area * s["equipos"] / unidades, 2)),
-            ("Sup_Calefaccion", "0.00"), ("Sup_Refrigeracion", "0.00"),
-            ("Seleccion", s["seleccion"]), ("TipoInstalacionesG", "Individual/Vivienda"),
-            ("TipoGenerador1", s["generador"]), ("TipoBC1", "Monoblock"),
-            ("TipoGenerador2", "Condensacion"), ("TipoBC12", "Monoblock"),
-            ("Distribucion", "Con colector"), ("Distribucion2", "Directo"),
-            ("Retorno", "Sin retorno"), ("Alimentacion", RED), ("Alimentacion2", RED),
-            ("Alimentacion3", RED), ("Alimentacion4", RED), ("EControlTe", "7.0"),
-            ("NEmisores", "1"), ("Emisor", "Fancoil"),
-            ("ConsumoEmisor", "Consumo vent. unidad int. incluido"),
-            ("NEquipos", str(s["equipos"])),
-            ("Long_tuberias", Fijo(max(3 * math.sqrt(area) / unidades, 15.0), 2)),
-            ("Pot_perdida_m_tub", "0.20"), ("NHretorno", "0"),
-            ("Distanciaext_int", "1.00"), ("Perdida_m_tub_ext_int", "0.30"),
-            ("Volumen", Fijo(litros, 2)), ("UA_deposito", Fijo(ua, 2)),
-            ("LD_deposito", "2.0"), ("TaltaD", "60.00"),
-            ("TbajaD", "50.00" if termo else "45.00"), ("AintermbD", Fijo(serpentin, 2)),
-            ("AintermbD2", Fijo(serpentin, 2)), ("EfiIntercamb", "80.00")):
-        n.Hoja(etiqueta, valor)
+    parte = 1 if s["central"] else s["equipos"] / edificio.numero_viviendas()
+    servicios = s["tipo"].split("+")
+    return {"Sup_ACS": area * parte if "ACS" in servicios else 0.0,
+            "Sup_Calefaccion": area if "Calefaccion" in servicios else 0.0,
+            "Sup_Refrigeracion": area if "Refrigeracion" in servicios else 0.0}
+
+
+def _Acumulacion(edificio, s, litros):
+    """Depósito, intercambiador y tuberías; a cero sin agua caliente."""
+    if "ACS" not in s["tipo"].split("+"):
+        return {"Long_tuberias": 0.0, "Volumen": 0.0, "UA_deposito": 0.0,
+                "LD_deposito": 0.0, "TaltaD": 0.0, "TbajaD": 0.0, "AintermbD": 0.0,
+                "AintermbD2": 0.0}
+    unidades = 1 if s["central"] else edificio.numero_viviendas()
+    volumen = s["campos"].get("Volumen", litros / 2 if s["central"] else litros)
+    serpentin, ua = _Deposito(volumen)
+    return {"Long_tuberias": max(3 * math.sqrt(edificio.suelo()) / unidades, 15.0),
+            "Volumen": volumen, "UA_deposito": ua, "LD_deposito": 2.0, "TaltaD": 60.0,
+            "TbajaD": 45.0, "AintermbD": serpentin, "AintermbD2": serpentin}
+
+
+def _Bombas(edificio, s, p):
+    """Caudal (l/h), salto, altura, rendimiento y control de cada bomba."""
+    caudal = p * 3600 / (4.18 * 5)
+    acs = "ACS" in s["tipo"].split("+")
+    caudales = {"SBZ": caudal, "GEN1": caudal, "GEN2": caudal,
+                "DEP": caudal / 2 if acs else 0.0,
+                "INT": (caudal if s["tipo"] == "ACS" else caudal / 2) if acs else 0.0,
+                "RET": 250.0 if acs else 0.0}
+    campos = {}
     for bomba in BOMBAS:
-        n.Hoja("Caudal" + bomba, Fijo(caudales[bomba], 2))
-        n.Hoja("DT" + bomba, "5" if bomba == "RET" else "5.0")
-        presion = 0.12 * math.sqrt(area) + 2 if bomba == "SBZ" else 2.0
-        n.Hoja("P" + bomba, Fijo(presion, 2))
-        n.Hoja("Rend" + bomba, "0.55")
-        n.Hoja("control" + bomba, "Cte")
-    for etiqueta, valor in (
-            ("TimpCalor", "50"), ("saltoGenerador", "5"), ("TimpACS", "50"),
-            ("TimpFrio", "7"), ("saltoZona", "5"), ("CaudalVent", Fijo(250 * p, 0)),
-            ("SaltoPVent", "125"), ("rendVent", "0.60"),
-            ("QcalorCaldera1", Fijo(s["potencia"], 2)),
-            ("RendCalor1", Fijo(s["rendimiento"], 2)), ("CombCalor1", s["combustible"]),
-            ("CombCalorBio1", "Biomasa_Pellet"), ("RadiadorElectrico", "2.00"),
-            ("Nradiadores", str(s["tipo_vivienda"])),
-            ("QcalorCaldera2", Fijo(s["potencia"], 2)), ("RendCalor2", "0.95"),
-            ("CombCalor2", "GasNatural"), ("CombCalorBio2", "Biomasa_Otros"),
-            ("QcalorBC1", Fijo(p, 2)), ("WeCalor1", Fijo(p / 3, 2)),
-            ("QcalorBC2", "0.00"), ("WeCalor2", "0.00"), ("RendCalorEst", "3.60"),
-            ("RendFrioEst", "3.00"), ("RendACSEst", "2.50"), ("SCOP", "2.65"),
-            ("QFrioSen1", Fijo(0.7 * p, 2)), ("QFrioTot1", Fijo(p, 2)),
-            ("WeFrio1", Fijo(0.4 * p, 2)), ("QFrioSen2", "0.00"), ("QFrioTot2", "0.00"),
-            ("WeFrio2", "0.00"), ("QApoyoEquipo", "2.00"), ("QApoyoTermo", "2.00"),
-            ("CombEst", "Electricidad"), ("Fabricante", "" if termo else "Defecto"),
-            ("Modelo", "" if termo else s["modelo"])):
-        n.Hoja(etiqueta, valor)
-    curvas = {} if termo else catalogo.CurvasCaldera(s["modelo"])
+        presion = 0.12 * math.sqrt(edificio.suelo()) + 2 if bomba == "SBZ" else 2.0
+        campos.update({"Caudal" + bomba: caudales[bomba], "DT" + bomba: 5,
+                       "P" + bomba: presion, "Rend" + bomba: 0.55,
+                       "control" + bomba: "Cte"})
+    return campos
+
+
+def _Nominales(s, catalogo):
+    """Potencias de un modelo comercial, kW, con las etiquetas del proyecto."""
+    if s["curvas"] is None or s["curvas"][0] != COMERCIAL:
+        return {}
+    return catalogo.Nominales(s["curvas"][1])
+
+
+def _Campos(edificio, s, orden, catalogo):
+    """Todos los campos de un sistema, en su orden."""
+    unidades = 1 if s["central"] else edificio.numero_viviendas()
+    litros = edificio.agua_caliente() / unidades
+    # kW de dimensionado del equipo.
+    p = litros * 0.5 * 4.18 * 45 / 3600 if s["tipo"] == "ACS" else s["potencia"]
+    tipologia = "Centralizada/Bloque" if s["central"] else "Individual/Vivienda"
+    fabricante, modelo = s["curvas"] or ("", "")
+    aire = s["seleccion"].startswith("Equipo") or "refrigerante" in s["seleccion"]
+    acumulacion = _Acumulacion(edificio, s, litros)
+    campos = {
+        "Tipo_sistema": s["tipo"], "Nombre_sistema": f"Sistema {orden}",
+        **_Superficies(edificio, s), "Seleccion": s["seleccion"],
+        "TipoInstalacionesG": tipologia, "TipoGenerador1": "Condensacion",
+        "TipoBC1": "Monoblock", "TipoGenerador2": "Condensacion", "TipoBC12": "Monoblock",
+        "Distribucion": "Con colector", "Distribucion2": "Directo",
+        "Retorno": "Sin retorno", "Alimentacion": RED, "Alimentacion2": RED,
+        "Alimentacion3": RED, "Alimentacion4": RED, "EControlTe": 7.0, "NEmisores": 1,
+        "Emisor": "Unid.Interior" if aire else "Fancoil",
+        "ConsumoEmisor": "Consumo vent. unidad int. incluido", "NEquipos": s["equipos"],
+        "Long_tuberias": acumulacion.pop("Long_tuberias"), "Pot_perdida_m_tub": 0.2,
+        "NHretorno": 0, "Distanciaext_int": 1.0, "Perdida_m_tub_ext_int": 0.3,
+        **acumulacion, "EfiIntercamb": 80.0, **_Bombas(edificio, s, p),
+        "TimpCalor": 50, "saltoGenerador": 5, "TimpACS": 50, "TimpFrio": 7, "saltoZona": 5,
+        "CaudalVent": 250 * p, "SaltoPVent": 125, "rendVent": 0.6, "QcalorCaldera1": 16.0,
+        "RendCalor1": 0.95, "CombCalor1": "GasNatural", "CombCalorBio1": "Biomasa_Pellet",
+        "RadiadorElectrico": 2.0, "Nradiadores": s["tipo_vivienda"],
+        "QcalorCaldera2": 16.0, "RendCalor2": 0.95, "CombCalor2": "GasNatural",
+        "CombCalorBio2": "Biomasa_Otros", "QcalorBC1": p, "WeCalor1": p / 3,
+        "QcalorBC2": 0.0, "WeCalor2": 0.0, "RendCalorEst": 3.6, "RendFrioEst": 3.0,
+        "RendACSEst": 2.5, "SCOP": 2.65, "QFrioSen1": 0.7 * p, "QFrioTot1": p,
+        "WeFrio1": 0.4 * p, "QFrioSen2": 0.0, "QFrioTot2": 0.0, "WeFrio2": 0.0,
+        "QApoyoEquipo": 2.0, "QApoyoTermo": 2.0, "CombEst": "Electricidad",
+        "Fabricante": fabricante, "Modelo": modelo}
+    for etiqueta, valor in {**_Nominales(s, catalogo), **s["campos"]}.items():
+        if etiqueta not in campos:
+            raise KeyError(etiqueta)
+        campos[etiqueta] = valor
+    return campos
+
+
+def _Sistema(n, edificio, catalogo, s, orden):
+    for etiqueta, valor in _Campos(edificio, s, orden, catalogo).items():
+        n.Hoja(etiqueta, valor if isinstance(valor, str)
+               else Fijo(valor, DECIMALES.get(etiqueta, DECIMALES_CORRIENTES)))
+    curvas = catalogo.Curvas(s["curvas"][1]) if s["curvas"] else {}
     for coeficiente in CURVAS:
         n.Hoja(coeficiente, Fijo(curvas.get(coeficiente, 0.0), 8))
 
 
-def EscribirInstalaciones(n, edificio, catalogo):
+def EscribirInstalaciones(n, edificio):
     """Datos comunes y un nodo por sistema, en el orden del edificio."""
+    catalogo = CatalogoEquipos()
     _Generales(n, edificio)
     for orden, sistema in enumerate(edificio.sistemas, 1):
         _Sistema(n.Hijo("Tipo_sistema"), edificio, catalogo, sistema, orden)

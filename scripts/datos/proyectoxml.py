@@ -3,7 +3,7 @@
 from edificio import (PUENTES, PUENTES_DEFECTO, SECTORES, DatosHueco,
                       TransmitanciaCapas)
 from generar import (CLASES_DIA, FAMILIAS, NOMBRES_MESES, AccionMes, Calendario,
-                     NumerarAtributos, TablasHorarias)
+                     NumerarAtributos, PicosTerciario, TablasHorarias)
 from instalacionxml import EscribirInstalaciones
 from textoxml import Fijo, Nodo
 
@@ -21,7 +21,9 @@ RANURAS = (
 
 COMUNIDADES = {"Madrid": "Comunidad de Madrid", "A Coruña": "Galicia",
                "Valencia/València": "Comunidad Valenciana",
-               "Barcelona": "Cataluña", "Soria": "Castilla y León"}
+               "Barcelona": "Cataluña", "Soria": "Castilla y León",
+               "Navarra": "Comunidad Foral de Navarra", "Murcia": "Región de Murcia",
+               "Sevilla": "Andalucía", "Málaga": "Andalucía", "Vizcaya": "País Vasco"}
 
 OBSTACULOS = {"oeste": ("oeste", "sur_oeste"), "sur_oeste": ("oeste", "sur_oeste", "sur"),
               "sur": ("sur_oeste", "sur", "sur_este"),
@@ -75,7 +77,7 @@ class Proyecto:
         for grupo in self.e.huecos:
             self._Hueco(huecos.Hijo("Hueco"), grupo)
         self._Capas(n)
-        EscribirInstalaciones(n.Hijo("Instalaciones"), self.e, self.catalogo)
+        EscribirInstalaciones(n.Hijo("Instalaciones"), self.e)
         return raiz.Documento()
 
     # ----------------------------------------------------- datos generales
@@ -105,7 +107,7 @@ class Proyecto:
             n.Hoja(etiqueta, g[etiqueta])
         n.Hoja("Otra_legislacion_aplicable", "Ninguna")
         n.Hoja("GradoProteccion", "Ninguna")
-        n.Hoja("Uso", "ResidencialPrivado")
+        n.Hoja("Uso", g["Uso"])
         n.Hoja("ZonaClimatica", g["ZonaClimatica"])
         n.Hoja("asnm", g["asnm"])
         n.Hoja("Pt", "0")
@@ -125,7 +127,8 @@ class Proyecto:
         g, c = self.g, self.g["Certificador"]
         certificado = n.Hijo("DatosCertificado")
         certificado.Hijo("TipoCertificado", (), g["TipoCertificado"])
-        certificado.Hijo("Escala", (), "ViviendaUnifamiliar" if g["PerfilUso"] == "0"
+        certificado.Hijo("Escala", (), "Terciario" if self.e.terciario
+                         else "ViviendaUnifamiliar" if g["PerfilUso"] == "0"
                          else "ViviendaBloque")
         procedimiento = certificado.Hijo("Procedimiento")
         nombre, version = VERSION.split(" ")
@@ -172,18 +175,36 @@ class Proyecto:
     def _CaudalVentilacion(self):
         return self.e.renovaciones() * self.e.volumen()
 
-    def _DatosUso(self, n):
-        i = self.e.instalacion
-        n.Hoja("Tipo", "Residencial")
+    def _ValoresUso(self, n):
+        """Picos y alumbrado: en vivienda van en las tablas y aquí son cero."""
+        t = self.e.terciario
+        picos = PicosTerciario(t.clave) if t else ("0.00", "0.00", "0.00")
         n.Hijo("Valores_Maximos", {
-            "Sensibleocupantes": "0.00", "Latenteocupantes": "0.00",
-            "Ventilacion": Fijo(self._CaudalVentilacion(), 0), "Iluminacion": "0.00",
-            "Equipos": "0.00", "QOCUPSSimple": "0.00", "QOCUPLSimple": "0.00",
-            "Actividad": "", "CriterioACS": "", "Nm2_p": "0.00"})
-        n.Hijo("Iluminacion", {"VEII": "0.00", "Lux": "0.00", "EPotIluMax": "0.00",
-                               "Qescaparates": "0", "VEIIMax": "0.00", "TipoVEIIMax": ""})
-        n.Hijo("Varios", {
-            "WRecuperadorr": Fijo(i["WRecuperadorr"], 0), "Teminrec": "15.0",
+            "Sensibleocupantes": picos[0], "Latenteocupantes": picos[1],
+            "Ventilacion": Fijo(self._CaudalVentilacion(), 0),
+            "Iluminacion": Fijo(t.alumbrado if t else 0.0, 2),
+            "Equipos": Fijo(t.equipos, 2) if t else "0.00", "QOCUPSSimple": "0.00",
+            "QOCUPLSimple": "0.00", "Actividad": t.actividad if t else "",
+            "CriterioACS": "Personas" if t else "",
+            "Nm2_p": Fijo(t.m2_persona if t else 0.0, 2)})
+        n.Hijo("Iluminacion", {
+            "VEII": Fijo(self._Veei(), 2), "Lux": Fijo(t.lux if t else 0.0, 2),
+            "EPotIluMax": "10.00" if t else "0.00", "Qescaparates": "0",
+            "VEIIMax": Fijo(t.veei_max[0] if t else 0.0, 2),
+            "TipoVEIIMax": t.veei_max[1] if t else ""})
+
+    def _Veei(self):
+        """Eficiencia del alumbrado, W/m2 por 100 lux."""
+        t = self.e.terciario
+        return 100 * t.alumbrado / t.lux if t else 0.0
+
+    def _DatosUso(self, n):
+        i, t = self.e.instalacion, self.e.terciario
+        n.Hoja("Tipo", t.clave if t else "Residencial")
+        self._ValoresUso(n)
+        varios = {
+            "WRecuperadorr": Fijo(i["WRecuperadorr"], 0),
+            "Teminrec": Fijo(i["Teminrec"], 1),
             "Temaxrec": Fijo(i["Temaxrec"], 1), "TminImp": "14.0", "HRmin": "30",
             "NEquiposVent": "1", "ManejoVentilacion": "TomaUT",
             "TipoCO2": "Coef. operacionales", "ControlVent": "Control por compuertas",
@@ -191,14 +212,17 @@ class Proyecto:
             "TminFreeCooling": "10", "CaudalUTA": "0", "RendVentToma": "0.60",
             "PerdPresionToma": "75", "SuperficieTotalHE5": "0.00",
             "SuperficieCubiertaHE5": "0.00", "SuperficieCaptadorestermHE5": "0.00",
-            "RehabIntegralHE5": "No"})
-        tablas = TablasHorarias("Residencial")
+            "RehabIntegralHE5": "No"}
+        if not i["varios"].keys() <= varios.keys():
+            raise KeyError(f"varios desconocidos: {i['varios'].keys() - varios.keys()}")
+        n.Hijo("Varios", {**varios, **i["varios"]})
+        tablas = TablasHorarias(t.clave[:-1] if t else "Residencial")
         for familia in FAMILIAS:
             for clase in CLASES_DIA:
                 n.Hijo(familia + clase, NumerarAtributos(tablas[familia, clase][0]))
         for nombre, codigos in zip(NOMBRES_MESES, Calendario()):
             n.Hijo(nombre, NumerarAtributos(codigos))
-        n.Hijo("AccionMes", NumerarAtributos(AccionMes(True)))
+        n.Hijo("AccionMes", NumerarAtributos(AccionMes(t is None)))
 
     def _DatosGlobales(self, n):
         e = self.e
@@ -226,10 +250,15 @@ class Proyecto:
                 ("CargaInternaMedia", "0.00")):
             total.Hijo(etiqueta, (), valor)
         espacio = modelo.Hijo("Espacios").Hijo("Espacio")
+        t = e.terciario
+        servicios = {x for s in e.sistemas for x in s["tipo"].split("+")}
         for etiqueta, valor in (
-                ("PerfilUso", "residencial-24h-baja"),
-                ("IluminacionPotenciaInstalada", "0.00"), ("IluminanciaMedia", "0.00"),
-                ("TieneCal", "No"), ("TieneRef", "No"), ("Veei", "0.00")):
+                ("PerfilUso", t.perfil() if t else "residencial-24h-baja"),
+                ("IluminacionPotenciaInstalada", Fijo(t.alumbrado if t else 0.0, 2)),
+                ("IluminanciaMedia", Fijo(t.lux if t else 0.0, 2)),
+                ("TieneCal", "Si" if "Calefaccion" in servicios else "No"),
+                ("TieneRef", "Si" if "Refrigeracion" in servicios else "No"),
+                ("Veei", Fijo(self._Veei(), 2))):
             espacio.Hijo(etiqueta, (), valor)
 
     def _Puentes(self, n):

@@ -29,7 +29,7 @@ void SimularCaso(Edificio& edificio, const AjustesUso& ajustes, Entorno& entorno
 void EscribirFicherosDeCaso(std::string_view nombreCaso, Entorno& entorno, const calculo& caso) {
   const auto carpeta = entorno.ficheros.Espacio().Datos();
   EscribirFicheroBalance(carpeta, nombreCaso, caso);
-  EscribirFicheroSistemas(carpeta, nombreCaso);
+  EscribirFicheroSistemas(carpeta, nombreCaso, caso);
 }
 
 // Pone en la referencia el edificio base con la envolvente del código. Sus equipos no cuentan: solo

@@ -226,9 +226,11 @@ void SimulacionCaso::SegundaPasada(int h, int mes) {
 
   SumarMes(meses.ventilacion, mes, zona.CV[h] * 0.001F);
   const float extraPico = caso_.resultados.forzados.ExtraPotPicoFV;
-  if (HayFotovoltaica(generales, extraPico))
-    SumarMes(meses.produccionFotovoltaica, mes,
-             PotenciaFotovoltaica(generales, caso_.clima, extraPico, h));
+  if (HayFotovoltaica(generales, extraPico)) {
+    const float produccion = PotenciaFotovoltaica(generales, caso_.clima, extraPico, h);
+    caso_.sistemas.produccionFotovoltaica[h] = produccion;
+    SumarMes(meses.produccionFotovoltaica, mes, produccion);
+  }
   CargarDefectoHora(h, reparto.defecto, ModoDefectoDe(generales.Equipos_Defecto), caso_);
 }
 

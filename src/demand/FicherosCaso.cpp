@@ -104,9 +104,21 @@ void EscribirFicheroBalance(const std::filesystem::path& carpeta, std::string_vi
   EscribirFichero(carpeta / NombreFicheroBalance(nombreCaso), texto);
 }
 
-void EscribirFicheroSistemas(const std::filesystem::path& carpeta, std::string_view nombreCaso) {
+void EscribirFicheroSistemas(const std::filesystem::path& carpeta, std::string_view nombreCaso,
+                             const calculo& caso) {
+  constexpr int kCifras = 5;
   std::string texto = kCabecera;
-  for (int h = 1; h <= kHorasAno; ++h) texto += "\t<Item/>\n";
+  texto.reserve(std::size_t{1024} * 1024);
+  for (int h = 1; h <= kHorasAno; ++h) {
+    texto += "\t<Item";
+    for (const AtributoSistema& a : caso.atributos)
+      texto.append(" ")
+          .append(a.nombre)
+          .append("=\"")
+          .append(FijoCifras(static_cast<double>(a.serie[h]), kCifras, a.decimales))
+          .append("\"");
+    texto += "/>\n";
+  }
   texto += kPie;
   EscribirFichero(carpeta / NombreFicheroSistemas(nombreCaso), texto);
 }

@@ -18,7 +18,8 @@ std::string NombreFicheroSistemas(std::string_view nombreCaso);
 /// \throws ErrorFichero si no se puede escribir
 void EscribirFicheroBalance(const std::filesystem::path& carpeta, std::string_view nombreCaso,
                             const calculo& caso);
-/// Escribe el fichero de sistemas de un caso, con un elemento por hora.
-void EscribirFicheroSistemas(const std::filesystem::path& carpeta, std::string_view nombreCaso);
+/// Escribe el fichero de sistemas de un caso: por hora, las magnitudes de sus sistemas.
+void EscribirFicheroSistemas(const std::filesystem::path& carpeta, std::string_view nombreCaso,
+                             const calculo& caso);
 
 }  // namespace novex

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <deque>
+#include <string>
 #include <vector>
 
 #include "base/Calendario.h"
@@ -75,6 +77,23 @@ struct SeriesZona {
   SerieHoraria HFC, HBP;     ///< 1 en horas de enfriamiento gratuito y de bypass
   SerieHoraria humectacion;  ///< carga del humectador, W
   std::array<SerieHoraria, 3> defecto;  ///< lo que toma el equipo por defecto, por servicio, W
+};
+
+/// Lo que hacen los sistemas del caso hora a hora.
+struct SeriesSistemas {
+  SerieHoraria calorEntregado, calorConsumido;          ///< kW
+  SerieHoraria calorEntregado2, calorConsumido2;        ///< del segundo generador, kW
+  SerieHoraria frioTotal, frioSensible, frioConsumido;  ///< kW
+  std::array<SerieHoraria, 3> bombas, ventiladores;     ///< por servicio, W
+  std::array<SerieHoraria, 5> depositoSolar;            ///< temperaturas, de arriba abajo, °C
+  SerieHoraria produccionFotovoltaica;                  ///< kW
+};
+
+/// Una magnitud de un sistema en el fichero de sistemas de un caso.
+struct AtributoSistema {
+  std::string nombre;
+  int decimales = 2;
+  SerieHoraria serie;
 };
 
 }  // namespace novex

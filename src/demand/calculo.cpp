@@ -18,6 +18,8 @@ void calculo::VaciarResultados() {
   resultados.escala = previos.escala;
   resultados.escala.letra = {};
   zona = SeriesZona{};
+  sistemas = SeriesSistemas{};
+  atributos.clear();
   meses = TablasMensuales{};
   valores.clear();
 }

@@ -16,6 +16,9 @@ class calculo {
   SeriesClima clima;
   SeriesCarga carga;
   SeriesZona zona;
+  SeriesSistemas sistemas;
+  /// Magnitudes de cada sistema, en el orden del fichero; sus direcciones no cambian.
+  std::deque<AtributoSistema> atributos;
   TablasMensuales meses;
   valores_type valores;
 

@@ -145,12 +145,12 @@ void Auxiliares(const GeneradorPreparado& g, const HoraSistemas& hora, float cal
   const bool soloCaldera = conjunto && !(g.datos->EControlTe < hora.TSE);
   if (!soloCaldera) {
     // La bomba del generador que ya ha contado el depósito en la hora no se cuenta otra vez.
-    r.bombas[kCalefaccion] += std::max(0.0F, g.GEN1.Potencia(1.0F) - r.bombaYaContada);
+    r.AnotarBomba(kGEN1, kCalefaccion, std::max(0.0F, g.GEN1.Potencia(1.0F) - r.bombaYaContada));
   }
   r.ventiladores[kCalefaccion] += g.ventilador;
   const float dado = r.dado[kCalefaccion];
   if (conACS) {
-    if (dado > 0.0F) r.bombas[kCalefaccion] += g.SBZ.Potencia(dado / calefaccion);
+    if (dado > 0.0F) r.AnotarBomba(kSBZ, kCalefaccion, g.SBZ.Potencia(dado / calefaccion));
     return;
   }
   if (!g.conColector) return;
@@ -178,7 +178,7 @@ void Auxiliares(const GeneradorPreparado& g, const HoraSistemas& hora, float cal
     if (g.partida) C -= g.perdidaLinea * g.bombaCalor;
     x = C > 0.0F ? calefaccion / C : 1.0F;
   }
-  r.bombas[kCalefaccion] += g.SBZ.Potencia(x);
+  r.AnotarBomba(kSBZ, kCalefaccion, g.SBZ.Potencia(x));
 }
 
 }  // namespace
@@ -201,12 +201,12 @@ void HoraCaldera(const GeneradorPreparado& g, int generador, float agua, float a
   if (segundo) {
     r.dado2[kACS] += d.acs;
     r.dado2[kCalefaccion] += d.calefaccion;
-    r.bombas[kCalefaccion] += g.GEN2.Potencia(1.0F) * (g.tipo == TipoSistema::ACSCalefaccion ? 0.5F
-                                                       : g.tipo == TipoSistema::ACS          ? 0.0F
-                                                                                    : 1.0F);
-    r.bombas[kACS] += g.GEN2.Potencia(1.0F) * (g.tipo == TipoSistema::ACSCalefaccion ? 0.5F
-                                               : g.tipo == TipoSistema::ACS          ? 1.0F
-                                                                                     : 0.0F);
+    // La bomba de la segunda caldera va a medias cuando hace los dos servicios.
+    const float W = g.GEN2.Potencia(1.0F);
+    float parteACS = g.tipo == TipoSistema::ACS ? 1.0F : 0.0F;
+    if (g.tipo == TipoSistema::ACSCalefaccion || g.tipo == TipoSistema::Todo) parteACS = 0.5F;
+    r.AnotarBomba(kGEN2, kACS, W * parteACS);
+    r.AnotarBomba(kGEN2, kCalefaccion, W * (1.0F - parteACS));
   }
   r.noDado[kACS] -= d.acs;
   r.noDado[kCalefaccion] -= d.calefaccion;

@@ -121,7 +121,7 @@ void Mezclar(Nodos& T) {
   for (bool inversion = true; inversion;) {
     inversion = false;
     for (std::size_t k = kNodos - 1; k > 0; --k) {
-      if (T[k] <= T[k - 1] + kMezcla) continue;
+      if (!(T[k] > T[k - 1] + kMezcla)) continue;  // también si alguna no es un número
       T[k] = T[k - 1] = 0.5 * (T[k] + T[k - 1]);
       inversion = true;
     }

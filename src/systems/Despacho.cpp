@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "systems/AtributosSistema.h"
 #include "systems/Calefaccion.h"
 #include "systems/Refrigeracion.h"
 
@@ -20,6 +21,7 @@ struct Despacho::Bloque {
   GeneradorPreparado generador;
   std::unique_ptr<HoraACS> acs;
   std::size_t indice;
+  std::unique_ptr<AtributosSistema> atributos;
 };
 
 struct Despacho::Sistema {
@@ -51,11 +53,14 @@ Despacho::Despacho(Edificio& edificio, const AjustesUso& ajustes, calculo& caso,
     for (const Instalaciones& i : datos.instalaciones) {
       haySistemasDeAire_ = haySistemasDeAire_ || EmisorDeVentilacion(i.Emisor) ||
                            ClaseGeneradorDe(i.Seleccion) == ClaseGenerador::Rooftop;
-      auto bloque = std::make_unique<Bloque>(Bloque{
-          GeneradorPreparado(edificio, datos, i, static_cast<int>(n) + 1), nullptr, sumas_.size()});
+      auto bloque = std::make_unique<Bloque>(
+          Bloque{GeneradorPreparado(edificio, datos, i, static_cast<int>(n) + 1), nullptr,
+                 sumas_.size(), nullptr});
       if (DaACS(sistema->tipo))
         bloque->acs =
             std::make_unique<HoraACS>(edificio, bloque->generador, estadoSolar_, caso, mensajes);
+      bloque->atributos = std::make_unique<AtributosSistema>(
+          bloque->generador, bloque->acs ? &bloque->acs->Arreglo() : nullptr, caso);
       sumas_.emplace_back();
       sistema->bloques.push_back(std::move(bloque));
     }
@@ -140,6 +145,25 @@ void Despacho::Contabilizar(Bloque& b, const HoraSistemas& hora, const Respuesta
     suma.consumo[1][s] += r.consumo2[s];
   }
   SumarMes(meses.calorBiomasa, hora.mes, r.calorBiomasa);
+  b.atributos->Anotar(hora.h, r);
+  AnotarSeries(hora.h, r);
+}
+
+void Despacho::AnotarSeries(int h, const RespuestaHora& r) {
+  SeriesSistemas& s = caso_.sistemas;
+  for (const Servicio k : {kACS, kCalefaccion}) {
+    s.calorEntregado[h] += r.dado[k];
+    s.calorConsumido[h] += r.consumo1[k] + r.consumo2[k];
+    s.calorEntregado2[h] += r.dado2[k];
+    s.calorConsumido2[h] += r.consumo2[k];
+  }
+  s.frioTotal[h] += r.frioTotal;
+  s.frioSensible[h] += r.dado[kRefrigeracion];
+  s.frioConsumido[h] += r.consumo1[kRefrigeracion];
+  for (std::size_t k = 0; k < kServiciosDemanda; ++k) {
+    s.bombas[k][h] += r.bombas[k];
+    s.ventiladores[k][h] += r.ventiladores[k];
+  }
 }
 
 void Despacho::ContabilizarACS(const HoraSistemas& hora, const ResultadoACS& acs) {
@@ -147,6 +171,8 @@ void Despacho::ContabilizarACS(const HoraSistemas& hora, const ResultadoACS& acs
   SumarMes(meses.perdidaDeposito, hora.mes, acs.perdidaDeposito);
   SumarMes(meses.perdidaRetorno, hora.mes, acs.perdidaRetorno);
   if (!acs.contabilizaSolar) return;
+  for (std::size_t k = 0; k < kNodos; ++k)
+    caso_.sistemas.depositoSolar[k][hora.h] = static_cast<float>(estadoSolar_.actual[k]);
   SumarMes(meses.solarCaptada, hora.mes, acs.captada);
   SumarMes(meses.perdidaDepositoSolar, hora.mes, acs.perdidaSolar);
   SumarMes(meses.perdidaTuberiaCaptador, hora.mes, acs.perdidaTuberia);
@@ -160,11 +186,14 @@ RespuestaHora Despacho::CorrerSistema(Sistema& s, const HoraSistemas& hora,
   for (const auto& bloque : s.bloques) {
     RespuestaHora r;
     r.noDado = cargas;
-    if (bloque->acs)
-      ContabilizarACS(hora, HoraAguaCaliente(bloque->generador, *bloque->acs, hora, caso_,
-                                             cargas[kCalefaccion], r));
-    else if (DaCalefaccion(s.tipo) && cargas[kCalefaccion] > 0.0F)
+    if (bloque->acs) {
+      const ResultadoACS acs =
+          HoraAguaCaliente(bloque->generador, *bloque->acs, hora, caso_, cargas[kCalefaccion], r);
+      ContabilizarACS(hora, acs);
+      bloque->atributos->AnotarACS(hora.h, acs, bloque->acs->Temperaturas());
+    } else if (DaCalefaccion(s.tipo) && cargas[kCalefaccion] > 0.0F) {
       HoraCalor(bloque->generador, hora, 0.0F, cargas[kCalefaccion], r);
+    }
     if (DaRefrigeracion(s.tipo)) HoraFrio(bloque->generador, hora, cargas[kRefrigeracion], r);
     totales.frioTotal += r.frioTotal;
     totales.frioSensible += r.dado[kRefrigeracion];

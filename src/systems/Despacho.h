@@ -48,6 +48,7 @@ class Despacho {
   RespuestaHora CorrerSistema(Sistema& s, const HoraSistemas& hora, const CargasHora& cargas,
                               Totales& totales);
   void Contabilizar(Bloque& b, const HoraSistemas& hora, const RespuestaHora& r);
+  void AnotarSeries(int h, const RespuestaHora& r);
   void ContabilizarACS(const HoraSistemas& hora, const ResultadoACS& acs);
   CargasHora EtapaDeAire(const HoraSistemas& hora, float ventilacion, Totales& totales);
 

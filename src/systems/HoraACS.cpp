@@ -280,10 +280,8 @@ ResultadoACS HoraACS::Cerrar(int h, bool calentamiento, const Sumas& sumas) {
   const double reparto = centralCompartida ? 1.0 / viviendas_ : 1.0;
   r.perdidaRetorno = static_cast<float>(sumas.retorno / 60.0 * reparto);
   r.perdidaDeposito = static_cast<float>(-sumas.perdida / kJulioskWh * reparto);
-  double propias = 0;
-  for (const double b : sumas.bombas) propias += b / 60.0;
-  r.bombas = static_cast<float>(propias * escala);
-  r.bombaGenerador1 = static_cast<float>(sumas.bombas[kGen1] / 60.0 * escala);
+  for (std::size_t b = 0; b < sumas.bombas.size(); ++b)
+    r.bombaCircuito[b] = static_cast<float>(sumas.bombas[b] / 60.0 * escala);
   r.caudal60 = static_cast<float>(sumas.m60 * 3600.0);
   r.caudal = static_cast<float>(sumas.caudal * 3600.0);
   r.temperatura = static_cast<float>(sumas.temperatura);
@@ -302,7 +300,6 @@ ResultadoACS HoraACS::Cerrar(int h, bool calentamiento, const Sumas& sumas) {
   r.bombaCaptadores = static_cast<float>(s.bombaCaptadores / 60.0 / viviendas_);
   r.bombaDepositoSolar = static_cast<float>(s.bombaDeposito / 60.0 / viviendas_);
   r.bombaRecirculacion = static_cast<float>(s.bombaRecirculacion / 60.0 / viviendas_);
-  r.bombas += r.bombaCaptadores + r.bombaDepositoSolar + r.bombaRecirculacion;
   return r;
 }
 

@@ -15,8 +15,8 @@ struct ResultadoACS {
   float consumo = 0;      ///< del generador, si el depósito lo calcula
   float resistencia = 0;  ///< de apoyo
   float noDado = 0;
-  float bombas = 0;           ///< W, con las solares
-  float bombaGenerador1 = 0;  ///< parte de ellas del generador 1, W
+  /// Bombas de los generadores 1 y 2, del lado del depósito, del generador y del retorno, W.
+  std::array<float, 5> bombaCircuito{};
   float perdidaDeposito = 0, perdidaRetorno = 0;
   float caudal60 = 0, caudal = 0, temperatura = 0;  ///< l/h y °C en el último minuto
   bool contabilizaSolar = false;  ///< es el primero de la hora con instalación solar

@@ -94,8 +94,8 @@ void HoraEstacional(const GeneradorPreparado& g, float s, float q, RespuestaHora
 
 // Bombas y ventiladores de la refrigeración por agua.
 void Auxiliares(const GeneradorPreparado& g, float x, RespuestaHora& r) {
-  r.bombas[kRefrigeracion] += g.GEN1.Potencia(1.0F);
-  if (g.conColector) r.bombas[kRefrigeracion] += g.SBZ.Potencia(x);
+  r.AnotarBomba(kGEN1, kRefrigeracion, g.GEN1.Potencia(1.0F));
+  if (g.conColector) r.AnotarBomba(kSBZ, kRefrigeracion, g.SBZ.Potencia(x));
   r.ventiladores[kRefrigeracion] += g.ventilador;
 }
 

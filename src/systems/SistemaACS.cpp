@@ -17,7 +17,7 @@ float RetornoSinDeposito(const GeneradorPreparado& g, const calculo& caso, int h
   const float perdida = i.Long_tuberias * i.Pot_perdida_m_tub * 0.001F *
                         (i.TimpACS - kInteriorRetorno) * g.porEquipos;
   acs.perdidaRetorno += perdida;
-  r.bombas[kACS] += g.RET.Potencia(1.0F);
+  r.AnotarBomba(kRET, kACS, g.RET.Potencia(1.0F));
   return perdida;
 }
 
@@ -109,8 +109,11 @@ ResultadoACS HoraAguaCaliente(const GeneradorPreparado& g, HoraACS& deposito,
                               const HoraSistemas& hora, const calculo& caso, float calefaccion,
                               RespuestaHora& r) {
   ResultadoACS acs = deposito.Hora(hora.h);
-  r.bombas[kACS] += acs.bombas;
-  r.bombaYaContada = acs.bombaGenerador1;
+  constexpr std::array kCircuitosDeposito = {kGEN1, kGEN2, kDEP, kINT, kRET};
+  for (std::size_t i = 0; i < kCircuitosDeposito.size(); ++i)
+    r.AnotarBomba(kCircuitosDeposito[i], kACS, acs.bombaCircuito[i]);
+  r.bombas[kACS] += acs.bombaCaptadores + acs.bombaDepositoSolar + acs.bombaRecirculacion;
+  r.bombaYaContada = acs.bombaCircuito[0];
   if (g.tipo == TipoSistema::ACS) {
     SoloACS(g, deposito, hora, caso, acs, r);
     return acs;

@@ -22,9 +22,10 @@ bool ListaCorta() {
   return casos != nullptr && std::string_view(casos) == "corta";
 }
 
-std::vector<std::string> Viviendas() {
-  std::vector<std::string> nombres = pruebas::NombresCasos('v');
-  for (const std::string& n : pruebas::NombresCasos('s')) nombres.push_back(n);
+std::vector<std::string> Elegidos() {
+  std::vector<std::string> nombres;
+  for (const char clase : {'v', 's', 't'})
+    for (const std::string& nombre : pruebas::NombresCasos(clase)) nombres.push_back(nombre);
   if (ListaCorta()) nombres.resize(1);
   return nombres;
 }
@@ -49,10 +50,10 @@ void EsperarAcuerdo(const std::vector<Comparacion>& todas) {
                               << ", obtenido " << c.obtenido << ", tolerancia " << c.tolerancia;
 }
 
-class Vivienda : public testing::TestWithParam<std::string> {};
+class Caso : public testing::TestWithParam<std::string> {};
 
 // Frente a un cálculo independiente del mismo proyecto y el mismo clima.
-TEST_P(Vivienda, ConcuerdaConElCalculoIndependiente) {
+TEST_P(Caso, ConcuerdaConElCalculoIndependiente) {
   const nlohmann::json esperado = pruebas::LeerEsperado(GetParam());
   const CasoPrueba caso(GetParam(), CarpetaCasos() / "programa");
   ASSERT_TRUE(caso.calculado);
@@ -75,7 +76,7 @@ TEST_P(Vivienda, ConcuerdaConElCalculoIndependiente) {
   EXPECT_EQ(r.horasOcupacion, esperado.at("horas_ocupacion").get<float>());
 }
 
-INSTANTIATE_TEST_SUITE_P(Casos, Vivienda, testing::ValuesIn(Viviendas()),
+INSTANTIATE_TEST_SUITE_P(Todos, Caso, testing::ValuesIn(Elegidos()),
                          [](const auto& parametro) { return parametro.param; });
 
 TEST(ProyectosDeCaso, TodosSeLeenEnterosYSinAvisos) {

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "base/FicheroSeguro.h"
+#include "calculation/ComprobacionesPrevias.h"
 #include "calculation/EjecutarCalculo.h"
 #include "outputs/JsonResultados.h"
 #include "outputs/SeriesHorarias.h"
@@ -45,6 +46,19 @@ void NoPisarProyecto(const OpcionesCalcular& opciones) {
   }
 }
 
+// Avisa de lo que impide calcular los casos; con varios en el proyecto, dice de cuál es.
+bool SePuedenCalcular(const GestorEdifActivo& gestor, const std::vector<std::string>& nombres,
+                      Mensajes& mensajes) {
+  bool pueden = true;
+  for (const std::string& nombre : nombres)
+    for (const Mensaje& aviso : AvisosPrevios(*gestor.Caso(nombre))) {
+      const std::string caso = gestor.NumeroCasos() > 1 ? NombreMostrado(nombre) + ": " : "";
+      mensajes.Avisar(caso + aviso.titulo, aviso.texto);
+      pueden = false;
+    }
+  return pueden;
+}
+
 // Con varios casos, las series de cada mejora van a un fichero propio con su nombre.
 std::filesystem::path FicheroSeries(const std::string& pedido, const CasoCalculado& caso,
                                     std::size_t casos) {
@@ -76,7 +90,9 @@ int Calcular(const OpcionesCalcular& opciones) {
   GestorEdifActivo gestor;
   MensajesConsola mensajes;
   AbrirProyectoConsola(gestor, opciones.proyecto, mensajes);
-  const auto casos = CalcularCasos(gestor, CasosPedidos(gestor, opciones.caso), opciones, mensajes);
+  const std::vector<std::string> pedidos = CasosPedidos(gestor, opciones.caso);
+  if (!opciones.sinComprobar && !SePuedenCalcular(gestor, pedidos, mensajes)) return kNoCumple;
+  const auto casos = CalcularCasos(gestor, pedidos, opciones, mensajes);
   if (casos.empty()) return kSinHacer;
 
   const std::string nombre = std::filesystem::path(opciones.proyecto).filename().string();

@@ -14,6 +14,8 @@ CLI::App* NuevaOrden(CLI::App& padre, const std::string& nombre, const std::stri
 
 /// `calcular`: calcula los casos de un proyecto y da sus resultados.
 void AnadirCalcular(CLI::App& programa, Orden& orden);
+/// `comprobar`: dice qué falta a un proyecto para poder calcularlo.
+void AnadirComprobar(CLI::App& programa, Orden& orden);
 /// `info`: dice lo que contiene un proyecto.
 void AnadirInfo(CLI::App& programa, Orden& orden);
 /// `clima`: genera, instala y resume los ficheros de clima.

@@ -65,6 +65,7 @@ int Ejecutar(int argc, char** argv) {
   programa.require_subcommand(1);
   Orden orden;
   AnadirCalcular(programa, orden);
+  AnadirComprobar(programa, orden);
   AnadirInfo(programa, orden);
   AnadirClima(programa, orden);
   try {
