@@ -54,6 +54,12 @@ PUERTA_AISLADA = (7, "Otros: Puerta blindada aislada")
 PUERTA_MADERA = (7, "Otros: Puerta de madera maciza")
 SIN_VIDRIO = (0, "4")
 
+COMUNIDADES = {"Madrid": "Comunidad de Madrid", "A Coruña": "Galicia",
+               "Valencia/València": "Comunidad Valenciana",
+               "Barcelona": "Cataluña", "Soria": "Castilla y León",
+               "Navarra": "Comunidad Foral de Navarra", "Murcia": "Región de Murcia",
+               "Sevilla": "Andalucía", "Málaga": "Andalucía", "Vizcaya": "País Vasco"}
+
 CERTIFICADOR = {
     "Nombre": "Nombre Apellido", "NIF": "00000000T", "Empresa": "Estudio de Ejemplo",
     "CIF": "B00000000", "Direccion": "Calle de la Muestra, 1", "Localidad": "Madrid",

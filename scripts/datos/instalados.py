@@ -1,14 +1,13 @@
 """Siete edificios con todos sus sistemas definidos."""
 
-import math
 from dataclasses import replace
 
-from comunes import (AUTONIVELANTE, BLOQUE_20, CAJA_AISLADA, CAJA_ANTIGUA, CAJA_BLOQUE,
-                     ENCACHADO, FORJADO_30, FORJADO_CERAMICO, GEOTEXTIL, GRAVA, GRES,
-                     HORMIGON, LAMINA, LANA_035, LANA_042, MEDIO_PIE, MONOCAPA, MORTERO,
-                     PENDIENTES, PIE, PUERTA_AISLADA, PVC, PYL, RETICULAR, SIN_VIDRIO,
-                     TABICON, TERRAZO, XPS, YESO, ALUMINIO, ALUMINIO_RPT, CAMARA, PUR,
-                     General, Instalacion, Rectangulo)
+from comunes import (ALUMINIO, ALUMINIO_RPT, AUTONIVELANTE, BLOQUE_20, CAJA_AISLADA,
+                     CAJA_ANTIGUA, CAJA_BLOQUE, CAMARA, ENCACHADO, FORJADO_30,
+                     FORJADO_CERAMICO, GEOTEXTIL, GRAVA, GRES, HORMIGON, LAMINA,
+                     LANA_035, LANA_042, MEDIO_PIE, MONOCAPA, MORTERO, PENDIENTES, PIE,
+                     PUERTA_AISLADA, PUR, PVC, PYL, RETICULAR, SIN_VIDRIO, TABICON,
+                     TERRAZO, XPS, YESO, General, Instalacion, Rectangulo)
 from edificio import Edificio, GrupoHuecos, Planta, Terciario, Viviendas
 from sistemas import (COMERCIAL, GENERICO, RADIADORES, SUELO_RADIANTE, Calentador,
                       CalderaACS, CalderaCalefaccion, CaptadoresPlanos, Fancoils,
@@ -22,6 +21,11 @@ PVC_CINCO = (7, "Otros: PVC cinco cámaras")
 ALUMINIO_RPT_24 = (7, "Otros: Metálico con rotura puente térmico 24 mm")
 BAJO_EMISIVO = (4, "4-16-4 argón 90%")
 CONTROL_SOLAR = (4, "6-16-4+4 control solar argón 90%")
+ESCALERA = {"MuroOtro3": ("Separación con la escalera",
+                          [(YESO, 0.015), (MEDIO_PIE, 0.115), (LANA_035, 0.04),
+                           (PYL, 0.0125)]),
+            "MuroExt6": ("Casetón de escalera",
+                         [(MONOCAPA, 0.015), (MEDIO_PIE, 0.115), (YESO, 0.015)])}
 CUBIERTA_INVERTIDA = [(GRAVA, 0.05), (GEOTEXTIL, 0.002)]
 
 
@@ -35,9 +39,18 @@ def CalderaYSolar():
     """El chalé de dos plantas con caldera, captadores y acondicionadores partidos."""
     casa = ViviendaUnifamiliar()
     general = {**casa.general, "Equipos_Defecto": "NO",
-               "Edificio_Titulo": "Vivienda unifamiliar con caldera y captadores solares"}
+               "Edificio_Titulo": "Vivienda unifamiliar con caldera y captadores solares",
+               "Tiposimulacion": "CertificacionSolo", "TipoCertificado": "Existente",
+               "AnoConstruccion": "2013-2018", "NormativaEdificacion": "CTE_DB_HE_2013",
+               "NormativaInstalaciones": "RITE_2013",
+               "Memos": {
+                   0: ("Cambiar la caldera por una bomba de calor aire-agua.",
+                       "Colocar captación fotovoltaica en la cubierta."),
+                   1: ("Visita a la vivienda. Se miden huecos y alturas.",),
+                   2: ("Visita a la sala de caldera y a los captadores.",),
+                   4: ("Los captadores se inclinan 55 grados por el verano.",)}}
     instalacion = {**casa.instalacion,
-                   "campos": CaptadoresPlanos(2, 200, 45, tuberia=24)}
+                   "campos": CaptadoresPlanos(2, 300, 55, tuberia=20)}
     return replace(
         casa, general=general, instalacion=instalacion,
         sistemas=[
@@ -104,40 +117,40 @@ def BloqueCalderaCentral():
     tipo = Planta(Rectangulo(0, 0, 27, 14), 2.90, veces=4,
                   nucleo=Rectangulo(11, 5, 5, 5))
     altura_garaje, caseton = 3.00, 2.50
-    ventana = {"vidrio": (2, "4-16-4 argón 90%"), "marco": PVC, "fraccion_marco": 25,
-               "permeabilidad": 3, "sombra_movil": 1, "caja": CAJA_BLOQUE}
+    ventana = {"vidrio": (1, "4-12-6"), "marco": ALUMINIO_RPT, "fraccion_marco": 20,
+               "permeabilidad": 2, "sombra_movil": 1, "caja": CAJA_BLOQUE}
     tipos = [Viviendas(12, 2, 1, 2), Viviendas(8, 3, 1, 3)]
     multisplit = Sistema("Refrigeracion", "Equipo MultiSplit", 4.0, equipos=20,
-                         curvas=(COMERCIAL, "Multisplit 2x1 4 kW"), Distanciaext_int=12,
-                         Perdida_m_tub_ext_int=0.3)
+                         curvas=(COMERCIAL, "Multisplit 2x1 4 kW"), Distanciaext_int=12)
     return Edificio(
         General("Bloque de veinte viviendas con caldera central y captadores solares",
-                TipoCertificado="ProyectoNuevaConstruccion", PerfilUso="1",
+                Tiposimulacion="CertificacionSolo", TipoCertificado="Existente",
+                PerfilUso="1",
                 Equipos_Defecto="NO", Direccion="Avenida del Ejemplo, 8",
                 Provincia="Murcia", Municipio="Murcia", CodigoPostal="30007",
                 Catastro=("5678902XH6057N", "0001PQ", "Bloque_B"),
-                AnoConstruccion="POST-2018", NormativaEdificacion="CTE_DB_HE_2019",
-                NormativaInstalaciones="RITE_2021", ZonaClimatica="B3", asnm="42",
+                AnoConstruccion="2006-2012", NormativaEdificacion="CTE_DB_HE_2006",
+                NormativaInstalaciones="RITE_2007", ZonaClimatica="B3", asnm="42",
                 zona_radiante="IV", latitud=37.98, NPlantasSobreRasante="5",
                 Remotos={"Sur": (14.0, 30.0)}, Visitas=("02/09/2026",),
+                Observaciones=("02/09/2026",),
                 Memos={
-                    0: ("Valorar la sustitución de la caldera por aerotermia.",),
-                    1: ("Visita al solar antes del inicio de la obra.",)}),
+                    0: ("Calorifugar el anillo de retorno del agua caliente.",
+                        "Valorar la sustitución de la caldera por aerotermia."),
+                    1: ("Visita a dos viviendas, a la cubierta y a la sala de calderas.",),
+                    4: ("Los multisplit son los de la promoción.",)}),
         [tipo],
         {"local": [(tipo.superficie(), tipo.longitud_expuesta() * altura_garaje,
                     "renovh=1.")]},
         {"horizontal": [(tipo.superficie(), 25.0)]},
         {"MuroExt1": ("Ladrillo cara vista con lana mineral",
-                      [(MEDIO_PIE, 0.115), (MORTERO, 0.01), (LANA_035, 0.08),
+                      [(MEDIO_PIE, 0.115), (MORTERO, 0.01), (LANA_042, 0.05),
                        (TABICON, 0.07), (YESO, 0.015)]),
-         "MuroOtro3": ("Separación con la escalera",
-                       [(YESO, 0.015), (MEDIO_PIE, 0.115), (LANA_035, 0.04), (PYL, 0.0125)]),
-         "MuroExt6": ("Casetón de escalera",
-                      [(MONOCAPA, 0.015), (MEDIO_PIE, 0.115), (YESO, 0.015)]),
+         **ESCALERA,
          "TechoExt1": ("Cubierta invertida con grava",
-                       _Invertida(0.10, (RETICULAR, 0.30))),
+                       _Invertida(0.06, (RETICULAR, 0.30))),
          "SueloVent1": ("Forjado sobre garaje con suelo flotante",
-                        [(GRES, 0.015), (AUTONIVELANTE, 0.05), (XPS, 0.05),
+                        [(GRES, 0.015), (AUTONIVELANTE, 0.05), (XPS, 0.03),
                          (RETICULAR, 0.30), (YESO, 0.015)]),
          "MuroExt8": ("Cerramiento del garaje",
                       [(MORTERO, 0.015), (BLOQUE_20, 0.20), (MORTERO, 0.015)])},
@@ -147,16 +160,17 @@ def BloqueCalderaCentral():
                      {"norte": 16, "sur": 16, "este": 12, "oeste": 12},
                      alero=(0.20, 0.30), control=(0, 0), **ventana),
          GrupoHuecos("Baños y cocinas", 0.80, 1.10,
-                     {"norte": 16, "este": 8, "oeste": 8}, (2, "4-16-4 argón 90%"), PVC,
-                     30, 3)],
+                     {"norte": 16, "este": 8, "oeste": 8}, (1, "4-12-6"), ALUMINIO_RPT,
+                     25, 2)],
         tipos, Instalacion(TipoVentilacion2="Mecanica", WRecuperador=22,
-                           campos=CaptadoresPlanos(14, 1500, 45, tuberia=50,
-                                                   recirculacion=800)),
+                           campos=CaptadoresPlanos(22, 2500, 45, tuberia=50,
+                                                   recirculacion=1200)),
         [CalderaACS(50, 0.97, 1000, central=True, Distribucion="Interacumu+lado_generador",
                     Alimentacion4="Recirculado solar intercambiador", AintermbD=3.2,
                     Retorno="Con retorno", NHretorno=0, CaudalRET=600, TbajaD=55,
                     Long_tuberias=110),
-         CalderaCalefaccion(90, 0.98, central=True, **RADIADORES, TimpCalor=55), multisplit],
+         CalderaCalefaccion(110, 0.98, central=True, **RADIADORES, TimpCalor=55),
+         multisplit],
         local=(5 * 5 + 2 * (5 + 5) * caseton, "renovh=05", "Norte"))
 
 
@@ -258,10 +272,7 @@ def Oficina():
         {"MuroExt1": ("Fachada de ladrillo con trasdosado de lana mineral",
                       [(MONOCAPA, 0.015), (MEDIO_PIE, 0.115), (MORTERO, 0.01),
                        (LANA_035, 0.08), (PYL, 0.0125)]),
-         "MuroOtro3": ("Separación con la escalera",
-                       [(YESO, 0.015), (MEDIO_PIE, 0.115), (LANA_035, 0.04), (PYL, 0.0125)]),
-         "MuroExt6": ("Casetón de escalera",
-                      [(MONOCAPA, 0.015), (MEDIO_PIE, 0.115), (YESO, 0.015)]),
+         **ESCALERA,
          "TechoExt1": ("Cubierta invertida con grava",
                        _Invertida(0.10, (RETICULAR, 0.30))),
          "SueloTerr1": ("Solera con aislamiento continuo",
@@ -316,10 +327,7 @@ def Hotel():
         {"MuroExt1": ("Fachada de ladrillo con trasdosado de lana mineral",
                       [(MONOCAPA, 0.015), (MEDIO_PIE, 0.115), (MORTERO, 0.01),
                        (LANA_035, 0.06), (PYL, 0.0125)]),
-         "MuroOtro3": ("Separación con la escalera",
-                       [(YESO, 0.015), (MEDIO_PIE, 0.115), (LANA_035, 0.04), (PYL, 0.0125)]),
-         "MuroExt6": ("Casetón de escalera",
-                      [(MONOCAPA, 0.015), (MEDIO_PIE, 0.115), (YESO, 0.015)]),
+         **ESCALERA,
          "TechoExt1": ("Cubierta invertida con grava",
                        _Invertida(0.08, (RETICULAR, 0.30))),
          "SueloTerr1": ("Solera con aislamiento continuo",
@@ -337,9 +345,10 @@ def Hotel():
                     Alimentacion4="Recirculado solar intercambiador", EfiIntercamb=75,
                     Retorno="Con retorno", NHretorno=1, CaudalRET=1200, TaltaD=62,
                     TbajaD=55, Long_tuberias=150),
-         CalderaCalefaccion(120, 0.97, central=True, **Fancoils(76), TimpCalor=50),
-         Sistema("Refrigeracion", "Enfriadora agua cond.aire", 200.0, central=True,
-                 curvas=(COMERCIAL, "Enfriadora 200 kW"), **Fancoils(76))],
+         CalderaCalefaccion(80, 0.97, central=True, **Fancoils(76), TimpCalor=50),
+         Sistema("Refrigeracion", "Enfriadora agua cond.aire", 130.0, central=True,
+                 curvas=(GENERICO, "Enfriadora de etapas"), QFrioTot1=130, WeFrio1=43.5,
+                 **Fancoils(76))],
         local=(6 * 5 + 2 * (6 + 5) * 2.5, "renovh=05", "Norte"),
         terciario=Terciario("24hM", "Hotel ***", 20.0, 28.8, 41.0, 4.0, 200.0,
                             (10.0, "VIEElim=10    Habitaciones de hoteles, hostales, etc."),

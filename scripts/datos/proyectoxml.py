@@ -1,5 +1,6 @@
 """Fichero de proyecto de un Edificio, con el aspecto que le da el programa."""
 
+from comunes import COMUNIDADES
 from edificio import (PUENTES, PUENTES_DEFECTO, SECTORES, DatosHueco,
                       TransmitanciaCapas)
 from generar import (CLASES_DIA, FAMILIAS, NOMBRES_MESES, AccionMes, Calendario,
@@ -18,12 +19,6 @@ RANURAS = (
     "MuroExt8 SueloVent3 MuroExt9 SueloOtro1 SueloOtro3 SueloOtro2 SueloOtro4 "
     "SueloInt1 SueloInt2 MuroOtro8 MuroOtro9 TechoInt3 TechoInt4 SueloInt3 "
     "SueloInt4").split()
-
-COMUNIDADES = {"Madrid": "Comunidad de Madrid", "A Coruña": "Galicia",
-               "Valencia/València": "Comunidad Valenciana",
-               "Barcelona": "Cataluña", "Soria": "Castilla y León",
-               "Navarra": "Comunidad Foral de Navarra", "Murcia": "Región de Murcia",
-               "Sevilla": "Andalucía", "Málaga": "Andalucía", "Vizcaya": "País Vasco"}
 
 OBSTACULOS = {"oeste": ("oeste", "sur_oeste"), "sur_oeste": ("oeste", "sur_oeste", "sur"),
               "sur": ("sur_oeste", "sur", "sur_este"),

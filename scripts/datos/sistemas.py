@@ -44,12 +44,14 @@ def Termo(litros=None, **campos):
 def CalderaACS(potencia, rendimiento, litros, central=False, **campos):
     """Caldera de gas de condensación con depósito de acumulación."""
     return Sistema("ACS", "1 Caldera", central=central, Volumen=litros,
-                   **_Caldera("Condensacion", "GasNatural", potencia, rendimiento), **campos)
+                   **_Caldera("Condensacion", "GasNatural", potencia, rendimiento),
+                   **campos)
 
 
 def CalderaCalefaccion(potencia, rendimiento, central=False, **campos):
     return Sistema("Calefaccion", "1 Caldera", potencia, central=central,
-                   **_Caldera("Condensacion", "GasNatural", potencia, rendimiento), **campos)
+                   **_Caldera("Condensacion", "GasNatural", potencia, rendimiento),
+                   **campos)
 
 
 def CaptadoresPlanos(numero, litros, inclinacion, tuberia, recirculacion=0):

@@ -114,17 +114,26 @@ std::optional<Serie> SerieDeCodigo(const calculo& caso, std::string_view codigo)
 }
 
 std::string CsvSeries(const calculo& caso) {
+  struct Columna {
+    const SerieHoraria* serie;
+    int decimales;
+  };
   std::string texto = "hora";
-  std::vector<const SerieHoraria*> series;
+  std::vector<Columna> columnas;
   for (const Fila& fila : kSeries) {
     texto.append(";").append(fila.codigo);
-    series.push_back(&fila.tomar(caso));
+    columnas.push_back({&fila.tomar(caso), fila.decimales});
+  }
+  // Detrás, las magnitudes de cada sistema con el número del sistema.
+  for (const AtributoSistema& a : caso.atributos) {
+    texto.append(";").append(a.nombre);
+    columnas.push_back({&a.serie, kDecimales});
   }
   texto += '\n';
   for (int h = 1; h <= kHorasAno; ++h) {
     texto += std::to_string(h);
-    for (std::size_t i = 0; i < series.size(); ++i)
-      texto.append(";").append(Fijo(static_cast<double>((*series[i])[h]), kSeries[i].decimales));
+    for (const Columna& c : columnas)
+      texto.append(";").append(Fijo(static_cast<double>((*c.serie)[h]), c.decimales));
     texto += '\n';
   }
   return texto;

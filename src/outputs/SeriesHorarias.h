@@ -25,8 +25,8 @@ std::span<const DescripcionSerie> SeriesHorarias();
 /// La serie de un código, comparado exactamente; vacía si no es ninguna.
 std::optional<Serie> SerieDeCodigo(const calculo& caso, std::string_view codigo);
 
-/// Todas las series como texto separado por `;`: una cabecera `hora;` y los códigos, y una línea
-/// por hora, de 1 a 8760.
+/// Todas las series como texto separado por `;`: una cabecera `hora;` y los códigos, primero los
+/// del caso y después los de cada sistema, y una línea por hora, de 1 a 8760.
 std::string CsvSeries(const calculo& caso);
 
 }  // namespace novex

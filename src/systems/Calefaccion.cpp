@@ -140,7 +140,6 @@ bool EsDeAgua(ClaseGenerador c) {
 void Auxiliares(const GeneradorPreparado& g, const HoraSistemas& hora, float calefaccion,
                 RespuestaHora& r) {
   if (!EsDeAgua(g.clase) || calefaccion <= 0.0F) return;
-  const bool conACS = g.tipo == TipoSistema::ACSCalefaccion;
   const bool conjunto = g.clase == ClaseGenerador::BombaCalorCaldera;
   const bool soloCaldera = conjunto && !(g.datos->EControlTe < hora.TSE);
   if (!soloCaldera) {
@@ -149,7 +148,7 @@ void Auxiliares(const GeneradorPreparado& g, const HoraSistemas& hora, float cal
   }
   r.ventiladores[kCalefaccion] += g.ventilador;
   const float dado = r.dado[kCalefaccion];
-  if (conACS) {
+  if (ConACS(g)) {
     if (dado > 0.0F) r.AnotarBomba(kSBZ, kCalefaccion, g.SBZ.Potencia(dado / calefaccion));
     return;
   }

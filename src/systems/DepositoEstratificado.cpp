@@ -15,21 +15,20 @@ constexpr double kMezcla = 1e-6;  // inversión que ya no se mezcla, K
 
 // Serpentín repartido por los nodos 3, 4 y 5.
 struct Serpentin {
-  double mcp = 0;  // W/°C
-  double e = 0;    // parte del salto que queda tras un tercio
-  double entrada = 0;
+  double mcp = 0;      // W/°C
+  double e = 0;        // parte del salto que queda tras un tercio
+  double cede = 0;     // W/°C que cada tercio cruza al depósito
+  double entrada = 0;  // °C
   explicit Serpentin(const EntradaDeposito& d) : entrada(d.temperatura) {
     if (d.caudalSerpentin <= 0.0 || d.areaSerpentin <= 0.0) return;
     mcp = d.caudalSerpentin * kCpCircuito;
     e = std::exp(-kSerpentin * d.areaSerpentin / (3.0 * mcp));
+    cede = mcp * (1.0 - e);
   }
-  // Temperatura del agua que llega al nodo 3, 4 o 5 (tramo 0, 1, 2) y la que sale del último (3).
-  double Agua(int tramo, const Nodos& T) const {
-    double agua = entrada;
-    for (int i = 0; i < tramo; ++i)
-      agua = (1.0 - e) * T[static_cast<std::size_t>(2 + i)] + e * agua;
-    return agua;
-  }
+  bool Hay() const { return mcp > 0.0; }
+  // Temperatura con que el agua deja un tercio a temperatura T.
+  double Deja(double agua, double T) const { return (1.0 - e) * T + e * agua; }
+  double Salida(const Nodos& T) const { return Deja(Deja(Deja(entrada, T[2]), T[3]), T[4]); }
 };
 
 // Caudales netos hacia arriba entre cada nodo y el de debajo.
@@ -44,76 +43,104 @@ std::array<double, kNodos - 1> CaudalesEntreNodos(const MinutoDeposito& m) {
   return f;
 }
 
-// La ecuación dT/dt = a T + b de cada nodo; `a` no cambia en el minuto.
+// La ecuación dT/dt = a T + b de cada nodo. En el minuto, `a` no cambia, y `b` es una constante más
+// lo que llega de los nodos vecinos y de los serpentines.
 class Ecuacion {
  public:
   Ecuacion(const GeometriaDeposito& g, const MinutoDeposito& m)
-      : g_(g), m_(m), f_(CaudalesEntreNodos(m)), generador_(m.generador), solar_(m.solar) {
+      : generador_(m.generador), solar_(m.solar) {
+    Conducir(g, m);
+    Entradas(m);
+    Circular(CaudalesEntreNodos(m));
+    const double cede = generador_.cede + solar_.cede;
+    for (std::size_t k = 2; k < kNodos; ++k) sale_[k] += cede;
     for (std::size_t k = 0; k < kNodos; ++k) {
-      a[k] = Pendiente(k) / g_.masaCp;
-      exponencial[k] = std::exp(a[k] * kPaso);
+      sale_[k] /= g.masaCp;
+      fija_[k] /= g.masaCp;
+      deArriba_[k] /= g.masaCp;
+      deAbajo_[k] /= g.masaCp;
+      decae_[k] = std::exp(-sale_[k] * kPaso);
+      inversa_[k] = sale_[k] > 0.0 ? 1.0 / sale_[k] : 0.0;
     }
+    inversaMasa_ = 1.0 / g.masaCp;
   }
 
-  // Términos independientes con unas temperaturas de los nodos vecinos.
+  // Términos independientes con unas temperaturas de los nodos.
   Nodos Independientes(const Nodos& T) const {
-    Nodos b{};
-    for (std::size_t k = 0; k < kNodos; ++k) b[k] = Independiente(k, T) / g_.masaCp;
+    Nodos b = fija_;
+    for (std::size_t k = 1; k < kNodos; ++k) {
+      b[k] += deArriba_[k] * T[k - 1];
+      b[k - 1] += deAbajo_[k - 1] * T[k];
+    }
+    for (const Serpentin* s : {&generador_, &solar_}) {
+      if (!s->Hay()) continue;
+      const double cede = s->cede * inversaMasa_;
+      double agua = s->entrada;
+      for (std::size_t k = 2; k < kNodos; ++k) {
+        b[k] += cede * agua;
+        agua = s->Deja(agua, T[k]);
+      }
+    }
     return b;
   }
 
   // Temperatura tras el paso, y media del paso, de un nodo que parte de T.
   double Final(std::size_t k, double T, double b) const {
-    if (a[k] == 0.0) return T + b * kPaso;
-    return exponencial[k] * (T + b / a[k]) - b / a[k];
+    if (inversa_[k] == 0.0) return T + b * kPaso;
+    const double equilibrio = b * inversa_[k];
+    return decae_[k] * (T - equilibrio) + equilibrio;
   }
   double Media(std::size_t k, double T, double b) const {
-    if (a[k] == 0.0) return T + 0.5 * b * kPaso;
-    return (exponencial[k] - 1.0) * (b / a[k] + T) / (a[k] * kPaso) - b / a[k];
+    if (inversa_[k] == 0.0) return T + 0.5 * b * kPaso;
+    const double equilibrio = b * inversa_[k];
+    return (1.0 - decae_[k]) * (T - equilibrio) * inversa_[k] / kPaso + equilibrio;
   }
 
   const Serpentin& Generador() const { return generador_; }
   const Serpentin& Solar() const { return solar_; }
 
  private:
-  double Pendiente(std::size_t k) const {
-    const bool extremo = k == 0 || k == kNodos - 1;
-    double a0 = -(extremo ? 1.0 : 2.0) * g_.conduccion - g_.UAlateral - (extremo ? g_.UAtapa : 0.0);
-    for (const EntradaDeposito* d : {&m_.generador, &m_.solar})
-      if (d->nodo == k) a0 -= d->caudalDirecto * kCpCircuito;
-    if (k == m_.nodoRetorno) a0 -= m_.recirculacion * kCpCircuito;
-    if (k == kNodos - 1) a0 -= m_.extraccion * kCpCircuito;
-    if (k >= 2) a0 -= generador_.mcp * (1.0 - generador_.e) + solar_.mcp * (1.0 - solar_.e);
-    if (k < kNodos - 1 && f_[k] > 0.0) a0 -= f_[k] * kCpCircuito;
-    if (k > 0 && f_[k - 1] < 0.0) a0 += f_[k - 1] * kCpCircuito;
-    return a0;
+  void Conducir(const GeometriaDeposito& g, const MinutoDeposito& m) {
+    for (std::size_t k = 0; k < kNodos; ++k) {
+      const bool extremo = k == 0 || k == kNodos - 1;
+      const double UA = g.UAlateral + (extremo ? g.UAtapa : 0.0);
+      sale_[k] = (extremo ? 1.0 : 2.0) * g.conduccion + UA;
+      fija_[k] = UA * m.ambiente;
+      if (k > 0) deArriba_[k] = g.conduccion;
+      if (k < kNodos - 1) deAbajo_[k] = g.conduccion;
+    }
+    fija_[m.nodoAuxiliar] += m.auxiliar;
   }
 
-  double Independiente(std::size_t k, const Nodos& T) const {
-    const bool extremo = k == 0 || k == kNodos - 1;
-    double b = (g_.UAlateral + (extremo ? g_.UAtapa : 0.0)) * m_.ambiente;
-    if (k > 0) b += g_.conduccion * T[k - 1];
-    if (k < kNodos - 1) b += g_.conduccion * T[k + 1];
-    if (k == m_.nodoAuxiliar) b += m_.auxiliar;
-    for (const EntradaDeposito* d : {&m_.generador, &m_.solar})
-      if (d->nodo == k) b += d->caudalDirecto * kCpCircuito * d->temperatura;
-    if (k == m_.nodoRetorno) b += m_.recirculacion * kCpCircuito * m_.retorno;
-    if (k == kNodos - 1) b += m_.extraccion * kCpCircuito * m_.entradaAgua;
-    if (k >= 2)
-      for (const Serpentin* s : {&generador_, &solar_})
-        if (s->mcp > 0.0) b += s->mcp * (1.0 - s->e) * s->Agua(static_cast<int>(k) - 2, T);
-    if (k < kNodos - 1 && f_[k] > 0.0) b += f_[k] * kCpCircuito * T[k + 1];
-    if (k > 0 && f_[k - 1] < 0.0) b -= f_[k - 1] * kCpCircuito * T[k - 1];
-    return b;
+  void Entrar(std::size_t nodo, double caudal, double temperatura) {
+    sale_[nodo] += caudal * kCpCircuito;
+    fija_[nodo] += caudal * kCpCircuito * temperatura;
   }
 
-  const GeometriaDeposito& g_;
-  const MinutoDeposito& m_;
-  std::array<double, kNodos - 1> f_;
+  void Entradas(const MinutoDeposito& m) {
+    Entrar(m.generador.nodo, m.generador.caudalDirecto, m.generador.temperatura);
+    Entrar(m.solar.nodo, m.solar.caudalDirecto, m.solar.temperatura);
+    Entrar(m.nodoRetorno, m.recirculacion, m.retorno);
+    Entrar(kNodos - 1, m.extraccion, m.entradaAgua);
+  }
+
+  void Circular(const std::array<double, kNodos - 1>& f) {
+    for (std::size_t k = 0; k < f.size(); ++k) {
+      const double W = f[k] * kCpCircuito;
+      if (W > 0.0) {
+        sale_[k] += W;
+        deAbajo_[k] += W;
+      } else {
+        sale_[k + 1] -= W;
+        deArriba_[k + 1] -= W;
+      }
+    }
+  }
+
   Serpentin generador_, solar_;
-
- public:
-  Nodos a{}, exponencial{};
+  Nodos sale_{}, fija_{}, deArriba_{}, deAbajo_{};  // entre la masa del nodo
+  Nodos decae_{}, inversa_{};
+  double inversaMasa_ = 0;
 };
 
 // Un nodo más caliente que el de encima se mezcla con él.
@@ -140,9 +167,9 @@ EnergiasDeposito Energias(const GeometriaDeposito& g, const MinutoDeposito& m, c
   const auto serpentin = [&](const Serpentin& s, double temperatura, double& energia,
                              double& salida) {
     salida = temperatura;
-    if (s.mcp <= 0.0) return;
-    energia = s.mcp * (temperatura - s.Agua(3, Tm)) * kPaso;
-    salida = s.Agua(3, Tfinal);
+    if (!s.Hay()) return;
+    energia = s.mcp * (temperatura - s.Salida(Tm)) * kPaso;
+    salida = s.Salida(Tfinal);
   };
   serpentin(ec.Generador(), m.generador.temperatura, e.serpentinGenerador, e.salidaGenerador);
   serpentin(ec.Solar(), m.solar.temperatura, e.serpentinSolar, e.salidaSolar);

@@ -134,7 +134,8 @@ void HoraACS::LadoGenerador(int h, int minuto, const Nodos& T, MinutoDeposito& e
         entra.generador.areaSerpentin = D(i_.AintermbD);
       } else {
         entra.generador.caudalDirecto = dep;
-        const bool esCaldera = caldera || g_.clase == ClaseGenerador::Caldera;
+        const bool esCaldera = caldera || g_.clase == ClaseGenerador::Caldera ||
+                               g_.clase == ClaseGenerador::Calentador;
         entra.generador.nodo = esCaldera ? 0 : 2;
       }
     }

@@ -74,8 +74,9 @@ void SoloACS(const GeneradorPreparado& g, HoraACS& deposito, const HoraSistemas&
   const LadoAgua lado = deposito.Arreglo().lado;
   switch (g.clase) {
     case ClaseGenerador::Calentador: {
-      const float retorno = RetornoSinDeposito(g, caso, hora.h, acs, r);
-      PorElGenerador(g, hora, acs.calor + retorno, 0.0F, 0.0F, r);
+      float carga = acs.calor;
+      if (!deposito.Arreglo().deposito) carga += RetornoSinDeposito(g, caso, hora.h, acs, r);
+      PorElGenerador(g, hora, carga, 0.0F, acs.noDado, r);
       return;
     }
     case ClaseGenerador::BombaDedicada: {

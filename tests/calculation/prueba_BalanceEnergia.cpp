@@ -39,6 +39,10 @@ TEST(RegimenPermanente, LaCargaEsLaConductanciaPorElSalto) {
                   kUnoPorMil * esperada);
       EXPECT_EQ(c.zona.TSL[dia * 24 + hora], 21.0F);
     }
+  // La hora 1 calienta además las superficies, que estaban a 20 °C: 120 × 5,0613 + 100 × (7,7115 +
+  // 4,2995 + 15,2084) W/K menos los 100 del régimen. El aire de la zona no cuenta en ella.
+  const double primera = 21 * (resto + kVentanasNoche) + 3329.29 - 100;
+  EXPECT_NEAR(c.zona.cargaCalefaccion[1] * -1000, primera, kUnoPorMil * primera);
   // La parte del aire es la suya y cada elemento lleva lo que pierde.
   const int h = 480 + 12;
   EXPECT_NEAR(c.zona.DVENT[h] * 1000, 21 * kVentilacion, kUnoPorMil * 21 * kVentilacion);

@@ -1,12 +1,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <iostream>
 
+#include "base/ErrorFichero.h"
 #include "base/NumeroTexto.h"
 #include "casos/CasoPrueba.h"
+#include "files/CarpetaTemporal.h"
 #include "files/ProyectoFichero.h"
 #include "rating/Escala.h"
 
@@ -78,6 +81,48 @@ TEST_P(Caso, ConcuerdaConElCalculoIndependiente) {
 
 INSTANTIATE_TEST_SUITE_P(Todos, Caso, testing::ValuesIn(Elegidos()),
                          [](const auto& parametro) { return parametro.param; });
+
+// Una carpeta de programa con solo los ficheros que la vivienda `v01` necesita.
+class CarpetaJusta : public testing::Test {
+ protected:
+  static constexpr std::array<const char*, 6> kNecesarios = {
+      "CoefTransf.xml", "Capitales.xml",   "FactoresConversion.xml",
+      "Defecto.xml",    "Localidades.xml", "Equipos.xml"};
+  CarpetaJusta() {
+    const auto origen = CarpetaCasos() / "programa";
+    std::filesystem::create_directories(carpeta / "database");
+    std::filesystem::create_directories(carpeta / "databaseCTE");
+    for (const char* nombre : kNecesarios)
+      std::filesystem::copy(origen / "database" / nombre, carpeta / "database" / nombre);
+    std::filesystem::copy(origen / "databaseCTE/ZonaD3.met", carpeta / "databaseCTE/ZonaD3.met");
+  }
+  CasoPrueba Calcular() const { return {"v01_vivienda_D3", carpeta / ""}; }
+
+  pruebas::CarpetaTemporal carpeta;
+};
+
+TEST_F(CarpetaJusta, LoQueUnCalculoNoUsaPuedeFaltar) {
+  const CasoPrueba caso = Calcular();
+  ASSERT_TRUE(caso.calculado);
+  EXPECT_TRUE(caso.mensajes.recibidos.empty());
+  const CasoPrueba completo("v01_vivienda_D3", CarpetaCasos() / "programa");
+  EXPECT_EQ(caso.Resultado().resultados.total, completo.Resultado().resultados.total);
+}
+
+TEST_F(CarpetaJusta, LoQueUsaSeEchaEnFaltaPorSuNombre) {
+  for (const std::string nombre : kNecesarios) {
+    std::filesystem::rename(carpeta / "database" / nombre, carpeta / "database/fuera");
+    try {
+      Calcular();
+      ADD_FAILURE() << nombre;
+    } catch (const ErrorFichero& error) {
+      EXPECT_THAT(error.ruta, testing::EndsWith(nombre));
+    }
+    std::filesystem::rename(carpeta / "database/fuera", carpeta / "database" / nombre);
+  }
+  std::filesystem::remove(carpeta / "databaseCTE/ZonaD3.met");
+  EXPECT_FALSE(Calcular().calculado);
+}
 
 TEST(ProyectosDeCaso, TodosSeLeenEnterosYSinAvisos) {
   std::size_t leidos = 0;

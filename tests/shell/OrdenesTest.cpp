@@ -113,6 +113,7 @@ TEST_F(Ordenes, LaOrdenMalEscritaSaleCon2) {
   const std::vector<std::string> ordenes[] = {{},
                                               {"calcular"},
                                               {"calcular", proyecto, "--nada"},
+                                              {"comprobar"},
                                               {"calcular", proyecto, "--json"},
                                               {"calcular", (raiz / "casa.dat").string()},
                                               {"clima"},
@@ -143,6 +144,7 @@ TEST_F(Ordenes, UnXmlQueNoSeEntiendeSaleCon255YDiceDonde) {
     EXPECT_TRUE(Contiene(e.errores, "XML Parsing error inside file '" + ruta.string() + "'."));
     EXPECT_TRUE(Contiene(e.errores, "At line ")) << e.errores;
     EXPECT_EQ(Ejecutar({"info", ruta.string()}).codigo, 255) << ruta;
+    EXPECT_EQ(Ejecutar({"comprobar", ruta.string()}).codigo, 255) << ruta;
   }
   EXPECT_TRUE(Contiene(Calcular(ajeno.string()).errores,
                        "First Tag should be 'DatosEnergeticosDelEdificio'."));
@@ -155,13 +157,60 @@ TEST_F(Ordenes, LoQueNoSePuedeCalcularSaleCon3) {
             "fichero entrada datos ambientales: No se pudo abrir el fichero .met\n");
   EXPECT_TRUE(sinClima.salida.empty());
 
-  const Ejecucion sinSuelo = Calcular(Proyecto("D3", 0));
+  const Ejecucion sinSuelo = Calcular(Proyecto("D3", 0), {"--sin-comprobar"});
   EXPECT_EQ(sinSuelo.codigo, 3);
   EXPECT_TRUE(Contiene(sinSuelo.errores, "Suelo_habitable_m2")) << sinSuelo.errores;
 
   const std::string proyecto = Proyecto();
   EXPECT_EQ(Calcular(proyecto, {"--json", (raiz / "no" / "r.json").string()}).codigo, 3);
   EXPECT_EQ(Ejecutar({"calcular", proyecto, "--programa", (raiz / "no").string()}).codigo, 3);
+}
+
+TEST_F(Ordenes, ComprobarDiceLoQueFaltaYCalcularSeNiega) {
+  const std::string proyecto = Proyecto("D3", 100, 1);
+  const Ejecucion bien = Ejecutar({"comprobar", proyecto});
+  EXPECT_EQ(bien.codigo, 0) << bien.errores;
+  EXPECT_EQ(bien.salida, "El proyecto se puede calcular (2 casos)\n");
+
+  // Con 50 m2 la altura media sería de 6 m, y la mejora no tiene agua caliente.
+  pruebas::GuardarProyectoPrueba(proyecto, "D3", 50, 1, true);
+  constexpr const char* kAltura =
+      "La relacion entre el volumen y el suelo habitable debe ser menor de 5";
+  constexpr const char* kSinACS = "Se debe definir una instalacion de ACS. No se calcula";
+  const Ejecucion mal = Ejecutar({"comprobar", proyecto});
+  EXPECT_EQ(mal.codigo, 1);
+  EXPECT_TRUE(mal.errores.empty()) << mal.errores;
+  const std::size_t mejora = mal.salida.find("Mejora_1: no se puede calcular\n");
+  ASSERT_NE(mejora, std::string::npos) << mal.salida;
+  const std::string base = mal.salida.substr(0, mejora);
+  EXPECT_TRUE(Contiene(base, "Base: no se puede calcular\n"));
+  EXPECT_TRUE(Contiene(base, std::string("Global  ") + kAltura));
+  EXPECT_FALSE(Contiene(base, kSinACS));
+  EXPECT_TRUE(Contiene(mal.salida.substr(mejora), std::string("Instalaciones  ") + kSinACS));
+
+  const Ejecucion una = Calcular(proyecto, {"--caso", "Mejora_1", "--json", "-"});
+  EXPECT_EQ(una.codigo, 1);
+  EXPECT_EQ(una.errores, std::string("Mejora_1: Valor incorrecto: ") + kAltura +
+                             "\nMejora_1: AVISO: " + kSinACS + "\n");
+  EXPECT_TRUE(una.salida.empty());
+  const Ejecucion dos = Calcular(proyecto);
+  EXPECT_EQ(dos.codigo, 1);
+  EXPECT_TRUE(dos.errores.starts_with(std::string("Base: Valor incorrecto: ") + kAltura));
+  EXPECT_EQ(Calcular(proyecto, {"--sin-comprobar"}).codigo, 0);
+  // Con un solo caso no hace falta decir cuál.
+  EXPECT_EQ(Calcular(Proyecto("D3", 50)).errores,
+            std::string("Valor incorrecto: ") + kAltura + "\n");
+}
+
+TEST_F(Ordenes, LosProyectosDeEjemploSePuedenCalcular) {
+  std::size_t proyectos = 0;
+  for (const auto& fichero : fs::directory_iterator(fs::path(NOVEX_RAIZ_DATOS) / "proyectos")) {
+    if (fichero.path().extension() != ".xml") continue;
+    ++proyectos;
+    const Ejecucion e = Ejecutar({"comprobar", fichero.path().string()});
+    EXPECT_EQ(e.codigo, 0) << fichero.path() << '\n' << e.salida << e.errores;
+  }
+  EXPECT_GT(proyectos, 0U);
 }
 
 TEST_F(Ordenes, InfoDiceLoQueHay) {

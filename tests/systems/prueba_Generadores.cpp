@@ -99,14 +99,18 @@ TEST_P(AnoDeGenerador, Cierra) {
       const float ambiente = p.bomba && s != kRefrigeracion ? debe - debeConsumir : 0.0F;
       ASSERT_NEAR(r.ambiente[s], ambiente, 3e-4 * (1 + debe)) << h << " " << s;
       ASSERT_EQ(r.consumo2[s], 0.0F);
-      if (carga[s] == 0.0F) ASSERT_EQ(r.ventiladores[s], 0.0F) << h;
+      if (carga[s] == 0.0F) {
+        ASSERT_EQ(r.ventiladores[s], 0.0F) << h;
+      }
       dado += static_cast<double>(r.dado[s]);
       consumo += static_cast<double>(r.consumo1[s]);
       parciales += debe > 0 && debe == carga[s];
       plenas += debe < carga[s];
     }
     ASSERT_GE(r.frioTotal, r.dado[kRefrigeracion]);
-    if (carga[kCalefaccion] == 0.0F) ASSERT_EQ(r.bombas[kCalefaccion], 0.0F) << h;
+    if (carga[kCalefaccion] == 0.0F) {
+      ASSERT_EQ(r.bombas[kCalefaccion], 0.0F) << h;
+    }
   }
   EXPECT_GT(parciales, 500);
   if (p.capacidad[kACS] + p.capacidad[kCalefaccion] < kSinLimite) {
@@ -117,7 +121,7 @@ TEST_P(AnoDeGenerador, Cierra) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Todas, AnoDeGenerador, testing::ValuesIn(kClases),
-                         [](const auto& info) { return std::string(info.param.nombre); });
+                         [](const auto& clase) { return std::string(clase.param.nombre); });
 
 class UnaHora : public testing::Test {
  protected:
