@@ -1,10 +1,11 @@
 #include "base/FicheroSeguro.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
+#include <cstdlib>
 #include <fstream>
 #include <system_error>
 
@@ -17,18 +18,38 @@ namespace {
   throw ErrorFichero(ruta.string(), 0, 0, 0, que + " \"" + ruta.string() + "\"");
 }
 
-// Cierra el descriptor y borra el fichero provisional si no se llegó a renombrar.
+// Permisos de un fichero que ya existe, o los corrientes de uno nuevo.
+mode_t PermisosDe(const std::filesystem::path& destino) {
+  struct stat datos {};
+  return ::stat(destino.c_str(), &datos) == 0 ? datos.st_mode & 0777U : 0644U;
+}
+
+// Deja en el disco el cambio de nombre.
+void VolcarCarpeta(const std::filesystem::path& fichero) {
+  const std::filesystem::path carpeta =
+      fichero.has_parent_path() ? fichero.parent_path() : std::filesystem::path(".");
+  const int descriptor = ::open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (descriptor < 0) return;
+  ::fsync(descriptor);
+  ::close(descriptor);
+}
+
+// Fichero al lado del destino, con nombre propio. Cierra el descriptor y se borra si no se llegó a
+// renombrar.
 class Provisional {
  public:
-  explicit Provisional(std::filesystem::path destino)
-      : ruta_(std::move(destino += ".parcial." + std::to_string(::getpid()))),
-        descriptor_(::open(ruta_.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644)) {}
+  explicit Provisional(const std::filesystem::path& destino) {
+    std::string plantilla = destino.string() + ".parcial.XXXXXX";
+    descriptor_ = ::mkostemp(plantilla.data(), O_CLOEXEC);
+    ruta_ = plantilla;
+    if (descriptor_ >= 0) ::fchmod(descriptor_, PermisosDe(destino));
+  }
   Provisional(const Provisional&) = delete;
   Provisional& operator=(const Provisional&) = delete;
   ~Provisional() {
     if (descriptor_ >= 0) ::close(descriptor_);
     std::error_code sinImportancia;
-    if (!renombrado_) std::filesystem::remove(ruta_, sinImportancia);
+    if (!renombrado_ && !ruta_.empty()) std::filesystem::remove(ruta_, sinImportancia);
   }
 
   bool Abierto() const { return descriptor_ >= 0; }
@@ -50,12 +71,13 @@ class Provisional {
     std::error_code fallo;
     std::filesystem::rename(ruta_, destino, fallo);
     renombrado_ = !fallo;
+    if (renombrado_) VolcarCarpeta(destino);
     return renombrado_;
   }
 
  private:
   std::filesystem::path ruta_;
-  int descriptor_;
+  int descriptor_ = -1;
   bool renombrado_ = false;
 };
 
@@ -76,8 +98,12 @@ std::string LeerFichero(const std::filesystem::path& ruta) {
 }
 
 void EscribirFichero(const std::filesystem::path& ruta, std::string_view contenido) {
-  Provisional provisional(ruta);
-  if (!provisional.Abierto() || !provisional.Escribir(contenido) || !provisional.Renombrar(ruta))
+  // Un enlace sigue siendo un enlace: se cambia el fichero al que lleva.
+  std::error_code sinImportancia;
+  std::filesystem::path destino = std::filesystem::weakly_canonical(ruta, sinImportancia);
+  if (destino.empty()) destino = ruta;
+  Provisional provisional(destino);
+  if (!provisional.Abierto() || !provisional.Escribir(contenido) || !provisional.Renombrar(destino))
     Fallar(ruta, "No se pudo escribir el fichero");
 }
 

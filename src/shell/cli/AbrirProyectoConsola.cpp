@@ -1,5 +1,6 @@
 #include "shell/cli/AbrirProyectoConsola.h"
 
+#include "calculation/CompletarProyecto.h"
 #include "files/ProyectoFichero.h"
 
 namespace novex::cli {
@@ -14,12 +15,17 @@ bool EsDeProyecto(const std::string& ruta) {
 
 }  // namespace
 
-void AbrirProyectoConsola(GestorEdifActivo& gestor, const std::string& ruta, Mensajes& mensajes) {
+void AbrirProyectoConsola(GestorEdifActivo& gestor, const std::string& ruta, Mensajes& mensajes,
+                          const std::string& programa) {
   if (!EsDeProyecto(ruta))
     throw ErrorUso("\"" + ruta + "\" no es un fichero de proyecto: ha de ser un .xml");
   gestor.NuevoProyecto();
-  if (!AbrirProyecto(gestor, ruta, ModoApertura::Nuevo, mensajes).abierto)
-    throw ErrorOrden("No se ha abierto el proyecto \"" + ruta + "\"");
+  const ProyectoAbierto abierto = AbrirProyecto(gestor, ruta, ModoApertura::Nuevo, mensajes);
+  if (!abierto.abierto) throw ErrorOrden("No se ha abierto el proyecto \"" + ruta + "\"");
+  // La carpeta de programa solo hace falta para dar horarios a quien no los trae.
+  FicherosPrograma ficheros(abierto.casosSinUso.empty() ? EspacioTrabajo{}
+                                                        : AbrirEspacio(programa));
+  CompletarProyecto(gestor, abierto.casosSinUso, ficheros, mensajes);
 }
 
 }  // namespace novex::cli

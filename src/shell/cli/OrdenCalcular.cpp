@@ -89,7 +89,7 @@ int Calcular(const OpcionesCalcular& opciones) {
   NoPisarProyecto(opciones);
   GestorEdifActivo gestor;
   MensajesConsola mensajes;
-  AbrirProyectoConsola(gestor, opciones.proyecto, mensajes);
+  AbrirProyectoConsola(gestor, opciones.proyecto, mensajes, opciones.programa);
   const std::vector<std::string> pedidos = CasosPedidos(gestor, opciones.caso);
   if (!opciones.sinComprobar && !SePuedenCalcular(gestor, pedidos, mensajes)) return kNoCumple;
   const auto casos = CalcularCasos(gestor, pedidos, opciones, mensajes);
