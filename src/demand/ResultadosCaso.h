@@ -71,7 +71,7 @@ struct EscalaCaso {
   float iluminacionReferencia = 0;                    ///< kWh/m2
   /// Totales del edificio de referencia con los servicios que el caso tiene, kg/m2 y kWh/m2.
   float totalReferenciaEmisiones = 0, totalReferenciaPrimaria = 0;
-  std::array<std::string, kIndicadores> letra;        ///< "A" a "G" o "( - )"
+  std::array<std::string, kIndicadores> letra;  ///< "A" a "G" o "( - )"
 };
 
 /// Lo que resulta de un servicio, por unidad: el año y los meses, por m2 de superficie útil.

@@ -143,9 +143,12 @@ class Ecuacion {
   double inversaMasa_ = 0;
 };
 
-// Un nodo más caliente que el de encima se mezcla con él.
+// Un nodo más caliente que el de encima se mezcla con él. El tope solo lo alcanzan temperaturas tan
+// grandes que la tolerancia es menor que su redondeo.
 void Mezclar(Nodos& T) {
-  for (bool inversion = true; inversion;) {
+  constexpr int kVueltas = 1000;
+  bool inversion = true;
+  for (int vuelta = 0; inversion && vuelta < kVueltas; ++vuelta) {
     inversion = false;
     for (std::size_t k = kNodos - 1; k > 0; --k) {
       if (!(T[k] > T[k - 1] + kMezcla)) continue;  // también si alguna no es un número

@@ -92,7 +92,9 @@ HoraACS::Extraccion HoraACS::CalcularExtraccion(int h, double Tred) const {
   else if (arreglo_.depositoSolar)
     x.temperatura = std::max(solar_->Arriba(), D(i_.TimpACS));
   const double salto = x.temperatura - Tred;
-  const double m = salto == 0.0 ? 0.0 : (kTemperaturaACS - Tred) * x.m60 / salto;
+  double m = salto == 0.0 ? 0.0 : (kTemperaturaACS - Tred) * x.m60 / salto;
+  // Un depósito más frío que la red no da agua: su caudal saldría negativo.
+  if (arreglo_.deposito || arreglo_.depositoSolar) m = std::max(0.0, m);
   // En una vivienda de bloque, lo común ve el caudal de todas.
   x.solar = m * viviendas_;
   x.vivienda = g_.individual ? m : x.solar;

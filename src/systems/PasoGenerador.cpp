@@ -105,8 +105,8 @@ PasoGenerador CalcularPasoGenerador(const GeneradorPreparado& g, LadoAgua lado, 
                                     const Nodos& T, float THE) {
   if (caudalDeposito <= 0.0 || primario <= 0.0) return {};
   const Enlace enlace(g, lado, caudalDeposito, primario, Ti, T);
-  const bool caldera = generador == 2 || g.clase == ClaseGenerador::Caldera ||
-                       g.clase == ClaseGenerador::Calentador;
+  const bool caldera =
+      generador == 2 || g.clase == ClaseGenerador::Caldera || g.clase == ClaseGenerador::Calentador;
   if (caldera) return PasoCaldera(g, generador, enlace);
   return PasoBomba(g, enlace, lado == LadoAgua::InteracumuGenerador, THE);
 }

@@ -74,8 +74,8 @@ TEST_F(Catalogo, UnaFilaQueNoExisteNoCambiaNada) {
     EXPECT_FALSE(c.Aplicar("Marca", "EquipoAA", "Equipo_Split", fila, bloque));
   EXPECT_FALSE(c.Aplicar("Marca", "EquipoAA", "Rooftop", 1, bloque));
   EXPECT_FALSE(c.Aplicar("Nadie", "EquipoAA", "Equipo_Split", 1, bloque));
-  EXPECT_FALSE(CatalogoEquipos(XMLNode{}, mensajes).Aplicar("Marca", "EquipoAA", "Equipo_Split", 1,
-                                                            bloque));
+  EXPECT_FALSE(
+      CatalogoEquipos(XMLNode{}, mensajes).Aplicar("Marca", "EquipoAA", "Equipo_Split", 1, bloque));
   EXPECT_EQ(bloque, antes);
 }
 

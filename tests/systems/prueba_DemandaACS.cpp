@@ -21,10 +21,10 @@ TEST(DemandaACS, PersonasPorDormitorios) {
 }
 
 TEST(DemandaACS, CentralizacionALosDosLadosDeCadaLimite) {
-  const std::pair<int, float> casos[] = {
-      {0, 1},       {1, 1},      {3, 1},      {4, 0.95F}, {10, 0.95F}, {11, 0.9F},
-      {20, 0.9F},   {21, 0.85F}, {50, 0.85F}, {51, 0.8F}, {75, 0.8F},  {76, 0.75F},
-      {100, 0.75F}, {101, 0.7F}, {5000, 0.7F}};
+  const std::pair<int, float> casos[] = {{0, 1},       {1, 1},      {3, 1},      {4, 0.95F},
+                                         {10, 0.95F},  {11, 0.9F},  {20, 0.9F},  {21, 0.85F},
+                                         {50, 0.85F},  {51, 0.8F},  {75, 0.8F},  {76, 0.75F},
+                                         {100, 0.75F}, {101, 0.7F}, {5000, 0.7F}};
   for (const auto& [n, factor] : casos) EXPECT_EQ(FactorCentralizacion(n), factor) << n;
 }
 
@@ -34,10 +34,14 @@ TEST(DemandaACS, VolumenDeReferencia) {
   v.tipologias = {{{10, 2, 0, 0}, {2, 3, 0, 0}, {}, {}, {}, {}}};
   c.edificio.SetVentilacion(v);
   EXPECT_NEAR(VolumenReferencia(c.edificio), 28 * 38 * 0.9, 1e-3);
-  const std::pair<const char*, float> casos[] = {
-      {"Hotel *****", 690},     {"Hotel/hostal **", 340}, {"Oficinas", 20},
-      {"Escuela sin ducha", 40}, {"Cafeterías", 10},       {"Otros", 0},
-      {"", 550},                {"Una que no existe", 550}};
+  const std::pair<const char*, float> casos[] = {{"Hotel *****", 690},
+                                                 {"Hotel/hostal **", 340},
+                                                 {"Oficinas", 20},
+                                                 {"Escuela sin ducha", 40},
+                                                 {"Cafeterías", 10},
+                                                 {"Otros", 0},
+                                                 {"", 550},
+                                                 {"Una que no existe", 550}};
   for (const auto& [actividad, litros] : casos) {
     c.Generales([&, a = actividad](DatosGenerales& g) {
       g.PerfilUso = 3;
@@ -60,13 +64,12 @@ TEST(DemandaACS, FactoresDeVivienda) {
   };
   const char* individual = "Individual/Vivienda";
   const char* central = "Centralizada/Bloque";
-  const Fila filas[] = {{0, individual, 0, 1, 1},       {0, central, 0, 1, 1},
-                        {1, individual, 0, 1.5 / 7, 3}, {1, individual, 1, 4.0 / 7, 3},
-                        {1, individual, 2, 0, 3},       {1, individual, 6, 1, 3},
-                        {1, individual, -1, 1, 3},      {1, central, 0, 1, 1},
-                        {2, individual, 0, 1, 8},       {2, central, 0, 1, 1},
-                        {3, individual, 0, 0.2, 1},     {15, individual, 0, 0.2, 1},
-                        {3, central, 0, 1, 1}};
+  const Fila filas[] = {
+      {0, individual, 0, 1, 1},       {0, central, 0, 1, 1},      {1, individual, 0, 1.5 / 7, 3},
+      {1, individual, 1, 4.0 / 7, 3}, {1, individual, 2, 0, 3},   {1, individual, 6, 1, 3},
+      {1, individual, -1, 1, 3},      {1, central, 0, 1, 1},      {2, individual, 0, 1, 8},
+      {2, central, 0, 1, 1},          {3, individual, 0, 0.2, 1}, {15, individual, 0, 0.2, 1},
+      {3, central, 0, 1, 1}};
   CasoSistemas c;
   Ventilacion v;
   v.tipologias = {{{2, 1, 0, 0}, {1, 3, 0, 0}, {}, {}, {}, {}}};

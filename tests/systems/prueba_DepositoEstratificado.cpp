@@ -78,7 +78,7 @@ TEST(DepositoEstratificado, ElUnicoNodoQueNadaTocaNoCambia) {
 TEST(DepositoEstratificado, LaExtraccionDejaElOrdenYVaciaDesdeAbajo) {
   const GeometriaDeposito g(200, 2, 2);
   MinutoDeposito m;
-  m.extraccion = 0.1;  // 60 kg en diez minutos: node y medio
+  m.extraccion = 0.1;  // 60 kg en diez minutos, nodo y medio
   m.entradaAgua = 10;
   Nodos T = Uniforme(60);
   for (int i = 0; i < 10; ++i) {

@@ -24,37 +24,33 @@ struct ClaseProbada {
   bool bomba;              // toma calor del ambiente
 };
 
-constexpr float kSinLimite = 1e6F;
-constexpr float kLinea = 0.9F;  // 10 m al 1 %
+constexpr float kInf = 1e6F;                      // sin límite de potencia
+constexpr float kCal = 3.6F, kFrio = 2.52F;       // 20/5 y 14/5, menos el 10 % de la línea
+constexpr CargasHora kConLinea = {0, 18, 12.6F};  // kW
+constexpr const char* kAC = "ACS+Calefaccion";
+constexpr const char* kCR = "Calefaccion+Refrigeracion";
+constexpr const char* kACR = "ACS+Calefaccion+Refrigeracion";
 
 const ClaseProbada kClases[] = {
     {"calentador", "ACS", "1 Calentador", {0.9F}, {20}, false},
-    {"caldera", "ACS+Calefaccion", "1 Caldera", {0.9F, 0.9F}, {20, 20}, false},
-    {"calderaMixta", "ACS+Calefaccion", "1 Caldera Mixta", {0.9F, 0.9F}, {20, 20}, false},
+    {"caldera", kAC, "1 Caldera", {0.9F, 0.9F}, {20, 20}, false},
+    {"calderaMixta", kAC, "1 Caldera Mixta", {0.9F, 0.9F}, {20, 20}, false},
     {"calderaSola", "Calefaccion", "1 Caldera", {0, 0.9F}, {0, 20}, false},
-    {"bomba", "ACS+Calefaccion", "1 BC aire-agua", {4 * kLinea, 4 * kLinea}, {18, 18}, true},
-    {"bombaSola", "Calefaccion", "1 BC aire-agua", {0, 4 * kLinea}, {0, 18}, true},
-    {"bombaReversible", "Calefaccion+Refrigeracion", "1 BC aire-agua", {0, 4 * kLinea}, {0, 18},
-     true},
+    {"bomba", kAC, "1 BC aire-agua", {kCal, kCal}, {18, 18}, true},
+    {"bombaSola", "Calefaccion", "1 BC aire-agua", {0, kCal}, {0, 18}, true},
+    {"bombaReversible", kCR, "1 BC aire-agua", {0, kCal}, {0, 18}, true},
     {"radiadores", "Calefaccion", "Radiadores eléctricos", {0, 1}, {0, 20}, false},
-    {"estacionalAgua", "ACS+Calefaccion", "Rend. estacional (agua)", {2.5F, 2.5F},
-     {kSinLimite, kSinLimite}, true},
-    {"estacionalRefrigerante", "Calefaccion+Refrigeracion", "Rend. estacional (refrigerante)",
-     {0, 2.5F, 2.5F * 0.7F}, {0, kSinLimite, kSinLimite}, true},
-    {"estacional", "Calefaccion", "Rend. estacional", {0, 2.5F}, {0, kSinLimite}, true},
-    {"estacionalConocido", "ACS+Calefaccion+Refrigeracion", "Rend. estacional conocido",
-     {2.5F, 2.5F, 2.5F * 0.7F}, {kSinLimite, kSinLimite, kSinLimite}, true},
-    {"ventana", "Calefaccion+Refrigeracion", "Equipo de Ventana", {0, 4, 2.8F}, {0, 20, 14}, true},
-    {"split", "Calefaccion+Refrigeracion", "Equipo Split", {0, 4 * kLinea, 2.8F * kLinea},
-     {0, 18, 12.6F}, true},
-    {"conductos", "Calefaccion+Refrigeracion", "Equipo Conductos", {0, 4 * kLinea, 2.8F * kLinea},
-     {0, 18, 12.6F}, true},
-    {"multisplit", "Calefaccion+Refrigeracion", "Equipo MultiSplit",
-     {0, 4 * kLinea, 2.8F * kLinea}, {0, 18, 12.6F}, true},
-    {"variable", "Calefaccion+Refrigeracion", "Caudal refrigerante variable", {0, 4 * kLinea}, {0, 18}, true},
-    {"rooftop", "Calefaccion+Refrigeracion", "Rooftop", {0, 4 * kLinea, 2.8F * kLinea},
-     {0, 18, 12.6F}, true},
-    {"rooftopSoloCalor", "Calefaccion", "Rooftop", {0, 4 * kLinea}, {0, 18}, true},
+    {"agua", kAC, "Rend. estacional (agua)", {2.5F, 2.5F}, {kInf, kInf}, true},
+    {"frigo", kCR, "Rend. estacional (refrigerante)", {0, 2.5F, 1.75F}, {0, kInf, kInf}, true},
+    {"estacional", "Calefaccion", "Rend. estacional", {0, 2.5F}, {0, kInf}, true},
+    {"tres", kACR, "Rend. estacional conocido", {2.5F, 2.5F, 1.75F}, {kInf, kInf, kInf}, true},
+    {"ventana", kCR, "Equipo de Ventana", {0, 4, 2.8F}, {0, 20, 14}, true},
+    {"split", kCR, "Equipo Split", {0, kCal, kFrio}, kConLinea, true},
+    {"conductos", kCR, "Equipo Conductos", {0, kCal, kFrio}, kConLinea, true},
+    {"multisplit", kCR, "Equipo MultiSplit", {0, kCal, kFrio}, kConLinea, true},
+    {"variable", kCR, "Caudal refrigerante variable", {0, kCal}, {0, 18}, true},
+    {"rooftop", kCR, "Rooftop", {0, kCal, kFrio}, kConLinea, true},
+    {"rooftopSoloCalor", "Calefaccion", "Rooftop", {0, kCal}, {0, 18}, true},
 };
 
 class AnoDeGenerador : public testing::TestWithParam<ClaseProbada> {};
@@ -76,12 +72,10 @@ TEST_P(AnoDeGenerador, Cierra) {
   int parciales = 0, plenas = 0;
   for (int h = 1; h <= kHorasAno; ++h) {
     const HoraSistemas hora = c.Hora(h);
-    const CargasHora carga = {p.rendimiento[kACS] > 0 ? 8.0F * c.caso->zona.DACS[h] : 0.0F,
-                              p.rendimiento[kCalefaccion] > 0 ? -c.caso->zona.cargaCalefaccion[h]
-                                                              : 0.0F,
-                              p.rendimiento[kRefrigeracion] > 0
-                                  ? c.caso->zona.cargaRefrigeracion[h]
-                                  : 0.0F};
+    CargasHora carga = {8.0F * c.caso->zona.DACS[h], -c.caso->zona.cargaCalefaccion[h],
+                        c.caso->zona.cargaRefrigeracion[h]};
+    for (const std::size_t s : {kACS, kCalefaccion, kRefrigeracion})
+      if (p.rendimiento[s] == 0.0F) carga[s] = 0;
     RespuestaHora r;
     r.noDado = carga;
     HoraCalor(g, hora, carga[kACS], carga[kCalefaccion], r);
@@ -113,7 +107,7 @@ TEST_P(AnoDeGenerador, Cierra) {
     }
   }
   EXPECT_GT(parciales, 500);
-  if (p.capacidad[kACS] + p.capacidad[kCalefaccion] < kSinLimite) {
+  if (p.capacidad[kACS] + p.capacidad[kCalefaccion] < kInf) {
     EXPECT_GT(plenas, 20);
   }
   EXPECT_GT(dado, 5000);
@@ -166,9 +160,9 @@ TEST_F(UnaHora, CalderaConCurvas) {
 }
 
 TEST_F(UnaHora, SinRendimientoOSinPotenciaNadaSeDaNiSeConsume) {
-  for (const char* seleccion : {"1 Caldera", "1 BC aire-agua", "1 BC aire-agua + 1 Caldera",
-                                "Radiadores eléctricos", "Rend. estacional (agua)", "Rooftop",
-                                "Equipo de Ventana", "Una que no existe"}) {
+  for (const char* seleccion :
+       {"1 Caldera", "1 BC aire-agua", "1 BC aire-agua + 1 Caldera", "Radiadores eléctricos",
+        "Rend. estacional (agua)", "Rooftop", "Equipo de Ventana", "Una que no existe"}) {
     i = BloqueCompleto(seleccion);
     i.RendCalor1 = i.RendCalor2 = i.RendCalorEst = i.RendFrioEst = 0;
     i.QcalorBC1 = i.RadiadorElectrico = i.QFrioTot1 = i.QFrioSen1 = 0;
