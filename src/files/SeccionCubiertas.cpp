@@ -14,7 +14,7 @@ constexpr std::string_view kGrupoHz = "CubiertasHz";
 constexpr std::string_view kGrupoIncl = "CubiertasIncl";
 constexpr std::string_view kGrupoOtras = "CubiertasOtras";
 
-constexpr std::array kColor = {Entero<k, &K::NColorCubiertasExt>("NColorCubiertasExt").Entre(0, 2)};
+constexpr std::array kColor = {Entero<k, &K::NColorCubiertasExt>("NColorCubiertasExt")};
 
 constexpr std::array kHorizontal = {
     Real<z, &Z::Cubierta_horiz_sol_m2>("Cubierta_horiz_sol_m2", 1),

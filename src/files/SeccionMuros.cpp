@@ -13,7 +13,7 @@ constexpr std::string_view kSeccion = "Muros";
 constexpr std::string_view kGrupoExt = "MurosExt";
 constexpr std::string_view kGrupoOtros = "MurosOtros";
 
-constexpr std::array kColor = {Entero<k, &K::NColorMurosExt>("NColorMurosExt").Entre(0, 2)};
+constexpr std::array kColor = {Entero<k, &K::NColorMurosExt>("NColorMurosExt")};
 
 constexpr std::array kExterior = {
     Real<z, &Z::Muro_ext_m2>("Muro_ext_*_m2", 1).PorSectores(),

@@ -11,6 +11,7 @@
 
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
+#include "demand/ClimaOficial.h"
 #include "demand/InstalarClima.h"
 #include "demand/PosicionSolar.h"
 
@@ -233,9 +234,9 @@ TEST_F(PruebaInstalarClima, InstalaLosBuenosYExplicaLosDemas) {
 }
 
 TEST_F(PruebaInstalarClima, TomaLosFicherosOficiales) {
-  const char* datos = std::getenv("NOVEX_DATOS_PRUEBA");
-  if (datos == nullptr) GTEST_SKIP() << "sin los climas oficiales (NOVEX_DATOS_PRUEBA)";
-  for (const ClimaInstalado& r : InstalarClima(datos, carpeta_ / "databaseCTE"))
+  const pruebas::ClimaOficial clima;
+  if (!clima.Carpeta()) GTEST_SKIP() << "sin los climas oficiales (NOVEX_DATOS_PRUEBA)";
+  for (const ClimaInstalado& r : InstalarClima(*clima.Carpeta(), carpeta_ / "databaseCTE"))
     EXPECT_TRUE(r.instalado) << r.zona << ": " << r.faltas.front();
 }
 

@@ -12,6 +12,7 @@
 
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
+#include "demand/ClimaOficial.h"
 #include "demand/PosicionSolar.h"
 
 namespace novex {
@@ -302,11 +303,11 @@ TEST_F(PruebaEstadisticas, LosFicherosMalosDanSuFallo) {
 }
 
 // Los climas oficiales no se distribuyen: la comparación se hace donde están.
-TEST(ClimaOficial, ElGeneradoTieneSuDispersionHorariaYSuCursoDiario) {
-  const char* datos = std::getenv("NOVEX_DATOS_PRUEBA");
-  if (datos == nullptr) GTEST_SKIP() << "sin los climas oficiales (NOVEX_DATOS_PRUEBA)";
+TEST(GeneradorClima, FrenteAlOficialElGeneradoTieneSuDispersionHorariaYSuCursoDiario) {
+  const pruebas::ClimaOficial clima;
+  if (!clima.Carpeta()) GTEST_SKIP() << "sin los climas oficiales (NOVEX_DATOS_PRUEBA)";
   for (const char* zona : {"A3", "A4", "B3", "C1", "C2", "D1", "D2", "D3", "E1"}) {
-    const auto ruta = std::filesystem::path(datos) / (std::string("zona") + zona + ".met");
+    const auto ruta = *clima.Carpeta() / (std::string("zona") + zona + ".met");
     const FicheroMet oficial = LeerMet(LeerFichero(ruta), ruta.string());
     const FicheroMet& generado = Generado(zona);
     double sumaCenit = 0;

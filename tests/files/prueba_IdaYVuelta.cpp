@@ -165,24 +165,22 @@ TEST(IdaYVuelta, CadaUEstaEnElElementoDeSuPosicion) {
 }
 
 TEST(IdaYVuelta, LosProyectosDeEjemploVuelvenIguales) {
-  const char* carpetaCasos = std::getenv("NOVEX_DATOS_PRUEBA");
-  if (carpetaCasos == nullptr) GTEST_SKIP() << "sin NOVEX_DATOS_PRUEBA no hay proyectos de ejemplo";
   const CarpetaTemporal carpeta;
   int leidos = 0;
-  for (const auto& entrada : std::filesystem::directory_iterator(carpetaCasos)) {
-    if (entrada.path().extension() != ".xml") continue;
-    SCOPED_TRACE(entrada.path().string());
-    RegistroMensajes mensajes;
-    GestorEdifActivo a, b;
-    EXPECT_TRUE(AbrirProyecto(a, entrada.path(), ModoApertura::Nuevo, mensajes).abierto);
-    const auto guardado = GuardarProyecto(a, carpeta / "uno.xml");
-    AbrirProyecto(b, guardado, ModoApertura::Nuevo, mensajes);
-    EXPECT_TRUE(MismosRegistros(a.Activo(), b.Activo()));
-    EXPECT_EQ(LeerFichero(GuardarProyecto(b, carpeta / "dos.xml")), LeerFichero(guardado));
-    EXPECT_TRUE(mensajes.recibidos.empty());
-    ++leidos;
-  }
-  EXPECT_GT(leidos, 0);
+  for (const char* donde : {NOVEX_RAIZ_PRUEBAS "/casos/proyectos", NOVEX_RAIZ_DATOS "/proyectos"})
+    for (const auto& entrada : std::filesystem::directory_iterator(donde)) {
+      SCOPED_TRACE(entrada.path().string());
+      RegistroMensajes mensajes;
+      GestorEdifActivo a, b;
+      EXPECT_TRUE(AbrirProyecto(a, entrada.path(), ModoApertura::Nuevo, mensajes).abierto);
+      const auto guardado = GuardarProyecto(a, carpeta / "uno.xml");
+      AbrirProyecto(b, guardado, ModoApertura::Nuevo, mensajes);
+      EXPECT_TRUE(MismosRegistros(a.Activo(), b.Activo()));
+      EXPECT_EQ(LeerFichero(GuardarProyecto(b, carpeta / "dos.xml")), LeerFichero(guardado));
+      EXPECT_TRUE(mensajes.recibidos.empty());
+      ++leidos;
+    }
+  EXPECT_GE(leidos, 14 + 12);
 }
 
 }  // namespace

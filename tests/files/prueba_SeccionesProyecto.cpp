@@ -106,10 +106,11 @@ TEST_F(SeccionesProyecto, LosNumerosImposiblesSonCeroConAviso) {
   EXPECT_EQ(Generales().perfiles.calendario[0], 0);
   EXPECT_EQ(Generales().perfiles.calendario[1], 9);
   EXPECT_EQ(edificio_.GetHuecos(0).NumeroTotal(), 2U);
-  EXPECT_EQ(edificio_.GetHuecos(0).Indice_tipo_cristal, 0);
-  ASSERT_EQ(mensajes_.recibidos.size(), 9U);
+  // Una posición fuera de su lista se conserva: el motor la trata por su valor por defecto.
+  EXPECT_EQ(edificio_.GetHuecos(0).Indice_tipo_cristal, 6);
+  ASSERT_EQ(mensajes_.recibidos.size(), 8U);
   EXPECT_EQ(mensajes_.recibidos[3].titulo, "Valor incorrecto");
-  EXPECT_EQ(mensajes_.recibidos[8].titulo, "Se espera un nº real y no una letra");
+  EXPECT_EQ(mensajes_.recibidos[7].titulo, "Se espera un nº real y no una letra");
 }
 
 TEST_F(SeccionesProyecto, LasListasDesmedidasSeRechazan) {
