@@ -178,7 +178,7 @@ void HoraACS::Contabilizar(const EnergiasDeposito& e, const PasoGenerador& paso,
   const double baja = D(i_.TbajaD);
   if (EsElectricoACS(g_.clase)) {
     sumas.Q += e.auxiliar / kJulioskWh;
-    if (inicio[0] + kMargenTermostato < baja && !estadoSolar_.avisadoTermo) {
+    if (inicio[0] + kMargenTermostato < baja && !estadoSolar_.avisadoTermo && !enMarcha_) {
       estadoSolar_.avisadoTermo = true;
       mensajes_.Avisar("AVISO",
                        "En algún momento no se consigue la temperatura mínima del ACS. Aumentar "
@@ -317,6 +317,7 @@ ResultadoACS HoraACS::Simular(int h, bool calentamiento) {
 }
 
 void HoraACS::PonerEnMarcha() {
+  enMarcha_ = true;
   T_.fill(D(i_.TimpACS));
   Nodos S{25, 25, 25, 25, 25};
   for (int h = kPrimeraHoraMarcha; h <= kHorasAno; ++h) {
@@ -324,6 +325,7 @@ void HoraACS::PonerEnMarcha() {
     Simular(h, true);
     if (solar_) S = solar_->Temperaturas();
   }
+  enMarcha_ = false;
   if (solar_ && !estadoSolar_.calentado) {
     estadoSolar_.actual = S;
     estadoSolar_.calentado = true;

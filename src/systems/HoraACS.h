@@ -73,6 +73,7 @@ class HoraACS {
   Nodos T_{};
   bool generadorEncendido_ = false;
   bool apoyoEncendido_ = false;
+  bool enMarcha_ = false;           ///< en las horas de puesta en marcha, que no avisan de nada
   std::array<double, 5> bombas_{};  ///< GEN1, GEN2, DEP, INT, RET de un equipo, W
 };
 
