@@ -261,6 +261,7 @@ void SimulacionCaso::Terminar() {
                               &m.perdidaDeposito, &m.perdidaRetorno, &m.irradiacionCaptadores})
     SumarAno(*tabla);
   ResultadosCaso& res = caso_.resultados;
+  res.depositoNulo = despacho_->VolumenNulo();
   res.demandaCalefaccion = -m.demanda[kCalefaccion][0];
   res.demandaRefrigeracion = m.demanda[kRefrigeracion][0];
   res.demandaACS = m.demanda[kACS][0];

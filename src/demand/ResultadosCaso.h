@@ -112,6 +112,9 @@ struct ResultadosCaso {
   /// Totales que se califican, por unidad, por m2 y año.
   std::array<float, kUnidadesEnergia> total{};
   bool calificado = false;
+  /// Algún depósito del caso no tiene volumen: su agua caliente no se ha calculado y los
+  /// resultados no se muestran.
+  bool depositoNulo = false;
 };
 
 }  // namespace novex
