@@ -16,7 +16,7 @@ from edificio import Catalogo
 from instalados import (AerotermiaSueloRadiante, BloqueCalderaCentral, CalderaYSolar,
                         Comercio, Hotel, Oficina, PisoMultisplit)
 from proyectoxml import Proyecto
-from textoxml import Comprobar, EscribirFichero
+from textoxml import EscribirOComprobar
 from viviendas import Adosada, Bloque, CasaAntigua, Piso, ViviendaUnifamiliar
 
 AQUI = os.path.dirname(os.path.abspath(__file__))
@@ -54,15 +54,7 @@ def main():
         ficheros[os.path.join(SALIDA, nombre)] = proyecto.Documento()
     if not correctos:
         return 1
-    if opciones.comprobar:
-        distintos = Comprobar(ficheros)
-        for ruta in distintos:
-            print("difiere del edificio descrito:", os.path.relpath(ruta), file=sys.stderr)
-        return 1 if distintos else 0
-    for ruta, texto in ficheros.items():
-        EscribirFichero(ruta, texto)
-        print(os.path.relpath(ruta))
-    return 0
+    return EscribirOComprobar(ficheros, opciones.comprobar, "difiere del edificio descrito:")
 
 
 if __name__ == "__main__":

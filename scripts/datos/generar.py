@@ -13,7 +13,7 @@ import os
 import sys
 from decimal import ROUND_HALF_UP, Decimal
 
-from textoxml import Comprobar, EscribirFichero, Nodo
+from textoxml import EscribirOComprobar, Nodo
 
 AQUI = os.path.dirname(os.path.abspath(__file__))
 HECHOS = os.path.join(AQUI, "hechos")
@@ -414,15 +414,7 @@ def main():
     opciones = argumentos.parse_args()
     ficheros = {os.path.join(SALIDA, g.__name__ + ".xml"): g().Documento()
                 for g in GENERADORES}
-    if opciones.comprobar:
-        distintos = Comprobar(ficheros)
-        for ruta in distintos:
-            print("difiere de los hechos:", os.path.relpath(ruta), file=sys.stderr)
-        return 1 if distintos else 0
-    for ruta, texto in ficheros.items():
-        EscribirFichero(ruta, texto)
-        print(os.path.relpath(ruta))
-    return 0
+    return EscribirOComprobar(ficheros, opciones.comprobar, "difiere de los hechos:")
 
 
 if __name__ == "__main__":

@@ -6,6 +6,7 @@ referencias numéricas; lo que no está en la tabla va en UTF-8.
 
 import os
 import struct
+import sys
 import tempfile
 
 DECLARACION = '<?xml version="1.0" encoding="UTF-8"?>\n'
@@ -117,3 +118,18 @@ def Comprobar(ficheros):
         if not igual:
             distintos.append(ruta)
     return distintos
+
+
+def EscribirOComprobar(ficheros, comprobar, motivo):
+    """Escribe {ruta: texto} o, con `comprobar`, nombra en stderr los que difieren.
+
+    Devuelve el estado de salida: 1 si alguno difiere."""
+    if comprobar:
+        distintos = Comprobar(ficheros)
+        for ruta in distintos:
+            print(motivo, os.path.relpath(ruta), file=sys.stderr)
+        return 1 if distintos else 0
+    for ruta, texto in ficheros.items():
+        EscribirFichero(ruta, texto)
+        print(os.path.relpath(ruta))
+    return 0

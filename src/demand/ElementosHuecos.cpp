@@ -5,6 +5,7 @@
 
 #include "demand/FactoresHuecos.h"
 #include "demand/Solar.h"
+#include "model/PropiedadesHueco.h"
 
 namespace novex {
 namespace {

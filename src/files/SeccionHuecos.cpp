@@ -1,7 +1,7 @@
 #include "files/ErroresXml.h"
-#include "files/FigurasHueco.h"
 #include "files/LimitesProyecto.h"
 #include "files/SeccionesProyecto.h"
+#include "model/PropiedadesHueco.h"
 
 namespace novex {
 namespace {

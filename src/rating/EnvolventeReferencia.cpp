@@ -4,7 +4,7 @@
 #include <numeric>
 #include <string_view>
 
-#include "demand/FactoresHuecos.h"
+#include "model/PropiedadesHueco.h"
 #include "rating/LimitesHueco.h"
 
 namespace novex {
