@@ -22,11 +22,14 @@ class LectorXml {
     ComprobarBytes();
     // El analizador parte su copia en el sitio; la otra da las posiciones de los errores.
     arbol_->bytes = fuente_;
+    const std::vector<std::size_t> cifras = OcultarCifrasIniciales();
     pugi::xml_document documento;
     const pugi::xml_parse_result resultado = documento.load_buffer_inplace(
         arbol_->bytes.data(), arbol_->bytes.size(), pugi::parse_cdata | pugi::parse_ws_pcdata,
         pugi::encoding_utf8);
     if (!resultado) Fallar(resultado);
+    // El analizador no mueve ni un byte: las cifras vuelven a su sitio, también en los textos.
+    for (const std::size_t donde : cifras) arbol_->bytes[donde] = fuente_[donde];
     arbolXml::Nodo& cima = arbol_->Nuevo({});
     ConvertirContenido(documento, cima, 0);
     return {arbol_, &Elegir(cima, raiz)};
@@ -57,6 +60,21 @@ class LectorXml {
         Fallar(codigoXml::kInesperado, fuente_.size(),
                "El fichero tiene demasiados elementos o atributos");
     }
+  }
+
+  // Un nombre de elemento puede empezar por una cifra, como "1979-2013", y el analizador no lo
+  // admite: la cifra se cambia por un byte suyo que no está en ningún texto UTF-8. Devuelve dónde.
+  std::vector<std::size_t> OcultarCifrasIniciales() {
+    constexpr unsigned char kPrimerByte = 0xF5;
+    std::string& bytes = arbol_->bytes;
+    std::vector<std::size_t> cambiados;
+    for (std::size_t i = bytes.find('<'); i != std::string::npos; i = bytes.find('<', i + 1)) {
+      const std::size_t nombre = i + 1 < bytes.size() && bytes[i + 1] == '/' ? i + 2 : i + 1;
+      if (nombre >= bytes.size() || bytes[nombre] < '0' || bytes[nombre] > '9') continue;
+      bytes[nombre] = static_cast<char>(kPrimerByte + (bytes[nombre] - '0'));
+      cambiados.push_back(nombre);
+    }
+    return cambiados;
   }
 
   // Código de la tabla para un fallo del analizador en el byte `donde`.

@@ -28,6 +28,17 @@ TEST(XMLNode, ElAsaVaciaSeLeeSinFallar) {
   EXPECT_EQ(otra.toString(), "");
 }
 
+TEST(XMLNode, UnNombrePuedeEmpezarPorCifra) {
+  const std::string texto =
+      "<a><1979-2013 x=\"<2\">t</1979-2013><9/><b><![CDATA[</3><4>]]></b><!-- <5 --></a>";
+  const XMLNode a = Leer(texto);
+  EXPECT_EQ(a.childNamed("1979-2013").attributeValue("x"), "<2");
+  EXPECT_EQ(a.childNamed("1979-2013").textAt(0), "t");
+  EXPECT_EQ(a.childAt(1).nameOf(), "9");
+  EXPECT_EQ(a.childNamed("b").clearAt(0), "</3><4>");
+  EXPECT_THROW(Leer("<a><1b></2b></a>"), ErrorFichero);
+}
+
 TEST(XMLNode, UnAtributoVacioNoEsUnAtributoAusente) {
   const XMLNode a = Leer("<a name=\"\" otro='1' name=\"2\"/>");
   ASSERT_TRUE(a.attributeValue("name"));
