@@ -8,15 +8,18 @@ Las cifras pasan tal como están en los CSV; su procedencia, en docs/datos.md.
 """
 
 import argparse
-import csv
 import os
 import sys
-from decimal import ROUND_HALF_UP, Decimal
+from decimal import Decimal
 
+from catalogo_composiciones import Composiciones
+from catalogo_materiales import Materiales
+from leerhechos import ConDecimales, LeerHechos
+from municipios import ZONACLIMATICATEMPYRAD
 from textoxml import EscribirOComprobar, Nodo
+from valores_envolvente import ValoresDefectoU, VidriosMarcos
 
 AQUI = os.path.dirname(os.path.abspath(__file__))
-HECHOS = os.path.join(AQUI, "hechos")
 SALIDA = os.path.normpath(os.path.join(AQUI, "..", "..", "data", "database"))
 
 MESES = ("ENE", "FEB", "MAR", "ABR", "MAY", "JUN",
@@ -28,17 +31,6 @@ MES_VERANO_INICIAL, MES_VERANO_FINAL = 6, 9  # DB-HE, anejo D: junio a septiembr
 
 FAMILIAS = ("C1", "C2", "CIlu", "CEq", "CNR", "CTRh", "CTCh", "CCAC")
 CLASES_DIA = ("Laborable", "Sabado", "Domingo", "E1", "E2", "E3", "E4", "E5", "E6")
-
-
-def LeerHechos(nombre):
-    """Filas de hechos/<nombre>.csv como diccionarios por cabecera."""
-    with open(os.path.join(HECHOS, nombre + ".csv"), encoding="utf-8",
-              newline="") as fichero:
-        return list(csv.DictReader(fichero, delimiter=";"))
-
-
-def DosDecimales(valor):
-    return str(Decimal(valor).quantize(Decimal("0.01"), ROUND_HALF_UP))
 
 
 def Capitales():
@@ -217,7 +209,7 @@ def TablasHorarias(horario):
             if not candidatas or len(con_valor) > 1:
                 raise ValueError(f"perfiles_uso.csv: {perfil}, {familia}, {dia}")
             fila = (con_valor or candidatas)[0]
-            valores = [DosDecimales(fila[f"h{h:02}"] or "0") for h in range(1, 25)]
+            valores = [ConDecimales(fila[f"h{h:02}"] or "0", 2) for h in range(1, 25)]
             if familia == "CCAC":
                 AjustarACien(valores)
             tablas[familia, clase] = (valores, fila["confianza"])
@@ -403,8 +395,9 @@ def Equipos():
     return raiz
 
 
-GENERADORES = (Capitales, CoefTransf, Defecto, Equipos, FactoresConversion, Localidades,
-               NuevoUsoControl, PerfilesUso, PuentesTermicos)
+GENERADORES = (Capitales, CoefTransf, Composiciones, Defecto, Equipos, FactoresConversion,
+               Localidades, Materiales, NuevoUsoControl, PerfilesUso, PuentesTermicos,
+               ValoresDefectoU, VidriosMarcos, ZONACLIMATICATEMPYRAD)
 
 
 def main():
