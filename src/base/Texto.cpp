@@ -1,5 +1,6 @@
 #include "base/Texto.h"
 
+#include <algorithm>
 #include <array>
 
 namespace novex {
@@ -111,6 +112,35 @@ bool IgualesSinMayusculas(std::string_view a, std::string_view b) {
 std::string_view SinBlancosFinales(std::string_view texto) {
   while (!texto.empty() && EsBlancoXml(texto.back())) texto.remove_suffix(1);
   return texto;
+}
+
+std::string ClaveBusqueda(std::string_view texto) {
+  constexpr std::array<std::pair<std::u32string_view, char>, 7> kLetras = {{{U"áàâäÁÀÂÄ", 'a'},
+                                                                            {U"éèêëÉÈÊË", 'e'},
+                                                                            {U"íìîïÍÌÎÏ", 'i'},
+                                                                            {U"óòôöÓÒÔÖ", 'o'},
+                                                                            {U"úùûüÚÙÛÜ", 'u'},
+                                                                            {U"ñÑ", 'n'},
+                                                                            {U"çÇ", 'c'}}};
+  std::string clave;
+  clave.reserve(texto.size());
+  while (!texto.empty()) {
+    const CaracterUtf8 c = PrimerCaracter(texto);
+    texto.remove_prefix(c.bytes);
+    if (c.codigo < 0x80) {
+      const auto letra = static_cast<char>(c.codigo);
+      clave += letra >= 'A' && letra <= 'Z' ? static_cast<char>(letra - 'A' + 'a') : letra;
+      continue;
+    }
+    const auto* base = std::find_if(kLetras.begin(), kLetras.end(), [&](const auto& letras) {
+      return letras.first.find(c.codigo) != std::u32string_view::npos;
+    });
+    if (base != kLetras.end())
+      clave += base->second;
+    else
+      AnadirUtf8(clave, c.codigo);
+  }
+  return clave;
 }
 
 std::string_view SinBlancos(std::string_view texto) {

@@ -29,6 +29,10 @@ CaracterUtf8 PrimerCaracter(std::string_view texto);
 /// Compara dos textos sin distinguir mayúsculas de minúsculas en las letras A a Z.
 bool IgualesSinMayusculas(std::string_view a, std::string_view b);
 
+/// El texto para comparar lo que se busca: en minúsculas y con las letras del español y de las
+/// demás lenguas de España sin sus acentos; la eñe se busca como ene y la ce con cedilla como ce.
+std::string ClaveBusqueda(std::string_view texto);
+
 /// El texto sin blancos (espacio, tabulador, CR, LF) al principio ni al final.
 std::string_view SinBlancos(std::string_view texto);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -13,6 +14,22 @@ struct NodoConservado {
   std::string texto;
   std::vector<NodoConservado> hijos;
   bool operator==(const NodoConservado&) const = default;
+
+  /// El valor de un atributo, vacío si no lo tiene.
+  std::string_view Atributo(std::string_view clave) const {
+    for (const auto& [n, valor] : atributos)
+      if (n == clave) return valor;
+    return {};
+  }
+  /// Cambia el valor de un atributo, o lo añade al final si no lo tiene.
+  void PonerAtributo(std::string_view clave, std::string valor) {
+    for (auto& [n, v] : atributos)
+      if (n == clave) {
+        v = std::move(valor);
+        return;
+      }
+    atributos.emplace_back(clave, std::move(valor));
+  }
 };
 
 }  // namespace novex
