@@ -6,6 +6,7 @@
 
 #include "entry/CreacionSistema.h"
 #include "entry/ListasSistemas.h"
+#include "entry/ReglasVentilacion.h"
 #include "model/CatalogoCampos.h"
 #include "reference/LongitudesPuentes.h"
 #include "reference/ValoresDefectoU.h"
@@ -26,9 +27,6 @@ constexpr float kInclinacionFV = 30;
 constexpr std::array<std::string_view, 5> kIndividuales = {
     "1 Calentador", "1 Caldera", "1 BC aire-agua", "1 BC aire-agua dedicada", "1 Termo electrico"};
 constexpr std::array<std::string_view, 2> kColectivas = {"1 Caldera", "1 BC aire-agua"};
-
-// RITE IT 1.1.4.2, caudal de aire exterior: 20, 12,5 y 8 l/s por persona, en m3/h.
-constexpr std::array<float, 3> kCaudalesPersona = {72, 45, 28.8F};
 
 constexpr std::array<const char*, kSectores> kSectorEnAviso = {"Norte", "Oeste",   "SurOeste",
                                                                "Sur",   "SurEste", "Este"};
@@ -229,14 +227,14 @@ void PonerFotovoltaica(Edificio& edificio, const EntradaExpres& e, Mensajes& men
 }
 
 void PonerAireTerciario(Edificio& edificio, const EntradaExpres& e) {
-  const DatosGenerales& d = edificio.GetDatosGenerales();
-  if (d.EsResidencial()) return;
-  const Recinto& r = edificio.GetRecinto(0);
+  if (edificio.GetDatosGenerales().EsResidencial()) return;
+  const auto clase = std::find(kCalidadesAire.begin(), kCalidadesAire.end(), e.calidadAire);
   Ventilacion v = edificio.GetVentilacion();
-  const float personasVolumen = d.Nm2_p * r.Volumen_total_m3;
-  v.nrenovventilacion = personasVolumen > 0.0F ? CaudalPorPersona(e.calidadAire) *
-                                                     r.Suelo_habitable_m2 / personasVolumen
-                                               : 0.0F;
+  v.nrenovventilacion =
+      clase == kCalidadesAire.end()
+          ? 0.0F
+          : CalcularClaseAire(edificio, static_cast<ClaseAire>(clase - kCalidadesAire.begin()))
+                .renovaciones;
   v.Calcular_Renov_h_segun_HS3 = "Si";
   edificio.SetVentilacion(std::move(v));
 }
@@ -246,12 +244,6 @@ void PonerAireTerciario(Edificio& edificio, const EntradaExpres& e) {
 std::span<const std::string_view> InstalacionesExpres(int perfilUso, bool colectiva) {
   if (perfilUso != 0 && colectiva) return kColectivas;
   return kIndividuales;
-}
-
-float CaudalPorPersona(std::string_view calidad) {
-  for (std::size_t i = 0; i < kCalidadesAire.size(); ++i)
-    if (kCalidadesAire[i] == calidad) return kCaudalesPersona[i];
-  return 0;
 }
 
 void DefinirExpres(Edificio& edificio, const EntradaExpres& e, const XMLNode& valoresU,

@@ -80,9 +80,6 @@ inline constexpr std::size_t kVidriosMaximos = 4;
 /// Instalaciones de agua caliente que se ofrecen para un uso.
 std::span<const std::string_view> InstalacionesExpres(int perfilUso, bool colectiva);
 
-/// Caudal de aire exterior por persona de una calidad, m3/h; 0 si no es IDA1, IDA2 o IDA3 (RITE).
-float CaudalPorPersona(std::string_view calidad);
-
 /// Construye en un caso el edificio de la definición exprés para su zona y su uso: borra lo que hay
 /// de la envolvente y la hace con las transmitancias de la época, los huecos, la ventilación, la
 /// instalación de agua caliente con su consumo de referencia, y los puentes térmicos estimados. Los

@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "files/SeccionesProyecto.h"
+#include "model/ListasMejora.h"
 
 namespace novex {
 namespace {
@@ -15,10 +16,6 @@ constexpr std::string_view kLinea = "Linea";
 constexpr std::string_view kCondiciones = "CondicionesMejora";
 constexpr std::string_view kIntervenciones = "Intervenciones";
 constexpr std::size_t kTerceraVisita = 3;
-
-constexpr std::array<std::string_view, 7> kCostes = {
-    "<500", "500-1000", "1000-10000", "10000-25000", "25000-50000", "50000-100000", ">100000"};
-constexpr std::array<std::string_view, 4> kPlazos = {"<5", "5-10", "10-15", ">15"};
 
 constexpr std::array kVisitas = {Real<g, &D::NumeroVisitas>("NumeroVisitas", 0),
                                  TextoEn<0, g, &D::FechaVisita>("FechaVisita1"),
@@ -40,8 +37,9 @@ constexpr std::array kCamposCondiciones = {Logico<g, &D::CBConfort>("CBConfort")
                                            Logico<g, &D::CBRuido>("CBRuido"),
                                            Logico<g, &D::CBOtros>("CBOtros")};
 
-constexpr std::array kEconomia = {Posicion<g, &D::Coste>("Coste", kCostes),
-                                  Posicion<g, &D::PlazoAmortizacion>("PlazoAmortizacion", kPlazos)};
+constexpr std::array kEconomia = {
+    Posicion<g, &D::Coste>("Coste", kCostesMejora),
+    Posicion<g, &D::PlazoAmortizacion>("PlazoAmortizacion", kPlazosFichero)};
 
 constexpr std::array kCamposIntervenciones = {
     Logico<g, &D::CBHuecos>("CBHuecos"),

@@ -1,6 +1,7 @@
 #include "files/ErroresXml.h"
 #include "files/LimitesProyecto.h"
 #include "files/SeccionesProyecto.h"
+#include "model/ListasHuecos.h"
 #include "model/PropiedadesHueco.h"
 
 namespace novex {
@@ -11,14 +12,6 @@ using H = Huecos;
 constexpr std::string_view kSeccion = "Huecos";
 constexpr std::string_view kHueco = "Hueco";
 constexpr int kDecimales = 2;
-
-constexpr std::array<std::string_view, 2> kExisteCaja = {"Existe", "No existe"};
-constexpr std::array<std::string_view, 4> kUCaja = {"Sin aislamiento", "1-2 cm aislamiento",
-                                                    "2-4 cm aislamiento", "Se falicita U"};
-constexpr std::array<std::string_view, 4> kInfiltracionCaja = {"Estanco", "1 mm rendija",
-                                                               "2 mm rendija", "Se facilita V"};
-constexpr std::array<std::string_view, 4> kTipos = {"Ventana", "Puerta", "Lucernario",
-                                                    "Escaparate"};
 
 constexpr std::array kCampos = {
     Texto<&H::Nombre_hueco>("Nombre_hueco"),
@@ -48,10 +41,11 @@ constexpr std::array kCampos = {
     Real<&H::Altura_Caja_de_persiana_m>("Altura_Caja_de_persiana_m", kDecimales),
     Real<&H::Vinf_Caja_de_persiana_m3_h>("Vinf_Caja_de_persiana_m3_h", kDecimales),
     Real<&H::Permeabilidad_Ventanas>("Permeabilidad_Ventanas", kDecimales),
-    Posicion<&H::Existe_Caja_persiana>("Existe_Caja_persiana", kExisteCaja),
-    Posicion<&H::Tipo_de_U_Caja_persiana>("Tipo_de_U_Caja_persiana", kUCaja),
-    Posicion<&H::Tipo_de_Vinf_Caja_persiana>("Tipo_de_Vinf_Caja_persiana", kInfiltracionCaja),
-    Posicion<&H::Tipo_de_hueco>("Tipo_de_hueco", kTipos)};
+    Posicion<&H::Existe_Caja_persiana>("Existe_Caja_persiana", listaHuecos::kExisteCaja),
+    Posicion<&H::Tipo_de_U_Caja_persiana>("Tipo_de_U_Caja_persiana", listaHuecos::kUCaja),
+    Posicion<&H::Tipo_de_Vinf_Caja_persiana>("Tipo_de_Vinf_Caja_persiana",
+                                             listaHuecos::kInfiltracionCaja),
+    Posicion<&H::Tipo_de_hueco>("Tipo_de_hueco", listaHuecos::kTipos)};
 
 // Recorre las columnas de un grupo en el orden del fichero. `numero` recibe la etiqueta y la
 // columna cuyo número de huecos se guarda; `valor`, la etiqueta y la medida.

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "model/Perfiles.h"
@@ -10,6 +11,25 @@ namespace novex {
 
 inline constexpr std::size_t kLineasMemo = 40;
 inline constexpr std::size_t kMemos = 8;
+
+/// Usos por su posición en `PerfilUso`.
+inline constexpr std::array<std::string_view, 16> kNombrePerfilUso = {
+    "Vivienda Unifamiliar",
+    "Edificios en Bloque",
+    "Vivienda dentro de un Bloque",
+    "Terciario 8h Carga interna Baja",
+    "Terciario 8h Carga interna Media",
+    "Terciario 8h Carga interna Alta",
+    "Terciario 12h Carga interna Baja",
+    "Terciario 12h Carga interna Media",
+    "Terciario 12h Carga interna Alta",
+    "Terciario 16h Carga interna Baja",
+    "Terciario 16h Carga interna Media",
+    "Terciario 16h Carga interna Alta",
+    "Terciario 24h Carga interna Baja",
+    "Terciario 24h Carga interna Media",
+    "Terciario 24h Carga interna Alta",
+    "Terciario Perfil Usuario"};
 
 /// Datos administrativos, uso, horarios y ajustes de instalaciones de todo el edificio.
 struct DatosGenerales {

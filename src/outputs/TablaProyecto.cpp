@@ -1,5 +1,7 @@
 #include "outputs/TablaProyecto.h"
 
+#include "model/ListasHuecos.h"
+
 #include <array>
 #include <numeric>
 #include <span>
@@ -50,8 +52,6 @@ class FilasEnvolvente {
   float total_ = 0;
 };
 
-constexpr std::array<std::string_view, 4> kTiposHueco = {"Ventana", "Puerta", "Lucernario",
-                                                         "Escaparate"};
 /// Columnas de un grupo de huecos y cómo se llaman.
 constexpr std::array<std::pair<std::size_t, const char*>, 7> kOrientaciones = {
     {{norte, "N"},
@@ -64,7 +64,8 @@ constexpr std::array<std::pair<std::size_t, const char*>, 7> kOrientaciones = {
 
 std::string NombreTipoHueco(int tipo) {
   const auto i = static_cast<std::size_t>(tipo);
-  return tipo >= 0 && i < kTiposHueco.size() ? std::string(kTiposHueco[i]) : std::to_string(tipo);
+  return tipo >= 0 && i < listaHuecos::kTipos.size() ? std::string(listaHuecos::kTipos[i])
+                                                     : std::to_string(tipo);
 }
 
 Celda Cuenta(std::size_t n) {

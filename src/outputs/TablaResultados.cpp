@@ -5,23 +5,6 @@
 namespace novex {
 namespace {
 
-constexpr std::array<std::string_view, 16> kUsos = {"Vivienda Unifamiliar",
-                                                    "Edificios en Bloque",
-                                                    "Vivienda dentro de un Bloque",
-                                                    "Terciario 8h Carga interna Baja",
-                                                    "Terciario 8h Carga interna Media",
-                                                    "Terciario 8h Carga interna Alta",
-                                                    "Terciario 12h Carga interna Baja",
-                                                    "Terciario 12h Carga interna Media",
-                                                    "Terciario 12h Carga interna Alta",
-                                                    "Terciario 16h Carga interna Baja",
-                                                    "Terciario 16h Carga interna Media",
-                                                    "Terciario 16h Carga interna Alta",
-                                                    "Terciario 24h Carga interna Baja",
-                                                    "Terciario 24h Carga interna Media",
-                                                    "Terciario 24h Carga interna Alta",
-                                                    "Terciario Perfil Usuario"};
-
 struct ServicioMostrado {
   Servicio servicio;
   const char* nombre;
@@ -50,7 +33,8 @@ float Demanda(Servicio servicio, const ResultadosCaso& r) {
 
 std::string Texto(int perfilUso) {
   const auto i = static_cast<std::size_t>(perfilUso);
-  return perfilUso >= 0 && i < kUsos.size() ? std::string(kUsos[i]) : std::to_string(perfilUso);
+  return perfilUso >= 0 && i < kNombrePerfilUso.size() ? std::string(kNombrePerfilUso[i])
+                                                       : std::to_string(perfilUso);
 }
 
 std::string TextoEquipos(const Edificio& edificio) {

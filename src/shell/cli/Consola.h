@@ -53,6 +53,9 @@ EspacioTrabajo AbrirEspacio(const std::string& programa);
 /// Escribe las tablas que tienen filas en la salida, con una línea en blanco entre ellas.
 void EscribirTablas(const std::vector<Tabla>& tablas);
 
+/// Nombre de fichero que significa la salida.
+inline constexpr const char* kSalidaEstandar = "-";
+
 /// Escribe un texto en la salida. \throws ErrorOrden si la salida no lo admite
 void EscribirSalida(const std::string& texto);
 

@@ -2,12 +2,11 @@
 #include <memory>
 
 #include "base/FicheroSeguro.h"
-#include "calculation/ComprobacionesPrevias.h"
-#include "calculation/EjecutarCalculo.h"
 #include "outputs/JsonResultados.h"
 #include "outputs/SeriesHorarias.h"
 #include "outputs/TablaResultados.h"
 #include "shell/cli/AbrirProyectoConsola.h"
+#include "shell/cli/CalculoConsola.h"
 #include "shell/cli/Ordenes.h"
 
 namespace novex::cli {
@@ -18,15 +17,6 @@ struct OpcionesCalcular {
   bool ficherosDeCaso = false;
   bool sinComprobar = false;
 };
-
-constexpr const char* kSalidaEstandar = "-";
-
-std::vector<std::string> CasosDe(const GestorEdifActivo& gestor) {
-  std::vector<std::string> nombres;
-  for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i)
-    nombres.emplace_back(GestorEdifActivo::NombreCasoUsuario(i));
-  return nombres;
-}
 
 std::vector<std::string> CasosPedidos(const GestorEdifActivo& gestor, const std::string& caso) {
   std::vector<std::string> nombres = CasosDe(gestor);
@@ -46,19 +36,6 @@ void NoPisarProyecto(const OpcionesCalcular& opciones) {
   }
 }
 
-// Avisa de lo que impide calcular los casos; con varios en el proyecto, dice de cuál es.
-bool SePuedenCalcular(const GestorEdifActivo& gestor, const std::vector<std::string>& nombres,
-                      Mensajes& mensajes) {
-  bool pueden = true;
-  for (const std::string& nombre : nombres)
-    for (const Mensaje& aviso : AvisosPrevios(*gestor.Caso(nombre))) {
-      const std::string caso = gestor.NumeroCasos() > 1 ? NombreMostrado(nombre) + ": " : "";
-      mensajes.Avisar(caso + aviso.titulo, aviso.texto);
-      pueden = false;
-    }
-  return pueden;
-}
-
 // Con varios casos, las series de cada mejora van a un fichero propio con su nombre.
 std::filesystem::path FicheroSeries(const std::string& pedido, const CasoCalculado& caso,
                                     std::size_t casos) {
@@ -68,23 +45,6 @@ std::filesystem::path FicheroSeries(const std::string& pedido, const CasoCalcula
   return ruta;
 }
 
-// Nada si falta el clima, del que ya se ha avisado.
-std::vector<CasoCalculado> CalcularCasos(GestorEdifActivo& gestor,
-                                         const std::vector<std::string>& nombres,
-                                         const OpcionesCalcular& opciones,
-                                         MensajesConsola& mensajes) {
-  FicherosPrograma ficheros(AbrirEspacio(opciones.programa));
-  Progreso progreso;
-  Entorno entorno{ficheros, mensajes, progreso, opciones.ficherosDeCaso};
-  std::vector<CasoCalculado> calculados;
-  for (const std::string& nombre : nombres) {
-    Edificio& edificio = *gestor.Caso(nombre);
-    if (!CalcularCaso(gestor, nombre, entorno)) return {};
-    calculados.push_back({nombre, &edificio, edificio.GetCalculo().get(), mensajes.Tomar()});
-  }
-  return calculados;
-}
-
 int Calcular(const OpcionesCalcular& opciones) {
   NoPisarProyecto(opciones);
   GestorEdifActivo gestor;
@@ -92,7 +52,8 @@ int Calcular(const OpcionesCalcular& opciones) {
   AbrirProyectoConsola(gestor, opciones.proyecto, mensajes, opciones.programa);
   const std::vector<std::string> pedidos = CasosPedidos(gestor, opciones.caso);
   if (!opciones.sinComprobar && !SePuedenCalcular(gestor, pedidos, mensajes)) return kNoCumple;
-  const auto casos = CalcularCasos(gestor, pedidos, opciones, mensajes);
+  FicherosPrograma ficheros(AbrirEspacio(opciones.programa));
+  const auto casos = CalcularCasos(gestor, pedidos, ficheros, mensajes, opciones.ficherosDeCaso);
   if (casos.empty()) return kSinHacer;
 
   const std::string nombre = std::filesystem::path(opciones.proyecto).filename().string();

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "calculation/Entorno.h"
+#include "model/GestorEdifActivo.h"
+#include "outputs/CasoCalculado.h"
+#include "shell/cli/Consola.h"
+
+namespace novex::cli {
+
+/// Los casos de usuario de un proyecto, en su orden.
+std::vector<std::string> CasosDe(const GestorEdifActivo& gestor);
+
+/// Avisa de lo que impide calcular los casos; con varios en el proyecto, dice de cuál es.
+/// \returns si se pueden calcular todos
+bool SePuedenCalcular(const GestorEdifActivo& gestor, const std::vector<std::string>& nombres,
+                      Mensajes& mensajes);
+
+/// Calcula los casos. \returns uno por caso, o ninguno si falta el clima, del que ya se ha avisado
+std::vector<CasoCalculado> CalcularCasos(GestorEdifActivo& gestor,
+                                         const std::vector<std::string>& nombres,
+                                         FicherosPrograma& ficheros, MensajesConsola& mensajes,
+                                         bool ficherosDeCaso = false);
+
+}  // namespace novex::cli
