@@ -8,15 +8,19 @@ set(programa "${CMAKE_BINARY_DIR}/programa")
 set(sello_datos "${CMAKE_BINARY_DIR}/carpeta_datos.sello")
 set(sello_clima "${CMAKE_BINARY_DIR}/carpeta_clima.sello")
 
+# Los catálogos que el usuario amplía no se copian encima: la versión nueva se funde con lo suyo.
+set(ampliables "${CMAKE_SOURCE_DIR}/data/database/Materiales.xml"
+               "${CMAKE_SOURCE_DIR}/data/database/Composiciones.xml")
 set(copias "")
 set(datos "")
 foreach(carpeta IN ITEMS database proyectos bmp clima)
   file(GLOB_RECURSE ficheros CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/${carpeta}/*")
+  list(REMOVE_ITEM ficheros ${ampliables})
   list(APPEND datos ${ficheros})
   list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E make_directory "${programa}/${carpeta}")
   if(ficheros)
-    list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E copy_directory
-                               "${CMAKE_SOURCE_DIR}/data/${carpeta}" "${programa}/${carpeta}")
+    list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E copy_if_different ${ficheros}
+                               "${programa}/${carpeta}")
   endif()
 endforeach()
 add_custom_command(
@@ -26,6 +30,17 @@ add_custom_command(
   COMMENT "Copiando los datos a la carpeta de programa"
   VERBATIM)
 add_custom_target(carpeta_datos ALL DEPENDS "${sello_datos}")
+
+set(sello_catalogos "${CMAKE_BINARY_DIR}/catalogos.sello")
+add_custom_command(
+  OUTPUT "${sello_catalogos}"
+  COMMAND novex-cli catalogos actualizar "${CMAKE_SOURCE_DIR}/data/database" --programa "${programa}"
+  COMMAND "${CMAKE_COMMAND}" -E touch "${sello_catalogos}"
+  DEPENDS ${ampliables} "${sello_datos}"
+  COMMENT "Poniendo al día los catálogos"
+  VERBATIM)
+add_custom_target(catalogos ALL DEPENDS "${sello_catalogos}")
+add_dependencies(catalogos carpeta_datos)
 
 # El clima depende de lo que lo determina y no del ejecutable: enlazar de nuevo no lo rehace.
 file(GLOB estadisticas CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/clima/*.csv")

@@ -38,18 +38,17 @@ constexpr double kEquiposMaximos = 1e9;  // los que admite el campo
 constexpr float kCalorUnidad = 2, kConsumoCalorUnidad = 1;
 constexpr float kSensibleUnidad = 1.5F, kTotalUnidad = 2, kConsumoFrioUnidad = 0.9F;
 
-// Equipos de los que hay uno por vivienda. Los de agua caliente han de ser tantos como viviendas
-// para que el proyecto se pueda calcular, y cada uno se dimensiona para la suya.
+// Equipos con distancia propia a su unidad interior.
 struct UnidadVivienda {
   C clase;
   float distancia;  // m
   double fraccion;  // de las potencias y los consumos
 };
-constexpr UnidadVivienda kUnidadesVivienda[] = {
-    {C::Conductos, 10, 1},    {C::MultiSplit, 25, 1},  {C::CaudalVariable, 25, 1},
-    {C::Rooftop, 0, 0.3},     {C::BombaCalor, 1, 1},   {C::Calentador, 1, 1},
-    {C::Caldera, 1, 1},       {C::CalderaMixta, 1, 1}, {C::BombaCalorCaldera, 1, 1},
-    {C::BombaDedicada, 1, 1}, {C::Termo, 1, 1},        {C::Interacumulador, 1, 1}};
+constexpr UnidadVivienda kUnidadesVivienda[] = {{C::Conductos, 10, 1},
+                                                {C::MultiSplit, 25, 1},
+                                                {C::CaudalVariable, 25, 1},
+                                                {C::Rooftop, 0, 0.3},
+                                                {C::BombaCalor, 1, 1}};
 constexpr float kDistanciaPartida = 10;  // m, de una bomba de calor partida
 
 // Temperaturas de impulsión de calor, °C.
@@ -114,10 +113,17 @@ void PonerElecciones(const Contexto& c, std::string_view tipoSistema, Instalacio
   b.CombCalorBio2 = "Biomasa_Otros";
 }
 
+// Viviendas de un bloque con su equipo cada una: se dimensiona para una, y sin tantos equipos de
+// agua caliente como viviendas el proyecto no se puede calcular. Sin viviendas definidas queda uno.
+double EquiposPorBloque(const Contexto& c, const Instalaciones& b) {
+  if (c.edificio.GetDatosGenerales().PerfilUso != kEdificiosEnBloque) return 1;
+  return std::max(1.0, std::floor(UnidadesDe(c.edificio, b.TipoInstalacionesG).individuales));
+}
+
 void PonerComunes(const Contexto& c, Instalaciones& b) {
   b.EControlTe = 7;
   b.NEmisores = 1;
-  b.NEquipos = 1;
+  b.NEquipos = EsEstacional(c.clase) ? 1 : static_cast<int>(EquiposPorBloque(c, b));
   b.Distanciaext_int = 1;
   b.Perdida_m_tub_ext_int = 0.3F;
   b.Pot_perdida_m_tub = 0.2F;
@@ -148,8 +154,8 @@ void PonerUnidadesFijas(const Contexto& c, Instalaciones& b) {
     if (unidad.clase != c.clase) continue;
     // Una potencia que debía ser entera no pierde una unidad por el error de la división.
     constexpr double kHolgura = 1e-6;
-    b.NEquipos = static_cast<int>(
-        std::min(kEquiposMaximos, std::floor(kUnidadesPorKW * c.P + 1 + kHolgura)));
+    b.NEquipos = static_cast<int>(std::min(
+        kEquiposMaximos, std::floor(kUnidadesPorKW * c.P + 1 + kHolgura) * EquiposPorBloque(c, b)));
     b.Distanciaext_int = unidad.distancia;
     b.QcalorBC1 = kCalorUnidad;
     b.WeCalor1 = kConsumoCalorUnidad;
@@ -162,10 +168,6 @@ void PonerUnidadesFijas(const Contexto& c, Instalaciones& b) {
 void PonerUnidadesVivienda(const Contexto& c, Instalaciones& b) {
   for (const UnidadVivienda& unidad : kUnidadesVivienda) {
     if (unidad.clase != c.clase) continue;
-    // Sin viviendas definidas queda un equipo: ninguno no se puede calcular.
-    if (c.edificio.GetDatosGenerales().PerfilUso == kEdificiosEnBloque)
-      b.NEquipos =
-          std::max(1, static_cast<int>(UnidadesDe(c.edificio, b.TipoInstalacionesG).individuales));
     const bool partida = c.clase == C::BombaCalor && b.TipoBC1 != kTiposBC[0];
     b.Distanciaext_int = partida ? kDistanciaPartida : unidad.distancia;
     for (float* kW : {&b.QcalorBC1, &b.WeCalor1, &b.QFrioTot1, &b.QFrioSen1, &b.WeFrio1})

@@ -1,17 +1,15 @@
 #include "entry/CambioUso.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
+#include "model/ClavesCampos.h"
 #include "reference/PerfilesUso.h"
 
 namespace novex {
 namespace {
 
 constexpr std::string_view kSimulacion = "Simulacion";
-constexpr std::array<std::string_view, 3> kObjetivos = {"CertificacionSolo", "Certificacion",
-                                                        kSimulacion};
 constexpr int kUltimoPerfil = 15;
 // En un uso terciario las ventanas no se abren de noche en verano.
 constexpr const char* kVentanasAbiertas = "Abiertas";
@@ -21,7 +19,8 @@ constexpr const char* kVentanasCerradas = "Cerradas";
 
 bool CambiarObjetivo(GestorEdifActivo& gestor, std::string_view objetivo,
                      const XMLNode& perfilesUso, Mensajes& mensajes) {
-  if (std::find(kObjetivos.begin(), kObjetivos.end(), objetivo) == kObjetivos.end()) return false;
+  const auto objetivos = TextosDeCampo("Tiposimulacion");
+  if (std::find(objetivos.begin(), objetivos.end(), objetivo) == objetivos.end()) return false;
   for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i) {
     Edificio* caso = gestor.Caso(GestorEdifActivo::NombreCasoUsuario(i));
     if (caso == nullptr) continue;
@@ -52,11 +51,14 @@ bool CambiarPerfilUso(Edificio& edificio, int perfil, const XMLNode& perfilesUso
   return true;
 }
 
-void CambiarTipoCertificado(Edificio& edificio, std::string_view tipo) {
+bool CambiarTipoCertificado(Edificio& edificio, std::string_view tipo) {
+  const auto tipos = TextosDeCampo("TipoCertificado");
+  if (std::find(tipos.begin(), tipos.end(), tipo) == tipos.end()) return false;
   DatosGenerales d = edificio.GetDatosGenerales();
   d.TipoCertificado = tipo;
   d.Modo_trabajo = ModoTrabajoDe(d.TipoCertificado);
   edificio.SetDatosGenerales(std::move(d));
+  return true;
 }
 
 }  // namespace novex

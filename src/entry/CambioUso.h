@@ -22,6 +22,7 @@ bool CambiarPerfilUso(Edificio& edificio, int perfil, const XMLNode& perfilesUso
                       Mensajes& mensajes);
 
 /// Cambia el tipo de certificado y el modo de trabajo que sigue de él.
-void CambiarTipoCertificado(Edificio& edificio, std::string_view tipo);
+/// \returns false, sin cambiar nada, si no es uno de los siete
+bool CambiarTipoCertificado(Edificio& edificio, std::string_view tipo);
 
 }  // namespace novex

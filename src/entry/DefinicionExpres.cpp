@@ -35,7 +35,12 @@ float Numero(const std::string& texto, std::string_view clave, Mensajes& mensaje
   return ComprobarValor(texto.empty() ? "0" : texto, clave, mensajes);
 }
 
-void LimpiarEnvolvente(Edificio& edificio) {
+void LimpiarEnvolvente(Edificio& edificio, Construccion& c) {
+  while (edificio.NumeroRecintos() > 1) edificio.BorrarRecinto(edificio.NumeroRecintos() - 1);
+  for (int* tipos : {&c.MurosExt, &c.MurosOtros, &c.SuelosTerreno, &c.SuelosOtros, &c.CubiertasHz,
+                     &c.CubiertasIncl, &c.CubiertasOtras})
+    *tipos = 0;
+  c.suelosTerreno = {};
   for (std::size_t i = 0; i < kRanuras; ++i) edificio.LimpiarComposicion(i);
   Recinto vacio;
   vacio.nombre = edificio.GetRecinto(0).nombre;
@@ -184,8 +189,8 @@ void PonerHorizontales(Edificio& edificio, const EntradaExpres& e, Mensajes& men
   }
 }
 
-void PonerAguaCaliente(Edificio& edificio, const EntradaExpres& e,
-                       const CatalogoEquipos* catalogo) {
+void PonerAguaCaliente(Edificio& edificio, const EntradaExpres& e, const CatalogoEquipos* catalogo,
+                       Mensajes& mensajes) {
   // Una definición anterior dejó el suyo.
   for (std::size_t i = edificio.NumeroSistemas(); i-- > 0;)
     if (edificio.GetSistema(i).Nombre_sistema == kNombreSistema &&
@@ -194,7 +199,14 @@ void PonerAguaCaliente(Edificio& edificio, const EntradaExpres& e,
   DatosGenerales d = edificio.GetDatosGenerales();
   d.ConsumoAgua_litros_dia = VolumenReferencia(edificio);
   const bool central = d.PerfilUso != 0 && e.colectiva;
+  const bool sinConsumo = !d.EsResidencial() && d.ConsumoAgua_litros_dia <= 0.0F;
   edificio.SetDatosGenerales(std::move(d));
+  if (sinConsumo) {
+    // Un depósito sin volumen no se puede calcular, y un terciario no necesita el servicio.
+    mensajes.Avisar("AVISO",
+                    "El uso no tiene consumo de agua caliente. No se construye su instalación");
+    return;
+  }
 
   PeticionSistema peticion;
   peticion.tipoSistema = kTipoACS;
@@ -226,17 +238,13 @@ void PonerFotovoltaica(Edificio& edificio, const EntradaExpres& e, Mensajes& men
   edificio.SetDatosGenerales(std::move(d));
 }
 
-void PonerAireTerciario(Edificio& edificio, const EntradaExpres& e) {
-  if (edificio.GetDatosGenerales().EsResidencial()) return;
+void PonerAireTerciario(Edificio& edificio, const EntradaExpres& e, Mensajes& mensajes) {
+  const DatosGenerales& d = edificio.GetDatosGenerales();
   const auto clase = std::find(kCalidadesAire.begin(), kCalidadesAire.end(), e.calidadAire);
-  Ventilacion v = edificio.GetVentilacion();
-  v.nrenovventilacion =
-      clase == kCalidadesAire.end()
-          ? 0.0F
-          : CalcularClaseAire(edificio, static_cast<ClaseAire>(clase - kCalidadesAire.begin()))
-                .renovaciones;
-  v.Calcular_Renov_h_segun_HS3 = "Si";
-  edificio.SetVentilacion(std::move(v));
+  if (d.EsResidencial() || clase == kCalidadesAire.end()) return;
+  if (d.Nm2_p <= 0.0F)
+    mensajes.Avisar("AVISO", "Falta la superficie por persona del uso: las renovaciones son 0");
+  AceptarClaseAire(edificio, static_cast<ClaseAire>(clase - kCalidadesAire.begin()), mensajes);
 }
 
 }  // namespace
@@ -251,8 +259,8 @@ void DefinirExpres(Edificio& edificio, const EntradaExpres& e, const XMLNode& va
   const std::string zona = edificio.GetLocalizacion().ZonaClimatica;
   Construccion construccion = edificio.GetConstruccion();
   construccion.Longitud_puentes_termicos_modo = "Estimados";
-  LimpiarEnvolvente(edificio);
-  PonerValoresDefectoU(LeerValoresDefectoU(valoresU, e.periodo, LetraInvierno(zona), mensajes),
+  LimpiarEnvolvente(edificio, construccion);
+  PonerValoresDefectoU(LeerValoresDefectoU(valoresU, e.periodo, LetraZona(zona), mensajes),
                        edificio);
   edificio.GetRecinto(0).Volumen_total_m3 = Numero(e.volumen, "Volumen", mensajes);
   edificio.GetRecinto(0).Suelo_habitable_m2 = Numero(e.superficie, "Area", mensajes);
@@ -261,10 +269,10 @@ void DefinirExpres(Edificio& edificio, const EntradaExpres& e, const XMLNode& va
   PonerMuros(edificio, e, mensajes);
   PonerHorizontales(edificio, e, mensajes);
   edificio.SetConstruccion(PuentesPorTabla(construccion, zona));
-  PonerAguaCaliente(edificio, e, catalogo);
+  PonerAguaCaliente(edificio, e, catalogo, mensajes);
   edificio.SetConstruccion(LongitudesEstimadas(edificio));
   PonerFotovoltaica(edificio, e, mensajes);
-  PonerAireTerciario(edificio, e);
+  PonerAireTerciario(edificio, e, mensajes);
   edificio.QuitarCalculo();
 }
 

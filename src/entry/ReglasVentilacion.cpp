@@ -60,9 +60,8 @@ void PonerRenovaciones(Edificio& edificio, std::string_view texto, Mensajes& men
 }
 
 std::string_view NotaRenovaciones(const DatosGenerales& generales) {
-  if (!generales.EsResidencial()) return {};
-  return generales.Modo_trabajo == "Existente" ? "(sino se conocen utilizar 0,63 renov./h)"
-                                               : "(debe cumplir como mínimo CTE-HS3)";
+  if (generales.Modo_trabajo == "Existente") return "(sino se conocen utilizar 0,63 renov./h)";
+  return generales.EsResidencial() ? "(debe cumplir como mínimo CTE-HS3)" : std::string_view{};
 }
 
 float CaudalTipologiaHS3(const TipologiaVivienda& tipologia) {

@@ -15,8 +15,8 @@ std::string TextoCaudalVentilacion(const Edificio& edificio);
 /// Guarda las renovaciones por hora tecleadas.
 void PonerRenovaciones(Edificio& edificio, std::string_view texto, Mensajes& mensajes);
 
-/// Nota junto a las renovaciones: el mínimo de una vivienda nueva o el valor que se usa en una
-/// existente; vacía en un uso terciario.
+/// Nota junto a las renovaciones: el valor que se usa en un edificio existente o el mínimo de una
+/// vivienda nueva; vacía en un terciario nuevo.
 std::string_view NotaRenovaciones(const DatosGenerales& generales);
 
 /// Caudal mínimo constante de un tipo de vivienda con todas sus viviendas, l/s: el mayor del de

@@ -28,8 +28,8 @@ constexpr const char* kTextoResistencia =
 float Instalaciones::*CampoResistencia(TipoSistema tipo, C clase) {
   if (!DaACS(tipo)) return nullptr;
   if (EsElectricoACS(clase)) return &Instalaciones::QApoyoEquipo;
-  // Con una caldera detrás la bomba de calor no lleva resistencia.
-  return clase == C::BombaCalor ? &Instalaciones::QApoyoTermo : nullptr;
+  const bool bomba = clase == C::BombaCalor || clase == C::BombaCalorCaldera;
+  return bomba ? &Instalaciones::QApoyoTermo : nullptr;
 }
 
 void RellenarCaudales(TipoSistema tipo, Instalaciones& bloque) {

@@ -134,12 +134,13 @@ bool PonerMunicipio(Edificio& edificio, const CatalogoMunicipios& municipios,
   sitio.Provincia = fila->provincia;
   sitio.Municipio = fila->nombre;
   if (!conservarAltitud) sitio.asnm = fila->altitud;
-  const std::string latitud = Fijo(RealInicial(fila->latitud), 2);
-  sitio.latitud = ComprobarValor(latitud, "Latitud", mensajes);
+  double latitud = 0;
+  const bool esNumero = LeerReal(fila->latitud, latitud);
+  sitio.latitud = ComprobarValor(esNumero ? Fijo(latitud, 2) : fila->latitud, "Latitud", mensajes);
   sitio.zona_radiante = fila->zonaRadiacion;
   const bool altitudPropia = conservarAltitud && sitio.asnm != fila->altitud;
-  PonerZona(sitio, altitudPropia ? ZonaDeAltitud(sitio, capitales)
-                                 : std::string_view(fila->ZonaClimatica()));
+  PonerZona(sitio, fila->ZonaClimatica());
+  if (altitudPropia) PonerZona(sitio, ZonaDeAltitud(sitio, capitales));
   Guardar(edificio, std::move(sitio));
   return true;
 }
@@ -166,9 +167,8 @@ void SoltarZona(Edificio& edificio, const CatalogoMunicipios& municipios,
   Localizacion sitio = edificio.GetLocalizacion();
   sitio.Cambio_zona_temperatura = kNo;
   const Municipio* fila = municipios.Exacto(sitio.Provincia, sitio.Municipio);
-  if (fila != nullptr && fila->altitud == sitio.asnm)
-    PonerZona(sitio, fila->ZonaClimatica());
-  else
+  if (fila != nullptr) PonerZona(sitio, fila->ZonaClimatica());
+  if (fila == nullptr || fila->altitud != sitio.asnm)
     PonerZona(sitio, ZonaDeAltitud(sitio, capitales));
   Guardar(edificio, std::move(sitio));
 }

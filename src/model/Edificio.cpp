@@ -101,6 +101,24 @@ void Edificio::SetCalculo(std::shared_ptr<calculo> nuevo) {
   m_ptrcalculo = std::move(nuevo);
 }
 
+void Edificio::TomarRegistros(Edificio&& otro) {
+  recintos_ = std::move(otro.recintos_);
+  huecos_ = std::move(otro.huecos_);
+  composiciones_ = std::move(otro.composiciones_);
+  materiales_ = std::move(otro.materiales_);
+  sistemas_ = std::move(otro.sistemas_);
+  localizacion_ = std::move(otro.localizacion_);
+  climaSitio_ = otro.climaSitio_;
+  obstaculos_ = otro.obstaculos_;
+  generales_ = std::move(otro.generales_);
+  ventilacion_ = std::move(otro.ventilacion_);
+  construccion_ = std::move(otro.construccion_);
+  instalaciones_ = std::move(otro.instalaciones_);
+  estudio_ = std::move(otro.estudio_);
+  pantalla_ = std::move(otro.pantalla_);
+  QuitarCalculo();
+}
+
 std::unique_ptr<Edificio> Edificio::Clonar() const {
   auto clon = std::make_unique<Edificio>();
   clon->localizacion_ = localizacion_;

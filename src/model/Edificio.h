@@ -98,6 +98,10 @@ class Edificio {
   /// Deja el caso sin objeto de cálculo, para darle otro.
   void QuitarCalculo() { m_ptrcalculo.reset(); }
 
+  /// Toma los registros y las listas de otro edificio, que queda sin uso. El objeto de cálculo del
+  /// caso se quita: sus resultados ya no son de estos datos.
+  void TomarRegistros(Edificio&& otro);
+
   /// Copia profunda del caso, sin objeto de cálculo y con el almacén de materiales rehecho por
   /// orden de primer uso.
   std::unique_ptr<Edificio> Clonar() const;

@@ -48,9 +48,21 @@ Nodo* Grupo(Nodo& raiz, RamaMateriales rama, std::size_t grupo) {
   return nodo == nullptr || grupo >= nodo->hijos.size() ? nullptr : &nodo->hijos[grupo];
 }
 
+// El mismo material con el mismo espesor, como se enseñan. La resistencia no cuenta: la de catálogo
+// puede no ser el cociente exacto.
 bool MismaFila(const Capa& a, const Capa& b) {
-  return a.especificacion == b.especificacion && a.espesor == b.espesor && a.k == b.k &&
-         a.rterm == b.rterm;
+  const auto igual = [](float x, float y) {
+    return RedondearDecimales(x, 3) == RedondearDecimales(y, 3);
+  };
+  return a.especificacion == b.especificacion && igual(a.espesor, b.espesor) && igual(a.k, b.k);
+}
+
+// Pone las columnas de un material. El espesor y la conductividad que tecleó el usuario van
+// enteros.
+void PonerMaterial(NodoConservado& nodo, const Capa& capa) {
+  PonerCapa(nodo, capa);
+  nodo.PonerAtributo("espesor", General(capa.espesor));
+  nodo.PonerAtributo("k", General(capa.k));
 }
 
 // Dónde entra una capa: tras la última más fina de su nombre, si no ante la primera de su nombre, y
@@ -168,7 +180,7 @@ std::optional<MaterialCatalogo> CatalogoMateriales::Insertar(RamaMateriales rama
             nuevo = otro;
             break;
           }
-        PonerCapa(nuevo, capa);
+        PonerMaterial(nuevo, capa);
         nodo->hijos.insert(nodo->hijos.begin() + static_cast<std::ptrdiff_t>(lugar),
                            std::move(nuevo));
         return true;
@@ -213,14 +225,15 @@ std::optional<MaterialCatalogo> CatalogoMateriales::NuevoMaterial(RamaMateriales
   capa.grupo = grupo;
   capa.ini = datos.ini;
   capa.cte = rama.lista;
-  capa.espesor = Con(ComprobarValor(datos.espesor, "EspesorNuevo", mensajes), 3);
+  capa.espesor = ComprobarValor(datos.espesor, "EspesorNuevo", mensajes);
   capa.rvapor = Con(ComprobarValor(datos.rvapor, "ResisvT", mensajes), 2);
   if (grupo == kGrupoSinInercia) {
-    capa.rterm = Con(ComprobarValor(datos.rterm, "Resistcapa", mensajes), 3);
+    capa.rterm = ComprobarValor(datos.rterm, "Resistcapa", mensajes);
     // Solo cuenta su resistencia; la conductividad equivalente distingue dos de igual nombre.
     capa.k = capa.rterm > 0.0F ? Con(capa.espesor / capa.rterm, 3) : 0.0F;
+    capa.rterm = Con(capa.rterm, 3);
   } else {
-    capa.k = Con(ComprobarValor(datos.k, "K", mensajes), 3);
+    capa.k = ComprobarValor(datos.k, "K", mensajes);
     capa.den = ComprobarValor(datos.den, "Den", mensajes);
     capa.cp = ComprobarValor(datos.cp, "CP", mensajes);
     capa = ConEspesor(capa, capa.espesor, rama.vertical);

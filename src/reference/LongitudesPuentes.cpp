@@ -64,16 +64,20 @@ float Perimetro(float area) {
 
 // Parte del perímetro de la clase que toca al recinto.
 float ParteDePerimetro(float enRecinto, float total) {
-  return Cociente(enRecinto * Perimetro(total), total);
+  // Con un solo recinto es el perímetro entero, sin el error de un producto y una división.
+  return Cociente(enRecinto, total) * Perimetro(total);
 }
 
 float PerimetroHuecos(const Edificio& edificio) {
-  float suma = 0;
+  // Las medidas son decimales: cortar la suma de sus valores binarios puede quitar un metro entero.
+  constexpr double kHolgura = 1e-4;
+  double suma = 0;
   for (std::size_t i = 0; i < edificio.NumeroHuecos(); ++i) {
     const Huecos& g = edificio.GetHuecos(i);
-    suma += 2.0F * (g.Ancho_m + g.Alto_m) * static_cast<float>(g.NumeroTotal());
+    suma += 2.0 * (static_cast<double>(g.Ancho_m) + static_cast<double>(g.Alto_m)) *
+            static_cast<double>(g.NumeroTotal());
   }
-  return std::trunc(suma);
+  return static_cast<float>(std::trunc(suma + kHolgura));
 }
 
 void EstimarRecinto(const Recinto& recinto, const ClasesArea& total, const AlturaEdificio& altura,

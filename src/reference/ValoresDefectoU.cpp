@@ -36,7 +36,7 @@ const std::array<CampoU, 12>& Campos() {
 
 }  // namespace
 
-std::string_view LetraInvierno(std::string_view zona) {
+std::string_view LetraZona(std::string_view zona) {
   for (const std::string_view letra : {"alfa", "A", "B", "C", "D", "E"})
     if (zona.starts_with(letra)) return letra;
   return {};

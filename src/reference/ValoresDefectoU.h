@@ -24,7 +24,7 @@ struct ValoresDefectoU {
 
 /// Letra de invierno de una zona climática: "alfa" o de la "A" a la "E"; vacía si no empieza por
 /// ninguna. Ni la cifra de verano ni la "c" final cuentan.
-std::string_view LetraInvierno(std::string_view zona);
+std::string_view LetraZona(std::string_view zona);
 
 /// Lee las doce transmitancias de una época y una letra, comprobadas con "CoefU" y la última con
 /// "CoefUH". Un dato, una época o una letra que faltan dan los valores de sustitución, con su

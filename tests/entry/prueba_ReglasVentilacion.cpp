@@ -34,7 +34,8 @@ TEST(Renovaciones, NotaSegunElUso) {
   };
   EXPECT_EQ(nota(2, "Nuevo"), "(debe cumplir como mínimo CTE-HS3)");
   EXPECT_EQ(nota(0, "Existente"), "(sino se conocen utilizar 0,63 renov./h)");
-  EXPECT_EQ(nota(3, "Existente"), "");
+  EXPECT_EQ(nota(3, "Existente"), "(sino se conocen utilizar 0,63 renov./h)");
+  EXPECT_EQ(nota(3, "Nuevo"), "");
 }
 
 // Tipo: viviendas, dormitorios, salas y baños. Entre admisión y extracción manda la mayor.

@@ -244,5 +244,85 @@ TEST_F(Ordenes, ClimaInstalaLosFicherosQueValen) {
   EXPECT_TRUE(Contiene(info.salida, "ANUAL"));
 }
 
+// Un dato de una línea de tabla: lo que sigue a su comienzo.
+std::string Linea(const std::string& texto, const std::string& comienzo) {
+  const auto desde = texto.find(comienzo);
+  return desde == std::string::npos ? "" : texto.substr(desde, texto.find('\n', desde) - desde);
+}
+
+TEST_F(Ordenes, ExpresConstruyeCalificaYGuarda) {
+  const std::string proyecto = (raiz / "expres.xml").string();
+  const std::string carpeta = programa().string();
+  std::vector<std::string> orden = {"expres",    "--provincia",  "madrid",      "--municipio",
+                                    "MADRID",    "--uso",        "unifamiliar", "--periodo",
+                                    "1979-2013", "--superficie", "100",         "--programa",
+                                    carpeta,     "--guardar",    proyecto};
+  const Ejecucion e = Ejecutar(orden);
+  EXPECT_EQ(e.codigo, 0) << e.errores;
+  for (const char* parte : {"Plantas: 2", "Fachada sur, m2: 38.2", "zona D3", "Calificación",
+                            "el certificador debe verificar"})
+    EXPECT_TRUE(Contiene(e.salida, parte)) << parte;
+  // Lo guardado se calcula con los mismos números.
+  const Ejecucion otra = Calcular(proyecto);
+  EXPECT_EQ(otra.codigo, 0);
+  EXPECT_EQ(Linea(otra.salida, "Calefacción  "), Linea(e.salida, "Calefacción  "));
+  EXPECT_NE(Linea(e.salida, "Calefacción  "), "");
+  orden[4] = "san";
+  const Ejecucion varios = Ejecutar(orden);
+  EXPECT_EQ(varios.codigo, 2);
+  EXPECT_TRUE(Contiene(varios.errores, "puede ser varios municipios"));
+}
+
+TEST_F(Ordenes, NuevoCasosYCambiarHacenLoQueHariaUnaPersona) {
+  const std::string proyecto = (raiz / "nuevo.xml").string();
+  const std::string carpeta = programa().string();
+  const auto con = [&](std::vector<std::string> a) {
+    a.insert(a.end(), {"--programa", carpeta});
+    return Ejecutar(a);
+  };
+  ASSERT_EQ(con({"nuevo", proyecto, "--municipio", "Soria", "--provincia", "Soria"}).codigo, 0);
+  EXPECT_EQ(con({"nuevo", proyecto}).codigo, 2);  // no se pisa
+  const Ejecucion cambio =
+      con({"cambiar", proyecto, "ConsumoAgua_litros_dia=112", "sistema=ACS/1 Caldera/Centralizada",
+           "composicion=MuroExt1/Mampostería de granito 60 cm enlucida",
+           "Tipo_sistema[1]/QcalorCaldera1=20", "--guardar", proyecto});
+  EXPECT_EQ(cambio.codigo, 0) << cambio.errores;
+  EXPECT_TRUE(Contiene(cambio.salida, "U 2.08"));
+  const std::string antes = LeerFichero(proyecto);
+  const Ejecucion rechazo =
+      con({"cambiar", proyecto, "sistema=ACS/1 Caldera/Centralizada", "--guardar", proyecto});
+  EXPECT_EQ(rechazo.codigo, 1);
+  EXPECT_TRUE(Contiene(rechazo.errores, "Sólo se permite una tipología de equipos de ACS"));
+  EXPECT_EQ(con({"cambiar", proyecto, "Edificio_Titulo=X", "Nada=1", "--guardar", proyecto}).codigo,
+            2);
+  EXPECT_EQ(LeerFichero(proyecto), antes);
+
+  EXPECT_EQ(con({"casos", proyecto, "duplicar"}).codigo, 0);
+  EXPECT_EQ(
+      con({"cambiar", proyecto, "MedidaMejora=Aislar", "--caso", "Mejora_1", "--guardar", proyecto})
+          .codigo,
+      0);
+  const Ejecucion lista = Ejecutar({"casos", proyecto, "--json"});
+  EXPECT_TRUE(Contiene(lista.salida, "\"Título\": \"Aislar\""));
+  EXPECT_EQ(con({"casos", proyecto, "borrar", "Mejora_2"}).codigo, 1);
+  EXPECT_EQ(con({"casos", proyecto, "borrar", "Viejo"}).codigo, 0);
+  EXPECT_EQ(con({"casos", proyecto, "borrar", "Viejo"}).codigo, 1);
+  // Un proyecto que no se puede calcular no recibe casos: se sustituiría.
+  const Ejecucion anadir = con({"casos", proyecto, "anadir", proyecto});
+  EXPECT_EQ(anadir.codigo, 2);
+  EXPECT_TRUE(Contiene(anadir.errores, "Se abre como si fuera nuevo"));
+}
+
+TEST_F(Ordenes, LosCatalogosSeBuscan) {
+  const std::string carpeta = programa().string();
+  const auto buscar = [&](const char* catalogo, const char* texto) {
+    return Ejecutar({catalogo, "buscar", texto, "--programa", carpeta});
+  };
+  EXPECT_TRUE(Contiene(buscar("materiales", "PÓLIESTIRENO").salida, "EPS"));
+  EXPECT_TRUE(Contiene(buscar("composiciones", "sate eps 10").salida, "0.26"));
+  EXPECT_TRUE(Contiene(buscar("municipios", "aranjuez").salida, "C3"));
+  EXPECT_EQ(buscar("municipios", "zzz").codigo, 1);
+}
+
 }  // namespace
 }  // namespace novex

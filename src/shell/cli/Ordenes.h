@@ -21,4 +21,20 @@ void AnadirInfo(CLI::App& programa, Orden& orden);
 /// `clima`: genera, instala y resume los ficheros de clima.
 void AnadirClima(CLI::App& programa, Orden& orden);
 
+/// `expres`: construye y califica un edificio a partir de unas pocas cifras.
+void AnadirExpres(CLI::App& programa, Orden& orden);
+/// `nuevo`: crea un proyecto con los valores de partida.
+void AnadirNuevo(CLI::App& programa, Orden& orden);
+/// `casos`: enseña, duplica, borra y añade casos.
+void AnadirCasos(CLI::App& programa, Orden& orden);
+/// `cambiar`: cambia campos de un proyecto.
+void AnadirCambiar(CLI::App& programa, Orden& orden);
+/// `materiales`, `composiciones`, `municipios` y `catalogos`: buscan en los catálogos y los ponen
+/// al día.
+void AnadirCatalogos(CLI::App& programa, Orden& orden);
+
+struct SitioPedido;
+/// Añade a una orden las opciones del lugar del edificio.
+void AnadirSitio(CLI::App& app, SitioPedido& sitio);
+
 }  // namespace novex::cli

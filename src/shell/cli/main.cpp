@@ -68,6 +68,11 @@ int Ejecutar(int argc, char** argv) {
   AnadirComprobar(programa, orden);
   AnadirInfo(programa, orden);
   AnadirClima(programa, orden);
+  AnadirExpres(programa, orden);
+  AnadirNuevo(programa, orden);
+  AnadirCasos(programa, orden);
+  AnadirCambiar(programa, orden);
+  AnadirCatalogos(programa, orden);
   try {
     programa.parse(argc, argv);
   } catch (const CLI::Success& ayuda) {
