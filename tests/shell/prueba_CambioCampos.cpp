@@ -64,8 +64,7 @@ TEST_F(CambioCampos, LoQueNoValeSeSustituyeOSeRechaza) {
   EXPECT_NE(Error("Suelo_habitble_m2", "1").find("Suelo_habitable_m2"), std::string::npos);
   EXPECT_NE(Error("Recuperador", "Otro").find("EntalpicoConBypass"), std::string::npos);
   EXPECT_NE(Error("Def_Puentes_termicos", "Otro").find("no se puede cambiar"), std::string::npos);
-  EXPECT_NE(Error("UCTE_Muro_ext_W_m2K", "1").find("no se puede cambiar"),
-            std::string::npos);
+  EXPECT_NE(Error("UCTE_Muro_ext_W_m2K", "1").find("no se puede cambiar"), std::string::npos);
   EXPECT_FALSE(Error("Hueco[3]/Ancho_m", "1").empty());
   EXPECT_FALSE(Error("Hueco[2/Ancho_m", "1").empty());
   EXPECT_FALSE(Error("", "1").empty());
