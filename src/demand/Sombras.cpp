@@ -24,23 +24,6 @@ bool LlegaAlEste(float latitud, float declinacion) {
   return Grados(std::acos(std::clamp(coseno, -1.0F, 1.0F))) >= 90.0F;
 }
 
-ObstaculoCercano ObstaculoRemoto(Sector s, const ObstaculosRemotos& o) {
-  switch (s) {
-    case oeste:
-      return {o.Oeste_Altura, o.Oeste_Distancia};
-    case sur_oeste:
-      return {o.SurOeste_Altura, o.SurOeste_Distancia};
-    case sur:
-      return {o.Sur_Altura, o.Sur_Distancia};
-    case sur_este:
-      return {o.SurEste_Altura, o.SurEste_Distancia};
-    case este:
-      return {o.Este_Altura, o.Este_Distancia};
-    default:
-      return {};
-  }
-}
-
 // Altura de la sombra del obstáculo sobre la fachada, m.
 float AlturaSombra(const ObstaculoCercano& o, const AlturaEnDireccion& sol) {
   return o.distancia == 0.0F ? o.altura : o.altura - sol.tangente * o.distancia;
@@ -94,6 +77,23 @@ SolDelDia SolRepresentativo(float latitud, int dia, int hora) {
 }
 
 }  // namespace
+
+ObstaculoCercano ObstaculoRemoto(Sector s, const ObstaculosRemotos& o) {
+  switch (s) {
+    case oeste:
+      return {o.Oeste_Altura, o.Oeste_Distancia};
+    case sur_oeste:
+      return {o.SurOeste_Altura, o.SurOeste_Distancia};
+    case sur:
+      return {o.Sur_Altura, o.Sur_Distancia};
+    case sur_este:
+      return {o.SurEste_Altura, o.SurEste_Distancia};
+    case este:
+      return {o.Este_Altura, o.Este_Distancia};
+    default:
+      return {};
+  }
+}
 
 AlturaEnDireccion AlturaSolEnDireccion(Sector direccion, float latitud, int mes) {
   AlturaEnDireccion salida;

@@ -26,6 +26,9 @@ AlturaEnDireccion AlturaSolEnDireccion(Sector direccion, float latitud, int mes)
 float FraccionObstaculos(Sector fachada, const ObstaculosRemotos& obstaculos, float latitud,
                          int mes, float alturaEdificio);
 
+/// El obstáculo lejano de un rumbo; nada al norte.
+ObstaculoCercano ObstaculoRemoto(Sector rumbo, const ObstaculosRemotos& obstaculos);
+
 /// Área en sombra de un muro, m2, o negativa si el elemento se deja como está.
 /// \param area,fueraDePlano del muro, m2
 /// \param fraccion la de `FraccionObstaculos`

@@ -18,23 +18,6 @@ constexpr std::array<int, kMesesGraficoSombra.size()> kDias = {356, 21, 51, 81, 
 // Un rumbo llega hasta medio camino de los que tiene al lado, grados.
 constexpr float kMedioRumbo = 22.5F;
 
-ObstaculoCercano ObstaculoDe(Sector rumbo, const ObstaculosRemotos& o) {
-  switch (rumbo) {
-    case oeste:
-      return {o.Oeste_Altura, o.Oeste_Distancia};
-    case sur_oeste:
-      return {o.SurOeste_Altura, o.SurOeste_Distancia};
-    case sur:
-      return {o.Sur_Altura, o.Sur_Distancia};
-    case sur_este:
-      return {o.SurEste_Altura, o.SurEste_Distancia};
-    case este:
-      return {o.Este_Altura, o.Este_Distancia};
-    default:
-      return {};
-  }
-}
-
 // Rumbo de la fachada en que está el sol.
 std::optional<Sector> RumboDelSol(Sector fachada, float azimut) {
   const DireccionesObstaculo d = DireccionesDeColumna(fachada);
@@ -50,7 +33,7 @@ float PorcentajeHora(Sector fachada, const ObstaculosRemotos& obstaculos,
   if (!MirarSol(azimut, cenit, kAzimutSector[fachada]).delante) return 0;
   const auto rumbo = RumboDelSol(fachada, azimut);
   if (!rumbo) return 0;
-  const ObstaculoCercano o = ObstaculoDe(*rumbo, obstaculos);
+  const ObstaculoCercano o = ObstaculoRemoto(*rumbo, obstaculos);
   const float tangente = std::tan((90.0F - cenit) * kGradosARadianes);
   return 100.0F * std::clamp((o.altura - tangente * o.distancia) / alturaEdificio, 0.0F, 1.0F);
 }
