@@ -15,6 +15,8 @@ from decimal import Decimal
 from catalogo_composiciones import Composiciones
 from catalogo_materiales import Materiales
 from leerhechos import ConDecimales, LeerHechos
+from limites import (Accesorios, Condensacion, Klimite, RadJulio, ValorMaximo,
+                     ValorMaximoU)
 from municipios import ZONACLIMATICATEMPYRAD
 from textoxml import EscribirOComprobar, Nodo
 from valores_envolvente import ValoresDefectoU, VidriosMarcos
@@ -395,9 +397,10 @@ def Equipos():
     return raiz
 
 
-GENERADORES = (Capitales, CoefTransf, Composiciones, Defecto, Equipos, FactoresConversion,
-               Localidades, Materiales, NuevoUsoControl, PerfilesUso, PuentesTermicos,
-               ValoresDefectoU, VidriosMarcos, ZONACLIMATICATEMPYRAD)
+GENERADORES = (Accesorios, Capitales, CoefTransf, Composiciones, Condensacion, Defecto,
+               Equipos, FactoresConversion, Klimite, Localidades, Materiales,
+               NuevoUsoControl, PerfilesUso, PuentesTermicos, RadJulio, ValoresDefectoU,
+               ValorMaximo, ValorMaximoU, VidriosMarcos, ZONACLIMATICATEMPYRAD)
 
 
 def main():
