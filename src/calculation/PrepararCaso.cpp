@@ -1,6 +1,8 @@
 #include "calculation/PrepararCaso.h"
 
 #include "base/NumeroTexto.h"
+#include "compliance/LimitesHE0.h"
+#include "demand/CargaInternaMedia.h"
 #include "demand/Cargas.h"
 #include "demand/Clima.h"
 #include "model/CatalogoCampos.h"
@@ -65,6 +67,7 @@ void EtapaCalificacion(const Edificio& edificio, const AjustesUso& ajustes, Ento
   caso.resultados.defecto =
       LeerDefecto(ficheros.Xml("Defecto.xml", "DEFECTO"), rutaDefecto.string(), ajustes.residencial,
                   entorno.mensajes);
+  caso.resultados.limites = LimitesHE0(edificio, CargaInternaMedia(edificio));
   if (ajustes.residencial)
     CargarEscala(ficheros.Xml("Localidades.xml", "Base_Datos"), edificio, caso.resultados.escala,
                  entorno.mensajes);

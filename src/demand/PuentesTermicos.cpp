@@ -25,14 +25,13 @@ float ForjadoContinuo(std::string_view zona) {
   }
 }
 
-// Con valores dados o por defecto, un edificio sin pilares no cuenta ninguno.
+}  // namespace
+
 float LongitudPilares(const Construccion& c) {
   const bool valoresDados = c.Def_Puentes_termicos == 4 || c.Def_Puentes_termicos == 5;
   if (valoresDados && c.Existencia_pilares == 1) return 0.0F;
   return std::accumulate(c.Long_pilares.begin(), c.Long_pilares.end(), 0.0F);
 }
-
-}  // namespace
 
 float ConductanciaPuentes(const Construccion& c, int forzado, std::string_view zona) {
   const auto& psi = c.U_L_Puentes;

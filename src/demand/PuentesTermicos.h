@@ -11,4 +11,8 @@ namespace novex {
 /// fuera de los cinco grupos vale el de su letra de invierno
 float ConductanciaPuentes(const Construccion& construccion, int forzado, std::string_view zona);
 
+/// Longitud de los pilares que cuentan, m: ninguna en un edificio que dice no tenerlos con valores
+/// dados o por defecto.
+float LongitudPilares(const Construccion& construccion);
+
 }  // namespace novex

@@ -84,12 +84,21 @@ struct IndicadoresServicio {
   std::array<TablaMensual, kVectores> finalPorVector{};
 };
 
+/// Límites del DB-HE de un caso, kWh/m2 y año.
+struct LimitesCaso {
+  float demandaCalefaccion = 0, demandaRefrigeracion = 0;
+  float CepNren = 0, CepTot = 0;  ///< energía primaria no renovable y total
+  bool puestos = false;           ///< falso si la zona no es ninguna
+  bool deSuLetra = false;         ///< la tabla no trae la zona: son los de su letra, corregidos
+};
+
 /// Resultados anuales de un caso, con sus límites, umbrales y letras.
 struct ResultadosCaso {
   Forzados forzados;
   std::array<FactorConversion, kFilasFactores> factores{};
   EquipoDefecto defecto;
   EscalaCaso escala;
+  LimitesCaso limites;
 
   // Envolvente.
   float alturaLibre = 0;                                ///< F: parte de la altura que no es forjado
