@@ -16,6 +16,7 @@ void calculo::VaciarResultados() {
   resultados.factores = previos.factores;
   resultados.defecto = previos.defecto;
   resultados.escala = previos.escala;
+  resultados.limites = previos.limites;
   resultados.escala.letra = {};
   zona = SeriesZona{};
   sistemas = SeriesSistemas{};

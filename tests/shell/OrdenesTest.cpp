@@ -324,5 +324,26 @@ TEST_F(Ordenes, LosCatalogosSeBuscan) {
   EXPECT_EQ(buscar("municipios", "zzz").codigo, 1);
 }
 
+TEST_F(Ordenes, VerificarDaVeredictosYSuCodigo) {
+  const std::string carpeta = programa().string();
+  const std::string ejemplo =
+      (fs::path(NOVEX_RAIZ_DATOS) / "proyectos" / "vivienda_unifamiliar_D3.xml").string();
+  const Ejecucion e =
+      Ejecutar({"verificar", ejemplo, "--programa", carpeta, "--documentos", "--resumen"});
+  EXPECT_EQ(e.codigo, 1) << e.errores;
+  for (const char* parte :
+       {"HE0", "Cep,nren", "38.00", "Condensaciones", "HE5", "No cumple", "Resumen del año"})
+    EXPECT_TRUE(Contiene(e.salida, parte)) << parte;
+  EXPECT_TRUE(Contiene(LeerFichero(programa() / "database" / "ValorMaximo.xml"),
+                       "CERRAMIENTO=\"Muros exteriores\" UPROYECTO=\"0.30\""));
+  EXPECT_TRUE(Contiene(LeerFichero(programa() / "database" / "Condensacion.xml"), "fRsi,min"));
+  const Ejecucion json = Ejecutar({"verificar", ejemplo, "--programa", carpeta, "--json", "-"});
+  EXPECT_EQ(json.codigo, 1);
+  for (const char* parte : {"\"seccion\": \"HE1\"", "\"limite\": ", "\"cumple\": false"})
+    EXPECT_TRUE(Contiene(json.salida, parte)) << parte;
+  // Lo que no se puede calcular no se puede verificar.
+  EXPECT_EQ(Ejecutar({"verificar", Proyecto("D3", 50), "--programa", carpeta}).codigo, 3);
+}
+
 }  // namespace
 }  // namespace novex

@@ -1,5 +1,7 @@
 #include "shell/cli/CalculoConsola.h"
 
+#include <algorithm>
+
 #include "calculation/ComprobacionesPrevias.h"
 #include "calculation/EjecutarCalculo.h"
 
@@ -10,6 +12,15 @@ std::vector<std::string> CasosDe(const GestorEdifActivo& gestor) {
   for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i)
     nombres.emplace_back(GestorEdifActivo::NombreCasoUsuario(i));
   return nombres;
+}
+
+std::vector<std::string> CasosPedidos(const GestorEdifActivo& gestor, const std::string& caso) {
+  std::vector<std::string> nombres = CasosDe(gestor);
+  if (caso.empty()) return nombres;
+  if (std::find(nombres.begin(), nombres.end(), caso) != nombres.end()) return {caso};
+  std::string hay;
+  for (const std::string& nombre : nombres) hay += (hay.empty() ? "" : ", ") + nombre;
+  throw ErrorUso("El proyecto no tiene el caso \"" + caso + "\"; tiene: " + hay);
 }
 
 bool SePuedenCalcular(const GestorEdifActivo& gestor, const std::vector<std::string>& nombres,

@@ -13,6 +13,10 @@ namespace novex::cli {
 /// Los casos de usuario de un proyecto, en su orden.
 std::vector<std::string> CasosDe(const GestorEdifActivo& gestor);
 
+/// Los casos que se piden: el de ese nombre, o todos si está vacío.
+/// \throws ErrorUso si el proyecto no lo tiene
+std::vector<std::string> CasosPedidos(const GestorEdifActivo& gestor, const std::string& caso);
+
 /// Avisa de lo que impide calcular los casos; con varios en el proyecto, dice de cuál es.
 /// \returns si se pueden calcular todos
 bool SePuedenCalcular(const GestorEdifActivo& gestor, const std::vector<std::string>& nombres,

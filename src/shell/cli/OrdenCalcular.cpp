@@ -18,15 +18,6 @@ struct OpcionesCalcular {
   bool sinComprobar = false;
 };
 
-std::vector<std::string> CasosPedidos(const GestorEdifActivo& gestor, const std::string& caso) {
-  std::vector<std::string> nombres = CasosDe(gestor);
-  if (caso.empty()) return nombres;
-  if (std::find(nombres.begin(), nombres.end(), caso) != nombres.end()) return {caso};
-  std::string hay;
-  for (const std::string& nombre : nombres) hay += (hay.empty() ? "" : ", ") + nombre;
-  throw ErrorUso("El proyecto no tiene el caso \"" + caso + "\"; tiene: " + hay);
-}
-
 // Un descuido al teclear no ha de costar el proyecto.
 void NoPisarProyecto(const OpcionesCalcular& opciones) {
   for (const std::string& salida : {opciones.json, opciones.series}) {

@@ -33,6 +33,9 @@ void AnadirCambiar(CLI::App& programa, Orden& orden);
 /// al día.
 void AnadirCatalogos(CLI::App& programa, Orden& orden);
 
+/// `verificar`: verifica el DB-HE en los casos de un proyecto.
+void AnadirVerificar(CLI::App& programa, Orden& orden);
+
 struct SitioPedido;
 /// Añade a una orden las opciones del lugar del edificio.
 void AnadirSitio(CLI::App& app, SitioPedido& sitio);

@@ -68,6 +68,7 @@ int Ejecutar(int argc, char** argv) {
   AnadirComprobar(programa, orden);
   AnadirInfo(programa, orden);
   AnadirClima(programa, orden);
+  AnadirVerificar(programa, orden);
   AnadirExpres(programa, orden);
   AnadirNuevo(programa, orden);
   AnadirCasos(programa, orden);
