@@ -19,10 +19,11 @@ void QuitarServiciosForzados(Forzados& forzados) {
     s->modo = "Normales";
 }
 
-void SimularCaso(Edificio& edificio, const AjustesUso& ajustes, Entorno& entorno, calculo& caso) {
+void SimularCaso(Edificio& edificio, const AjustesUso& ajustes, Mensajes& mensajes,
+                 Progreso& progreso, calculo& caso) {
   constexpr int kHorasPorTramo = 730;
-  SimulacionCaso simulacion(edificio, ajustes, caso, entorno.mensajes);
-  while (simulacion.Avanzar(kHorasPorTramo)) entorno.progreso.Avanzar(simulacion.Porcentaje());
+  SimulacionCaso simulacion(edificio, ajustes, caso, mensajes);
+  while (simulacion.Avanzar(kHorasPorTramo)) progreso.Avanzar(simulacion.Porcentaje());
   simulacion.Terminar();
 }
 
@@ -46,6 +47,8 @@ void ConstruirReferencia(GestorEdifActivo& gestor) {
   PonerEnvolventeReferencia(referencia);
 }
 
+}  // namespace
+
 std::optional<DemandaReferencia> DemandaDeReferencia(GestorEdifActivo& gestor, Entorno& entorno) {
   Edificio* referencia = gestor.Caso(caso::kReferencia);
   if (referencia == nullptr || !CalculoDe(*referencia).Calculado()) {
@@ -59,7 +62,9 @@ std::optional<DemandaReferencia> DemandaDeReferencia(GestorEdifActivo& gestor, E
                            c.resultados.demandaACS, c.meses.iluminacion[0] / superficie};
 }
 
-}  // namespace
+bool NecesitaReferencia(const DatosGenerales& generales) {
+  return !generales.EsResidencial() && generales.Tiposimulacion != "Simulacion";
+}
 
 calculo& CalculoDe(Edificio& edificio) {
   if (!edificio.GetCalculo()) edificio.SetCalculo(std::make_shared<calculo>());
@@ -74,17 +79,33 @@ bool EjecutarCalculo(Edificio& edificio, std::string_view nombreCaso, std::strin
   const AjustesUso ajustes = ResolverAjustes(edificio);
   if (!PrepararCaso(edificio, ajustes, entorno, caso)) return false;
   if (modo == kModoTodo) QuitarServiciosForzados(caso.resultados.forzados);
-  SimularCaso(edificio, ajustes, entorno, caso);
+  SimularCaso(edificio, ajustes, entorno.mensajes, entorno.progreso, caso);
   ComprobarResultados(caso);
   if (entorno.ficherosDeCaso) EscribirFicherosDeCaso(nombreCaso, entorno, caso);
   return true;
 }
 
+std::unique_ptr<calculo> PrepararCalculo(Edificio& edificio, Entorno& entorno) {
+  ComprobarDatosDeEntrada(edificio);
+  auto preparado = std::make_unique<calculo>();
+  if (!PrepararCaso(edificio, ResolverAjustes(edificio), entorno, *preparado)) return nullptr;
+  return preparado;
+}
+
+std::unique_ptr<calculo> SimularPreparado(Edificio& edificio, const calculo& preparado,
+                                          const Forzados& forzados, Mensajes& mensajes,
+                                          Progreso& progreso) {
+  auto caso = std::make_unique<calculo>(preparado);
+  caso->resultados.forzados = forzados;
+  SimularCaso(edificio, ResolverAjustes(edificio), mensajes, progreso, *caso);
+  ComprobarResultados(*caso);
+  return caso;
+}
+
 bool CalcularCaso(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno& entorno) {
   Edificio& edificio = *gestor.Caso(nombreCaso);
   if (!EjecutarCalculo(edificio, nombreCaso, kModoTodo, entorno)) return false;
-  const DatosGenerales& g = edificio.GetDatosGenerales();
-  if (g.EsResidencial() || g.Tiposimulacion == "Simulacion") return true;
+  if (!NecesitaReferencia(edificio.GetDatosGenerales())) return true;
   const auto referencia = DemandaDeReferencia(gestor, entorno);
   if (!referencia) return false;
   calculo& caso = CalculoDe(edificio);

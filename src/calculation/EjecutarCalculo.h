@@ -1,10 +1,13 @@
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <string_view>
 
 #include "calculation/Entorno.h"
 #include "demand/calculo.h"
 #include "model/GestorEdifActivo.h"
+#include "rating/ValoresReferencia.h"
 
 namespace novex {
 
@@ -22,6 +25,26 @@ calculo& CalculoDe(Edificio& edificio);
 /// es finito \throws ErrorFichero si falta o está dañado un fichero de la carpeta de programa
 bool EjecutarCalculo(Edificio& edificio, std::string_view nombreCaso, std::string_view modo,
                      Entorno& entorno);
+
+/// Prepara un caso sin simularlo: clima, cargas, sitio, factores y equipos. Un caso que cambia solo
+/// en lo que una medida impone se simula después con `SimularPreparado`, sin repetir esto.
+/// \returns el cálculo preparado, o nulo si falta el fichero de clima (el aviso ya se ha dado)
+/// \throws lo mismo que `EjecutarCalculo`
+std::unique_ptr<calculo> PrepararCalculo(Edificio& edificio, Entorno& entorno);
+
+/// Simula un caso ya preparado con los cambios de una medida. El resultado es el de calcularlo
+/// entero. No lee ningún fichero: con su propio edificio, mensajes y progreso se puede llamar desde
+/// varios hilos. \param edificio una copia del preparado \param preparado no cambia
+std::unique_ptr<calculo> SimularPreparado(Edificio& edificio, const calculo& preparado,
+                                          const Forzados& forzados, Mensajes& mensajes,
+                                          Progreso& progreso);
+
+/// Demanda del edificio de referencia de un proyecto, que se calcula si no tiene resultados; vacía
+/// si falta su clima. \throws lo mismo que `EjecutarCalculo`
+std::optional<DemandaReferencia> DemandaDeReferencia(GestorEdifActivo& gestor, Entorno& entorno);
+
+/// ¿Se califica un caso contra el edificio de referencia?
+bool NecesitaReferencia(const DatosGenerales& generales);
 
 /// Calcula un caso del proyecto y lo califica; a un uso terciario le hace antes falta el edificio
 /// de referencia, que se calcula si no tiene resultados. \returns false si falta el fichero de

@@ -53,6 +53,16 @@ void SumarGrupo(const Edificio& edificio, const Huecos& g, const RadiacionJulio&
   }
 }
 
+bool FaltaAccesorio(const Edificio& edificio, const DocumentosHE& documentos) {
+  for (std::size_t i = 0; i < edificio.NumeroHuecos(); ++i) {
+    const Huecos& g = edificio.GetHuecos(i);
+    if (g.NumeroTotal() > 0 && FactorAccesorio(documentos.accesorios, g.Indice_tipo_sombra_movil,
+                                               g.Indice_tipo_cristal) == 0.0F)
+      return true;
+  }
+  return false;
+}
+
 Tabla TablaControl(const ControlSolar& c) {
   Tabla tabla;
   tabla.titulo = "Control solar de julio";
@@ -94,7 +104,10 @@ ControlSolar ComprobarControlSolar(const Edificio& edificio, const DocumentosHE&
     c.cumple = c.q <= kLimite;
     c.veredicto =
         c.cumple ? "Cumple el valor del control solar" : "No Cumple el valor del control solar";
-    if (!rad.hay) v.nota = "Falta la irradiación de julio de la zona";
+    if (!rad.hay)
+      v.nota = "Falta la irradiación de julio de la zona";
+    else if (FaltaAccesorio(edificio, documentos))
+      v.nota = "Falta el factor de alguna protección móvil, que cuenta como 0";
   } else {
     c.veredicto = "No Aplicable";
     v.nota = NotaAplicacion(edificio.GetDatosGenerales(), aplica);

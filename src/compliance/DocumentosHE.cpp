@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "base/NumeroTexto.h"
+#include "reference/FicheroCatalogo.h"
 
 namespace novex {
 namespace {
@@ -60,9 +60,7 @@ XMLNode FilaDe(const XMLNode& raiz, std::string_view atributo, std::string_view 
 }
 
 float Numero(const XMLNode& fila, std::string_view atributo) {
-  double valor = 0;
-  const bool es = LeerReal(fila.attributeValue(atributo).value_or(""), valor);
-  return es ? static_cast<float>(valor) : 0.0F;
+  return NumeroDeCatalogo(fila.attributeValue(atributo).value_or(""));
 }
 
 }  // namespace

@@ -229,7 +229,10 @@ RelacionAire ComprobarN50(const Edificio& edificio, const ResultadosCaso& result
                        (r.cumple ? ") <= n50limite(" : ") > n50limite(") + Texto(r.limite) + ")");
     r.veredicto = r.cumple ? "Cumple el valor de relación cambio aire"
                            : "No Cumple el valor de relación cambio aire";
-    if (!l.hay) v.nota = "Faltan los límites de la zona";
+    if (!l.hay)
+      v.nota = "Faltan los límites de la zona";
+    else if (d.Tipon50 != "Teorico" && r.n50 == 0.0)
+      v.nota = "Falta el valor medido";
   }
   v.seccion = kSeccionHE1;
   v.requisito = "Relación del cambio de aire a 50 Pa, n50";

@@ -57,7 +57,9 @@ std::string JsonVeredictos(const std::string& proyecto, const std::vector<CasoVe
                            {"limite", Numero(v.limite)},
                            {"unidad", v.unidad},
                            {"veredicto", v.veredicto},
-                           {"nota", v.nota}});
+                           {"nota", v.nota},
+                           {"aplica", v.aplica},
+                           {"pasa", v.pasa}});
     documento["casos"].push_back(Json{{"caso", caso.nombre},
                                       {"cumple", caso.verificacion.Cumple()},
                                       {"veredictos", std::move(lista)}});

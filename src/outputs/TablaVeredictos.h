@@ -18,8 +18,8 @@ struct CasoVerificado {
 };
 
 /// Los veredictos de los casos de un proyecto en JSON: por caso, si cumple y la lista de
-/// `seccion`, `requisito`, `valor`, `limite`, `unidad`, `veredicto` y `nota`. Un valor o un límite
-/// que no hay es nulo.
+/// `seccion`, `requisito`, `valor`, `limite`, `unidad`, `veredicto`, `nota`, y si se
+/// exige y se pasa. Un valor o un límite que no hay es nulo.
 std::string JsonVeredictos(const std::string& proyecto, const std::vector<CasoVerificado>& casos);
 
 }  // namespace novex

@@ -345,5 +345,32 @@ TEST_F(Ordenes, VerificarDaVeredictosYSuCodigo) {
   EXPECT_EQ(Ejecutar({"verificar", Proyecto("D3", 50), "--programa", carpeta}).codigo, 3);
 }
 
+TEST_F(Ordenes, MejorasYBateriaNoSePierdenNiSeParan) {
+  const std::string carpeta = programa().string();
+  const fs::path ejemplos = fs::path(NOVEX_RAIZ_DATOS) / "proyectos";
+  const std::string ejemplo = (ejemplos / "vivienda_unifamiliar_D3.xml").string();
+  const Ejecucion todas =
+      Ejecutar({"mejoras", ejemplo, "--todas", "--programa", carpeta, "--json", "-"});
+  EXPECT_EQ(todas.codigo, 0) << todas.errores;
+  EXPECT_TRUE(Contiene(todas.salida, "\"codigo\": 101"));
+  EXPECT_EQ(todas.salida, Ejecutar({"mejoras", ejemplo, "--todas", "--programa", carpeta, "--json",
+                                    "-", "--hilos", "1"})
+                              .salida);
+  EXPECT_EQ(Ejecutar({"mejoras", ejemplo, "--programa", carpeta}).codigo, 1);  // ninguna marcada
+
+  const fs::path obras = raiz / "obras";
+  fs::create_directories(obras);
+  fs::copy(ejemplo, obras / "a.xml");
+  EscribirFichero(obras / "rota.xml", "<DatosEnergeticosDelEdificio><a>");
+  EscribirFichero(raiz / "lista.txt", obras.string() + "\r\nrota.xml\r\na.xml\r\n\r\n");
+  const Ejecucion bateria =
+      Ejecutar({"bateria", (raiz / "lista.txt").string(), "--programa", carpeta});
+  EXPECT_EQ(bateria.codigo, 1);
+  EXPECT_TRUE(Contiene(bateria.errores, "Bateria Terminada"));
+  const std::string salida = LeerFichero(obras / "bateria.out");
+  EXPECT_TRUE(salida.starts_with("------------------------------------\n# Caso = 2  de  2 :\n"));
+  EXPECT_EQ(Ejecutar({"bateria", (raiz / "no esta.txt").string()}).codigo, 3);
+}
+
 }  // namespace
 }  // namespace novex

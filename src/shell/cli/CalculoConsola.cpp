@@ -45,6 +45,8 @@ std::vector<CasoCalculado> CalcularCasos(GestorEdifActivo& gestor,
   for (const std::string& nombre : nombres) {
     Edificio& edificio = *gestor.Caso(nombre);
     if (!CalcularCaso(gestor, nombre, entorno)) return {};
+    // Sin volumen de depósito falta el agua caliente: lo demás no se enseña.
+    if (edificio.GetCalculo()->resultados.depositoNulo) return {};
     calculados.push_back({nombre, &edificio, edificio.GetCalculo().get(), mensajes.Tomar()});
   }
   return calculados;

@@ -22,7 +22,8 @@ std::vector<std::string> CasosPedidos(const GestorEdifActivo& gestor, const std:
 bool SePuedenCalcular(const GestorEdifActivo& gestor, const std::vector<std::string>& nombres,
                       Mensajes& mensajes);
 
-/// Calcula los casos. \returns uno por caso, o ninguno si falta el clima, del que ya se ha avisado
+/// Calcula los casos. \returns uno por caso, o ninguno si falta el clima o el
+/// volumen de un depósito, de lo que ya se ha avisado
 std::vector<CasoCalculado> CalcularCasos(GestorEdifActivo& gestor,
                                          const std::vector<std::string>& nombres,
                                          FicherosPrograma& ficheros, MensajesConsola& mensajes,

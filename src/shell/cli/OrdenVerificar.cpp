@@ -49,6 +49,8 @@ void EnsenarResumen(const CasoCalculado& caso) {
 }
 
 int Verificar(const OpcionesVerificar& o) {
+  if (o.resumen && o.json == kSalidaEstandar)
+    throw ErrorUso("El resumen no va en el JSON de la salida: dé un fichero en --json");
   GestorEdifActivo gestor;
   MensajesConsola mensajes;
   AbrirProyectoConsola(gestor, o.proyecto, mensajes, o.programa);
@@ -59,7 +61,6 @@ int Verificar(const OpcionesVerificar& o) {
   if (calculados.empty()) return kSinHacer;
   const std::vector<CasoVerificado> verificados =
       VerificarCasos(calculados, LeerDocumentosHE(ficheros.Espacio().Datos()));
-  if (o.documentos) EscribirDocumentos(ficheros, verificados.front());
   const std::string nombre = std::filesystem::path(o.proyecto).filename().string();
   if (o.json == kSalidaEstandar) {
     EscribirSalida(JsonVeredictos(nombre, verificados));
@@ -71,6 +72,7 @@ int Verificar(const OpcionesVerificar& o) {
       if (o.resumen) EnsenarResumen(calculados[i]);
     }
   }
+  if (o.documentos) EscribirDocumentos(ficheros, verificados.front());
   const bool cumplen = std::all_of(verificados.begin(), verificados.end(),
                                    [](const auto& c) { return c.verificacion.Cumple(); });
   return cumplen ? kHecho : kNoCumple;
@@ -85,7 +87,8 @@ void AnadirVerificar(CLI::App& programa, Orden& orden) {
   app->add_option("PROYECTO", o->proyecto, "Fichero de proyecto (.xml); no se modifica")
       ->required()
       ->type_name("FICHERO");
-  app->add_option("--caso", o->caso, "Solo ese caso: Viejo, Mejora_1 .. Mejora_5")
+  app->add_option("--caso", o->caso,
+                  "Solo ese caso: Viejo, Mejora_1 .. Mejora_5; sin él, han de cumplir todos")
       ->type_name("NOMBRE");
   app->add_option("--json", o->json,
                   "Escribe los veredictos en JSON; con - van a la salida en lugar de las tablas")

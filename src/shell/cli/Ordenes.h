@@ -33,6 +33,10 @@ void AnadirCambiar(CLI::App& programa, Orden& orden);
 /// al día.
 void AnadirCatalogos(CLI::App& programa, Orden& orden);
 
+/// `mejoras`: mide las mejoras predefinidas de un caso.
+void AnadirMejoras(CLI::App& programa, Orden& orden);
+/// `bateria`: calcula una lista de proyectos.
+void AnadirBateria(CLI::App& programa, Orden& orden);
 /// `verificar`: verifica el DB-HE en los casos de un proyecto.
 void AnadirVerificar(CLI::App& programa, Orden& orden);
 

@@ -69,6 +69,8 @@ int Ejecutar(int argc, char** argv) {
   AnadirInfo(programa, orden);
   AnadirClima(programa, orden);
   AnadirVerificar(programa, orden);
+  AnadirMejoras(programa, orden);
+  AnadirBateria(programa, orden);
   AnadirExpres(programa, orden);
   AnadirNuevo(programa, orden);
   AnadirCasos(programa, orden);

@@ -1,0 +1,215 @@
+#include "improvements/EstudioMejoras.h"
+
+#include <algorithm>
+#include <atomic>
+#include <exception>
+#include <mutex>
+#include <stdexcept>
+#include <thread>
+
+#include "rating/Escala.h"
+#include "rating/FactoresConversion.h"
+
+namespace novex {
+namespace {
+
+constexpr std::size_t kMarcasMaximas = 3;
+
+constexpr std::array<std::string_view, kCifrasMedida> kClaves = {
+    "DemandaCale",          "DemandaRef",
+    "EnergiaPrimariaCal",   "EnergiaPrimariaRef",
+    "EnergiaPrimariaACS",   "EnergiaPrimariaIluminacion",
+    "EnergiaPrimariaTotal", "EnergiaFinalCal",
+    "EnergiaFinalRef",      "EnergiaFinalACS",
+    "EnergiaFinalCalEsp",   "EnergiaFinalRefEsp",
+    "EnergiaFinalACSEsp",   "EnergiaFinalIluminacion",
+    "EnergiaFinalTotal",    "EnergiaFinalTotalEsp",
+    "EmisionesCal",         "EmisionesRef",
+    "EmisionesACS",         "EmisionesIluminacion",
+    "EmisionesTotal"};
+
+// Un servicio servido por un generador supuesto: la energía sale de su demanda.
+// \param D demanda, kWh/m2
+void PonerGenerador(IndicadoresServicio& s, const ServicioForzado& forzado, float D,
+                    const Conversor& conversor) {
+  const float final = forzado.rendimiento != 0.0F ? D / forzado.rendimiento : 0.0F;
+  for (std::size_t u = 0; u < kUnidadesEnergia; ++u)
+    s.porUnidad[u][0] = conversor.Convertir(forzado.combustible, u, final);
+  s.porUnidad[kFinal][0] = final;
+  s.finalSinRenovables = final;
+}
+
+// El agua caliente con una parte solar: lo demás lo sigue dando el equipo del caso.
+// \param actual lo que da el equipo \param D demanda, kWh/m2
+void PonerParteSolar(IndicadoresServicio& s, const IndicadoresServicio& actual, float parte,
+                     float rendimiento, float D) {
+  const float resto = 1.0F - parte;
+  const auto de = [&](UnidadEnergia u) { return actual.porUnidad[u][0]; };
+  s.porUnidad[kFinal][0] = rendimiento != 0.0F ? D / rendimiento : 0.0F;
+  s.porUnidad[kPrimariaTotal][0] = resto * de(kPrimariaTotal) + parte * D;
+  s.porUnidad[kPrimariaNoRenovable][0] = resto * de(kPrimariaNoRenovable);
+  s.porUnidad[kPrimariaRenovable][0] = resto * de(kPrimariaRenovable) + parte * D;
+  s.porUnidad[kEmisiones][0] = resto * de(kEmisiones);
+  s.finalSinRenovables = resto * actual.finalSinRenovables;
+}
+
+ResultadoMedida Anotar(int codigo, const ResultadosCaso& r, bool residencial) {
+  ResultadoMedida m;
+  m.codigo = codigo;
+  const auto poner = [&](CifraMedida cifra, float valor) {
+    m.cifras[static_cast<std::size_t>(cifra)] = valor;
+  };
+  const auto anual = [&](Servicio s, UnidadEnergia u) { return r.servicio[s].porUnidad[u][0]; };
+  const auto total = [&](auto valor) {
+    float suma = valor(kCalefaccion) + valor(kRefrigeracion) + valor(kACS) + valor(kVentilacion);
+    return residencial ? suma : suma + valor(kIluminacion);
+  };
+  using C = CifraMedida;
+  poner(C::DemandaCale, r.demandaCalefaccion);
+  poner(C::DemandaRef, r.demandaRefrigeracion);
+  struct Bloque {
+    UnidadEnergia unidad;
+    C cale, refri, acs, ilu, total;
+  };
+  for (const Bloque& b :
+       {Bloque{kPrimariaNoRenovable, C::EnergiaPrimariaCal, C::EnergiaPrimariaRef,
+               C::EnergiaPrimariaACS, C::EnergiaPrimariaIluminacion, C::EnergiaPrimariaTotal},
+        Bloque{kFinal, C::EnergiaFinalCal, C::EnergiaFinalRef, C::EnergiaFinalACS,
+               C::EnergiaFinalIluminacion, C::EnergiaFinalTotal},
+        Bloque{kEmisiones, C::EmisionesCal, C::EmisionesRef, C::EmisionesACS,
+               C::EmisionesIluminacion, C::EmisionesTotal}}) {
+    poner(b.cale, anual(kCalefaccion, b.unidad));
+    poner(b.refri, anual(kRefrigeracion, b.unidad));
+    poner(b.acs, anual(kACS, b.unidad));
+    poner(b.ilu, anual(kIluminacion, b.unidad));
+    poner(b.total, total([&](Servicio s) { return anual(s, b.unidad); }));
+  }
+  const auto comprada = [&](Servicio s) { return r.servicio[s].finalSinRenovables; };
+  poner(C::EnergiaFinalCalEsp, comprada(kCalefaccion));
+  poner(C::EnergiaFinalRefEsp, comprada(kRefrigeracion));
+  poner(C::EnergiaFinalACSEsp, comprada(kACS));
+  poner(C::EnergiaFinalTotalEsp, total(comprada));
+  m.letras = r.escala.letra;
+  return m;
+}
+
+const Forzados& ForzadosDe(int codigo) {
+  static const Forzados ninguno = SinForzar();
+  if (codigo == kCodigoBase || codigo == kCodigoFinal) return ninguno;
+  const MedidaPredefinida* medida = MedidaDeCodigo(codigo);
+  if (medida == nullptr) throw std::out_of_range("no hay ninguna medida con ese código");
+  return medida->forzados;
+}
+
+}  // namespace
+
+std::string_view ClaveCifra(CifraMedida cifra) {
+  return kClaves.at(static_cast<std::size_t>(cifra));
+}
+
+double Ahorro(float base, float valor) {
+  if (base == 0.0F) return 0;
+  return (static_cast<double>(base) - static_cast<double>(valor)) * 100 / static_cast<double>(base);
+}
+
+std::unique_ptr<EstudioMejoras> EstudioMejoras::Preparar(GestorEdifActivo& gestor,
+                                                         std::string_view nombreCaso,
+                                                         Entorno& entorno) {
+  auto estudio = std::make_unique<EstudioMejoras>(Llave{});
+  estudio->edificio_ = gestor.Caso(nombreCaso)->Clonar();
+  estudio->preparado_ = PrepararCalculo(*estudio->edificio_, entorno);
+  if (!estudio->preparado_) return nullptr;
+  if (NecesitaReferencia(estudio->edificio_->GetDatosGenerales())) {
+    estudio->referencia_ = DemandaDeReferencia(gestor, entorno);
+    if (!estudio->referencia_) return nullptr;
+  }
+  const std::unique_ptr<Edificio> copia = estudio->edificio_->Clonar();
+  estudio->calculoBase_ = estudio->Simular(*copia, SinForzar());
+  CalificarCaso(*copia, *estudio->calculoBase_);
+  estudio->base_ = Anotar(kCodigoBase, estudio->calculoBase_->resultados,
+                          copia->GetDatosGenerales().EsResidencial());
+  return estudio;
+}
+
+std::unique_ptr<calculo> EstudioMejoras::Simular(Edificio& edificio,
+                                                 const Forzados& forzados) const {
+  RegistroMensajes mensajes;
+  Progreso progreso;
+  std::unique_ptr<calculo> caso =
+      SimularPreparado(edificio, *preparado_, forzados, mensajes, progreso);
+  if (referencia_) PonerValoresReferencia(edificio, *referencia_, caso->resultados, mensajes);
+  return caso;
+}
+
+void EstudioMejoras::RehacerServicios(const Edificio& edificio, calculo& caso) const {
+  ResultadosCaso& r = caso.resultados;
+  const Forzados& f = r.forzados;
+  const Conversor conversor(r.factores, edificio.GetLocalizacion().Provincia);
+  if (f.CasoCalefaccion.Concreto())
+    PonerGenerador(r.servicio[kCalefaccion], f.CasoCalefaccion, r.demandaCalefaccion, conversor);
+  if (f.CasoRefrigeracion.Concreto())
+    PonerGenerador(r.servicio[kRefrigeracion], f.CasoRefrigeracion, r.demandaRefrigeracion,
+                   conversor);
+  if (!f.CasoACS.Concreto()) return;
+  const float parte = ParteSolarForzada(f.CasoACS);
+  if (parte > 0.0F)
+    PonerParteSolar(r.servicio[kACS], calculoBase_->resultados.servicio[kACS], parte,
+                    f.CasoACS.rendimiento, r.demandaACS);
+  else
+    PonerGenerador(r.servicio[kACS], f.CasoACS, r.demandaACS, conversor);
+}
+
+ResultadoMedida EstudioMejoras::MedirCodigo(int codigo) const {
+  const Forzados& forzados = ForzadosDe(codigo);
+  const std::unique_ptr<Edificio> edificio = edificio_->Clonar();
+  const std::unique_ptr<calculo> caso = Simular(*edificio, forzados);
+  RehacerServicios(*edificio, *caso);
+  CalificarCaso(*edificio, *caso);
+  return Anotar(codigo, caso->resultados, edificio->GetDatosGenerales().EsResidencial());
+}
+
+std::vector<ResultadoMedida> EstudioMejoras::Medir(std::span<const int> codigos, unsigned hilos,
+                                                   const std::function<void()>& hecha) const {
+  std::vector<ResultadoMedida> resultados(codigos.size());
+  std::atomic<std::size_t> siguiente{0};
+  std::mutex cerrojo;
+  std::exception_ptr fallo;
+  const auto trabajar = [&] {
+    for (std::size_t i = siguiente++; i < codigos.size(); i = siguiente++) {
+      try {
+        resultados[i] = MedirCodigo(codigos[i]);
+      } catch (const std::exception&) {
+        const std::lock_guard<std::mutex> guardia(cerrojo);
+        if (!fallo) fallo = std::current_exception();
+        siguiente = codigos.size();
+        return;
+      }
+      const std::lock_guard<std::mutex> guardia(cerrojo);
+      if (hecha) hecha();
+    }
+  };
+  std::vector<std::jthread> equipo;
+  const auto cuantos = std::min<std::size_t>(std::max(1U, hilos), codigos.size());
+  for (std::size_t i = 1; i < cuantos; ++i) equipo.emplace_back(trabajar);
+  trabajar();
+  equipo.clear();
+  if (fallo) std::rethrow_exception(fallo);
+  return resultados;
+}
+
+std::optional<Mensaje> AvisoMarcas(const EstudioModificaciones& estudio) {
+  if (CodigosMarcados(estudio).size() <= kMarcasMaximas) return std::nullopt;
+  return Mensaje{"AVISO",
+                 "Como máximo sólo se pueden indicar 3 mejoras, debe desticar alguna para realizar "
+                 "los cálculos"};
+}
+
+std::vector<int> CodigosMarcados(const EstudioModificaciones& estudio) {
+  std::vector<int> codigos;
+  for (const MedidaEstudio& m : estudio.medidas)
+    if (m.marca && MedidaDeCodigo(m.codigo) != nullptr) codigos.push_back(m.codigo);
+  std::sort(codigos.begin(), codigos.end());
+  return codigos;
+}
+
+}  // namespace novex

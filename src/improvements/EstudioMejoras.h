@@ -1,0 +1,101 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "calculation/EjecutarCalculo.h"
+#include "improvements/MedidasPredefinidas.h"
+
+namespace novex {
+
+/// Códigos del estudio que no son de una medida: el caso como está, antes y después.
+inline constexpr int kCodigoBase = 1;
+inline constexpr int kCodigoFinal = 286;
+
+/// Las veintiuna cifras que se guardan de una medida, por m2 y año.
+enum class CifraMedida : std::size_t {
+  DemandaCale,
+  DemandaRef,
+  EnergiaPrimariaCal,
+  EnergiaPrimariaRef,
+  EnergiaPrimariaACS,
+  EnergiaPrimariaIluminacion,
+  EnergiaPrimariaTotal,
+  EnergiaFinalCal,
+  EnergiaFinalRef,
+  EnergiaFinalACS,
+  EnergiaFinalCalEsp,
+  EnergiaFinalRefEsp,
+  EnergiaFinalACSEsp,
+  EnergiaFinalIluminacion,
+  EnergiaFinalTotal,
+  EnergiaFinalTotalEsp,
+  EmisionesCal,
+  EmisionesRef,
+  EmisionesACS,
+  EmisionesIluminacion,
+  EmisionesTotal
+};
+inline constexpr std::size_t kCifrasMedida = 21;
+/// Clave de una cifra.
+std::string_view ClaveCifra(CifraMedida cifra);
+
+/// Lo que resulta de una medida. La energía primaria es la no renovable; la final "Esp" no cuenta
+/// la solar, la del ambiente ni la fotovoltaica.
+struct ResultadoMedida {
+  int codigo = 0;
+  std::array<float, kCifrasMedida> cifras{};
+  std::array<std::string, kIndicadores> letras;
+  float operator[](CifraMedida cifra) const { return cifras[static_cast<std::size_t>(cifra)]; }
+  bool operator==(const ResultadoMedida&) const = default;
+};
+
+/// Ahorro frente a la base, %; 0 sin base.
+double Ahorro(float base, float valor);
+
+/// El estudio de medidas de un caso. Prepara el caso una vez; cada medida se simula sobre una
+/// copia, así que el caso y sus resultados quedan como estaban.
+class EstudioMejoras {
+  // Solo `Preparar` hace estudios.
+  struct Llave {};
+
+ public:
+  explicit EstudioMejoras(Llave) {}
+  /// \returns nulo si falta el fichero de clima (el aviso ya se ha dado)
+  /// \throws lo mismo que `EjecutarCalculo`
+  static std::unique_ptr<EstudioMejoras> Preparar(GestorEdifActivo& gestor,
+                                                  std::string_view nombreCaso, Entorno& entorno);
+
+  /// El caso como está.
+  const ResultadoMedida& Base() const { return base_; }
+  /// Mide un código: el de una medida, o los de la base. No cambia nada, y se puede llamar desde
+  /// varios hilos. \throws std::out_of_range si no es un código \throws ErrorCalculo
+  ResultadoMedida MedirCodigo(int codigo) const;
+  /// Mide varias, repartidas entre hilos; el resultado no depende de cuántos.
+  /// \param hilos al menos 1 \param hecha se llama al acabar cada una, de una en una; puede ser
+  /// nula \throws ErrorCalculo el primero que haya
+  std::vector<ResultadoMedida> Medir(std::span<const int> codigos, unsigned hilos,
+                                     const std::function<void()>& hecha = {}) const;
+
+ private:
+  std::unique_ptr<calculo> Simular(Edificio& edificio, const Forzados& forzados) const;
+  void RehacerServicios(const Edificio& edificio, calculo& caso) const;
+
+  std::unique_ptr<Edificio> edificio_;
+  std::unique_ptr<calculo> preparado_;
+  std::optional<DemandaReferencia> referencia_;
+  std::unique_ptr<calculo> calculoBase_;
+  ResultadoMedida base_;
+};
+
+/// Más marcas de las que se pueden calcular, o nada.
+std::optional<Mensaje> AvisoMarcas(const EstudioModificaciones& estudio);
+/// Códigos marcados del estudio, por orden.
+std::vector<int> CodigosMarcados(const EstudioModificaciones& estudio);
+
+}  // namespace novex
