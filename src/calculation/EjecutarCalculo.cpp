@@ -19,12 +19,24 @@ void QuitarServiciosForzados(Forzados& forzados) {
     s->modo = "Normales";
 }
 
-void SimularCaso(Edificio& edificio, const AjustesUso& ajustes, Mensajes& mensajes,
-                 Progreso& progreso, calculo& caso) {
+void Avanzar(SimulacionCaso& simulacion, Progreso& progreso) {
   constexpr int kHorasPorTramo = 730;
-  SimulacionCaso simulacion(edificio, ajustes, caso, mensajes);
   while (simulacion.Avanzar(kHorasPorTramo)) progreso.Avanzar(simulacion.Porcentaje());
   simulacion.Terminar();
+}
+
+// Un caso preparado, con lo que se impone. \param antes lo que se pide a la simulación sin empezar
+template <typename Antes>
+std::unique_ptr<calculo> Simular(Edificio& edificio, const calculo& preparado,
+                                 const Forzados& forzados, Mensajes& mensajes, Progreso& progreso,
+                                 Antes antes) {
+  auto caso = std::make_unique<calculo>(preparado);
+  caso->resultados.forzados = forzados;
+  SimulacionCaso simulacion(edificio, ResolverAjustes(edificio), *caso, mensajes);
+  antes(simulacion);
+  Avanzar(simulacion, progreso);
+  ComprobarResultados(*caso);
+  return caso;
 }
 
 void EscribirFicherosDeCaso(std::string_view nombreCaso, Entorno& entorno, const calculo& caso) {
@@ -79,7 +91,8 @@ bool EjecutarCalculo(Edificio& edificio, std::string_view nombreCaso, std::strin
   const AjustesUso ajustes = ResolverAjustes(edificio);
   if (!PrepararCaso(edificio, ajustes, entorno, caso)) return false;
   if (modo == kModoTodo) QuitarServiciosForzados(caso.resultados.forzados);
-  SimularCaso(edificio, ajustes, entorno.mensajes, entorno.progreso, caso);
+  SimulacionCaso simulacion(edificio, ajustes, caso, entorno.mensajes);
+  Avanzar(simulacion, entorno.progreso);
   ComprobarResultados(caso);
   if (entorno.ficherosDeCaso) EscribirFicherosDeCaso(nombreCaso, entorno, caso);
   return true;
@@ -93,13 +106,17 @@ std::unique_ptr<calculo> PrepararCalculo(Edificio& edificio, Entorno& entorno) {
 }
 
 std::unique_ptr<calculo> SimularPreparado(Edificio& edificio, const calculo& preparado,
-                                          const Forzados& forzados, Mensajes& mensajes,
-                                          Progreso& progreso) {
-  auto caso = std::make_unique<calculo>(preparado);
-  caso->resultados.forzados = forzados;
-  SimularCaso(edificio, ResolverAjustes(edificio), mensajes, progreso, *caso);
-  ComprobarResultados(*caso);
-  return caso;
+                                          const Forzados& forzados, const AnosACS& aguaCaliente,
+                                          Mensajes& mensajes, Progreso& progreso) {
+  return Simular(edificio, preparado, forzados, mensajes, progreso,
+                 [&](SimulacionCaso& s) { s.RepetirACS(aguaCaliente); });
+}
+
+std::unique_ptr<calculo> SimularApuntando(Edificio& edificio, const calculo& preparado,
+                                          const Forzados& forzados, AnosACS& aguaCaliente,
+                                          Mensajes& mensajes, Progreso& progreso) {
+  return Simular(edificio, preparado, forzados, mensajes, progreso,
+                 [&](SimulacionCaso& s) { s.GrabarACS(aguaCaliente); });
 }
 
 bool CalcularCaso(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno& entorno) {

@@ -8,6 +8,7 @@
 #include "demand/calculo.h"
 #include "model/GestorEdifActivo.h"
 #include "rating/ValoresReferencia.h"
+#include "systems/HoraACS.h"
 
 namespace novex {
 
@@ -34,10 +35,16 @@ std::unique_ptr<calculo> PrepararCalculo(Edificio& edificio, Entorno& entorno);
 
 /// Simula un caso ya preparado con los cambios de una medida. El resultado es el de calcularlo
 /// entero. No lee ningún fichero: con su propio edificio, mensajes y progreso se puede llamar desde
-/// varios hilos. \param edificio una copia del preparado \param preparado no cambia
+/// varios hilos. \param edificio una copia del preparado \param preparado no cambia \param
+/// aguaCaliente la que apuntó `SimularApuntando` del mismo caso, que ningún cambio de una medida
+/// toca
 std::unique_ptr<calculo> SimularPreparado(Edificio& edificio, const calculo& preparado,
-                                          const Forzados& forzados, Mensajes& mensajes,
-                                          Progreso& progreso);
+                                          const Forzados& forzados, const AnosACS& aguaCaliente,
+                                          Mensajes& mensajes, Progreso& progreso);
+/// Lo mismo, y apunta el año de agua caliente.
+std::unique_ptr<calculo> SimularApuntando(Edificio& edificio, const calculo& preparado,
+                                          const Forzados& forzados, AnosACS& aguaCaliente,
+                                          Mensajes& mensajes, Progreso& progreso);
 
 /// Demanda del edificio de referencia de un proyecto, que se calcula si no tiene resultados; vacía
 /// si falta su clima. \throws lo mismo que `EjecutarCalculo`

@@ -22,6 +22,11 @@ class SimulacionCaso {
   SimulacionCaso(Edificio& edificio, const AjustesUso& ajustes, calculo& caso, Mensajes& mensajes);
   ~SimulacionCaso();
 
+  /// Antes de avanzar: apunta en `anos` el agua caliente de los sistemas.
+  void GrabarACS(AnosACS& anos) { despacho_->GrabarACS(anos); }
+  /// Antes de avanzar: toma el agua caliente que apuntó otra simulación de los mismos sistemas.
+  void RepetirACS(const AnosACS& anos) { despacho_->RepetirACS(anos); }
+
   /// Avanza hasta `horas` horas de pasada. \returns false cuando ya no queda ninguna
   bool Avanzar(int horas);
   /// Parte hecha, de 0 a 100.

@@ -107,11 +107,6 @@ std::string_view ClaveCifra(CifraMedida cifra) {
   return kClaves.at(static_cast<std::size_t>(cifra));
 }
 
-double Ahorro(float base, float valor) {
-  if (base == 0.0F) return 0;
-  return (static_cast<double>(base) - static_cast<double>(valor)) * 100 / static_cast<double>(base);
-}
-
 std::unique_ptr<EstudioMejoras> EstudioMejoras::Preparar(GestorEdifActivo& gestor,
                                                          std::string_view nombreCaso,
                                                          Entorno& entorno) {
@@ -124,7 +119,11 @@ std::unique_ptr<EstudioMejoras> EstudioMejoras::Preparar(GestorEdifActivo& gesto
     if (!estudio->referencia_) return nullptr;
   }
   const std::unique_ptr<Edificio> copia = estudio->edificio_->Clonar();
-  estudio->calculoBase_ = estudio->Simular(*copia, SinForzar());
+  RegistroMensajes mensajes;
+  Progreso progreso;
+  estudio->calculoBase_ = SimularApuntando(*copia, *estudio->preparado_, SinForzar(),
+                                           estudio->aguaCaliente_, mensajes, progreso);
+  estudio->PonerReferencia(*copia, *estudio->calculoBase_);
   CalificarCaso(*copia, *estudio->calculoBase_);
   estudio->base_ = Anotar(kCodigoBase, estudio->calculoBase_->resultados,
                           copia->GetDatosGenerales().EsResidencial());
@@ -136,9 +135,14 @@ std::unique_ptr<calculo> EstudioMejoras::Simular(Edificio& edificio,
   RegistroMensajes mensajes;
   Progreso progreso;
   std::unique_ptr<calculo> caso =
-      SimularPreparado(edificio, *preparado_, forzados, mensajes, progreso);
-  if (referencia_) PonerValoresReferencia(edificio, *referencia_, caso->resultados, mensajes);
+      SimularPreparado(edificio, *preparado_, forzados, aguaCaliente_, mensajes, progreso);
+  PonerReferencia(edificio, *caso);
   return caso;
+}
+
+void EstudioMejoras::PonerReferencia(const Edificio& edificio, calculo& caso) const {
+  RegistroMensajes mensajes;
+  if (referencia_) PonerValoresReferencia(edificio, *referencia_, caso.resultados, mensajes);
 }
 
 void EstudioMejoras::RehacerServicios(const Edificio& edificio, calculo& caso) const {

@@ -55,9 +55,6 @@ struct ResultadoMedida {
   bool operator==(const ResultadoMedida&) const = default;
 };
 
-/// Ahorro frente a la base, %; 0 sin base.
-double Ahorro(float base, float valor);
-
 /// El estudio de medidas de un caso. Prepara el caso una vez; cada medida se simula sobre una
 /// copia, así que el caso y sus resultados quedan como estaban.
 class EstudioMejoras {
@@ -84,10 +81,12 @@ class EstudioMejoras {
 
  private:
   std::unique_ptr<calculo> Simular(Edificio& edificio, const Forzados& forzados) const;
+  void PonerReferencia(const Edificio& edificio, calculo& caso) const;
   void RehacerServicios(const Edificio& edificio, calculo& caso) const;
 
   std::unique_ptr<Edificio> edificio_;
   std::unique_ptr<calculo> preparado_;
+  AnosACS aguaCaliente_;
   std::optional<DemandaReferencia> referencia_;
   std::unique_ptr<calculo> calculoBase_;
   ResultadoMedida base_;

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/NumeroTexto.h"
+#include "base/Parecidos.h"
 #include "base/Texto.h"
 #include "files/NodoConservadoXml.h"
 #include "files/ProyectoFichero.h"
@@ -16,7 +17,6 @@ namespace novex {
 namespace {
 
 constexpr std::string_view kValor = "name";
-constexpr std::size_t kParecidosMaximos = 5;
 
 // Un tramo de una dirección: el nombre y lo que lleva entre corchetes.
 struct Tramo {
@@ -112,37 +112,12 @@ bool Casa(const Hoja& hoja, const std::vector<Tramo>& tramos) {
   return true;
 }
 
-// Lo lejos que están dos textos: cambios de una letra que hay entre ellos.
-std::size_t Distancia(std::string_view a, std::string_view b) {
-  std::vector<std::size_t> fila(b.size() + 1);
-  for (std::size_t j = 0; j <= b.size(); ++j) fila[j] = j;
-  for (std::size_t i = 1; i <= a.size(); ++i) {
-    std::size_t diagonal = fila[0];
-    fila[0] = i;
-    for (std::size_t j = 1; j <= b.size(); ++j) {
-      const std::size_t anterior = fila[j];
-      fila[j] = std::min({fila[j] + 1, fila[j - 1] + 1, diagonal + (a[i - 1] != b[j - 1])});
-      diagonal = anterior;
-    }
-  }
-  return fila.back();
-}
-
 [[noreturn]] void NoHayCampo(const std::vector<Hoja>& hojas, std::string_view direccion,
                              const std::string& etiqueta) {
-  const std::string buscada = ClaveBusqueda(etiqueta);
-  std::vector<std::pair<std::size_t, std::string>> parecidos;
-  for (const Hoja& hoja : hojas) {
-    const std::string clave = ClaveBusqueda(hoja.etiqueta);
-    const bool contiene = buscada.size() > 3 && clave.find(buscada) != std::string::npos;
-    parecidos.emplace_back(contiene ? 0 : Distancia(buscada, clave), hoja.etiqueta);
-  }
-  std::sort(parecidos.begin(), parecidos.end());
-  parecidos.erase(std::unique(parecidos.begin(), parecidos.end()), parecidos.end());
-  std::string texto = "No hay ningún campo \"" + std::string(direccion) + "\"";
-  for (std::size_t i = 0; i < std::min(parecidos.size(), kParecidosMaximos); ++i)
-    texto += (i == 0 ? "; se parecen: " : ", ") + parecidos[i].second;
-  throw ErrorCampo(texto);
+  std::vector<std::string> etiquetas;
+  for (const Hoja& hoja : hojas) etiquetas.push_back(hoja.etiqueta);
+  throw ErrorCampo("No hay ningún campo \"" + std::string(direccion) + "\"" +
+                   FraseParecidos(MasParecidos(etiqueta, etiquetas)));
 }
 
 // El valor que se escribe: el número comprobado, o el texto si es de los que admite el campo.

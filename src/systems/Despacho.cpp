@@ -72,6 +72,22 @@ Despacho::Despacho(Edificio& edificio, const AjustesUso& ajustes, calculo& caso,
 
 Despacho::~Despacho() = default;
 
+void Despacho::GrabarACS(AnosACS& anos) {
+  anos.assign(sumas_.size(), {});
+  for (const auto& s : sistemas_)
+    for (const auto& b : s->bloques)
+      if (b->acs) {
+        anos[b->indice].reserve(kHorasAno);
+        b->acs->Grabar(anos[b->indice]);
+      }
+}
+
+void Despacho::RepetirACS(const AnosACS& anos) {
+  for (const auto& s : sistemas_)
+    for (const auto& b : s->bloques)
+      if (b->acs) b->acs->Repetir(anos.at(b->indice));
+}
+
 float Despacho::Potencia(const Sistema& s, Servicio servicio) const {
   const Bloque& b = *s.bloques.front();
   const Instalaciones& i = *b.generador.datos;

@@ -30,6 +30,11 @@ class Despacho {
   Despacho(Edificio& edificio, const AjustesUso& ajustes, calculo& caso, Mensajes& mensajes);
   ~Despacho();
 
+  /// Apunta en `anos`, que ha de durar lo que este objeto, el año de agua caliente de cada bloque.
+  void GrabarACS(AnosACS& anos);
+  /// Toma el agua caliente de lo que apuntó otro reparto de los mismos sistemas.
+  void RepetirACS(const AnosACS& anos);
+
   /// Reparte la hora y contabiliza en las tablas del caso lo que cada sistema consume.
   ResultadoDespacho Hora(const HoraSistemas& hora);
   /// ¿Hay algún sistema?

@@ -334,9 +334,17 @@ void HoraACS::PonerEnMarcha() {
 
 ResultadoACS HoraACS::Hora(int h) {
   if (nulo_) return {};
+  if (repetido_ != nullptr) {
+    const HoraGuardadaACS& hora = repetido_->at(static_cast<std::size_t>(h - 1));
+    T_ = hora.deposito;
+    estadoSolar_.actual = hora.depositoSolar;
+    return hora.acs;
+  }
   if (h == 1 && (arreglo_.deposito || arreglo_.depositoSolar)) PonerEnMarcha();
   if (solar_) solar_->EmpezarHora(estadoSolar_.Inicio(h), h);
-  return Simular(h, false);
+  const ResultadoACS r = Simular(h, false);
+  if (grabado_ != nullptr) grabado_->push_back({r, T_, estadoSolar_.actual});
+  return r;
 }
 
 }  // namespace novex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "systems/CircuitoSolar.h"
 #include "systems/DemandaACS.h"
@@ -24,6 +25,14 @@ struct ResultadoACS {
   float bombaCaptadores = 0, bombaDepositoSolar = 0, bombaRecirculacion = 0;  ///< W
 };
 
+/// Lo que deja una hora del agua caliente de un bloque, para no volver a simularla.
+struct HoraGuardadaACS {
+  ResultadoACS acs;
+  Nodos deposito{}, depositoSolar{};  ///< al acabar la hora, °C
+};
+/// El año de agua caliente de los bloques de un caso, en su orden; vacío el de uno sin ella.
+using AnosACS = std::vector<std::vector<HoraGuardadaACS>>;
+
 /// Agua caliente de un sistema minuto a minuto: depósitos, generador, retorno y captadores.
 class HoraACS {
  public:
@@ -32,6 +41,11 @@ class HoraACS {
 
   /// Avanza la hora `h`. En la 1 hace antes la puesta en marcha.
   ResultadoACS Hora(int h);
+  /// Desde aquí cada hora se apunta al final de `ano`, que ha de durar lo que este objeto.
+  void Grabar(std::vector<HoraGuardadaACS>& ano) { grabado_ = &ano; }
+  /// Desde aquí las horas se toman de un año ya simulado de este mismo bloque, que ha de durar lo
+  /// que este objeto. El agua caliente no depende de la zona ni de las demás cargas.
+  void Repetir(const std::vector<HoraGuardadaACS>& ano) { repetido_ = &ano; }
 
   const ArregloACS& Arreglo() const { return arreglo_; }
   /// Temperaturas del depósito al acabar la hora, °C.
@@ -66,6 +80,8 @@ class HoraACS {
   FactoresVivienda factores_;
   GeometriaDeposito geometria_;
   std::optional<CircuitoSolar> solar_;
+  std::vector<HoraGuardadaACS>* grabado_ = nullptr;
+  const std::vector<HoraGuardadaACS>* repetido_ = nullptr;
   bool nulo_ = false;      ///< un depósito del arreglo no tiene volumen
   bool comparte_ = false;  ///< una sola vivienda de bloque (perfil 2)
   double viviendas_ = 1;   ///< NVBloqueF en el perfil 2

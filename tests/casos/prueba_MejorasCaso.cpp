@@ -1,0 +1,49 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "casos/CasoPrueba.h"
+#include "files/ProyectoFichero.h"
+#include "improvements/EstudioMejoras.h"
+
+namespace novex {
+namespace {
+
+// El agua caliente de una medida se toma de la del caso: en un sistema solo de agua caliente con
+// captadores, en uno que además calienta y en uno con varios bloques ha de dar, al último bit, lo
+// que da calcularla otra vez.
+TEST(MejorasDeUnCaso, ElAguaCalienteCompartidaEsLaDeCadaCalculo) {
+  for (const std::string nombre :
+       {"s01_caldera_deposito", "s02_aerotermia_solar", "s04_bloque_central_solar"}) {
+    SCOPED_TRACE(nombre);
+    pruebas::CasoPrueba caso(nombre, pruebas::CarpetaCasos() / "programa");
+    ASSERT_TRUE(caso.calculado);
+    FicherosPrograma ficheros{EspacioTrabajo{pruebas::CarpetaCasos() / "programa"}};
+    Progreso progreso;
+    Entorno entorno{ficheros, caso.mensajes, progreso};
+    const auto estudio = EstudioMejoras::Preparar(caso.gestor, caso::kViejo, entorno);
+    ASSERT_TRUE(estudio);
+    const ResultadosCaso& r = caso.Resultado().resultados;
+    EXPECT_EQ(estudio->Base()[CifraMedida::EmisionesTotal], r.total[kEmisiones]);
+    EXPECT_EQ(estudio->Base()[CifraMedida::EnergiaFinalACS],
+              r.servicio[kACS].porUnidad[kFinal][0]);
+    ResultadoMedida repetida = estudio->MedirCodigo(kCodigoFinal);
+    repetida.codigo = kCodigoBase;
+    EXPECT_EQ(repetida, estudio->Base());
+
+    // Con lo impuesto, frente a un cálculo entero que simula su propia agua caliente.
+    constexpr int kAislarMuros = 11;
+    const std::unique_ptr<Edificio> aislado = caso.Viejo().Clonar();
+    CalculoDe(*aislado).resultados.forzados = MedidaDeCodigo(kAislarMuros)->forzados;
+    ASSERT_TRUE(EjecutarCalculo(*aislado, caso::kViejo, kModoBucle, entorno));
+    const ResultadosCaso& entero = aislado->GetCalculo()->resultados;
+    const ResultadoMedida medida = estudio->MedirCodigo(kAislarMuros);
+    EXPECT_LT(entero.demandaCalefaccion, r.demandaCalefaccion);
+    EXPECT_EQ(medida[CifraMedida::DemandaCale], entero.demandaCalefaccion);
+    EXPECT_EQ(medida[CifraMedida::EnergiaPrimariaTotal], entero.total[kPrimariaNoRenovable]);
+    EXPECT_EQ(medida[CifraMedida::EmisionesACS], entero.servicio[kACS].porUnidad[kEmisiones][0]);
+  }
+}
+
+}  // namespace
+}  // namespace novex
