@@ -13,7 +13,7 @@ struct SerieGrafico {
 
 /// Un gráfico como valores: lo dibujan por igual una pantalla y un documento.
 struct Grafico {
-  enum class Forma { Barras, Lineas };
+  enum class Forma { Barras, Lineas, Puntos };
   std::string titulo;
   Forma forma = Forma::Barras;
   std::vector<std::string> posiciones;  ///< rótulos del eje horizontal; vacía si son números

@@ -104,15 +104,6 @@ std::span<const DescripcionSerie> SeriesHorarias() {
   return kSeries;
 }
 
-std::optional<Serie> SerieDeCodigo(const calculo& caso, std::string_view codigo) {
-  const auto fila = std::find_if(std::begin(kSeries), std::end(kSeries),
-                                 [&](const Fila& f) { return f.codigo == codigo; });
-  if (fila == std::end(kSeries)) return std::nullopt;
-  const SerieHoraria& serie = fila->tomar(caso);
-  return Serie{std::string(fila->codigo), std::string(fila->unidad), fila->clase,
-               std::vector<float>(serie.begin() + 1, serie.end())};
-}
-
 std::string CsvSeries(const calculo& caso) {
   struct Columna {
     const SerieHoraria* serie;

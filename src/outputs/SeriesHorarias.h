@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -21,9 +20,6 @@ struct DescripcionSerie {
 
 /// Las series horarias de un cálculo, en el orden en que se escriben.
 std::span<const DescripcionSerie> SeriesHorarias();
-
-/// La serie de un código, comparado exactamente; vacía si no es ninguna.
-std::optional<Serie> SerieDeCodigo(const calculo& caso, std::string_view codigo);
 
 /// Todas las series como texto separado por `;`: una cabecera `hora;` y los códigos, primero los
 /// del caso y después los de cada sistema, y una línea por hora, de 1 a 8760.

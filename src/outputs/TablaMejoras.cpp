@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "outputs/ReglasResultados.h"
 #include "rating/Escala.h"
 
 namespace novex {
@@ -25,7 +26,8 @@ std::string Cambio(const std::string& base, const std::string& letra) {
 }
 
 std::string Porcentaje(float base, float valor) {
-  return Fijo(Ahorro(base, valor), 1) + " %";
+  const auto ahorro = Ahorro(static_cast<double>(base), static_cast<double>(valor));
+  return Fijo(ahorro.value_or(0), 1) + " %";
 }
 
 std::string TextoDe(int codigo) {

@@ -1,5 +1,7 @@
 #include "outputs/TablaResultados.h"
 
+#include "outputs/HojaCalificacion.h"
+#include "outputs/ReglasResultados.h"
 #include "rating/Escala.h"
 
 namespace novex {
@@ -84,38 +86,6 @@ std::vector<Celda> FilaServicio(const char* nombre, const std::optional<float>& 
           letras.emisiones};
 }
 
-std::string NotaHoras(const ResultadosCaso& r) {
-  if (r.horasOcupacion <= 0.0F) return {};
-  const float fuera = r.horasFueraCalefaccion + r.horasFueraRefrigeracion;
-  return "Horas fuera de consigna: " + Fijo(static_cast<double>(r.horasFueraCalefaccion), 0) +
-         " de calefacción y " + Fijo(static_cast<double>(r.horasFueraRefrigeracion), 0) +
-         " de refrigeración, el " +
-         Fijo(static_cast<double>(fuera * 100.0F / r.horasOcupacion), 1) + " % de las " +
-         Fijo(static_cast<double>(r.horasOcupacion), 0) + " h de ocupación";
-}
-
-struct IndicadorMostrado {
-  Indicador indicador;
-  const char* nombre;
-};
-constexpr std::array<IndicadorMostrado, kIndicadores> kIndicadoresMostrados = {
-    {{Indicador::EmisionesTotales, "Emisiones totales"},
-     {Indicador::EPriNoRTotales, "Primaria no renovable total"},
-     {Indicador::DemandaCalefaccion, "Demanda de calefacción"},
-     {Indicador::DemandaRefrigeracion, "Demanda de refrigeración"},
-     {Indicador::EmisionesCalefaccion, "Emisiones de calefacción"},
-     {Indicador::EmisionesRefrigeracion, "Emisiones de refrigeración"},
-     {Indicador::EmisionesACS, "Emisiones de ACS"},
-     {Indicador::EmisionesIlu, "Emisiones de iluminación"},
-     {Indicador::EPriNoRCalefaccion, "Primaria no renovable de calefacción"},
-     {Indicador::EPriNoRRefrigeracion, "Primaria no renovable de refrigeración"},
-     {Indicador::EPriNoRACS, "Primaria no renovable de ACS"},
-     {Indicador::EPriNoRIlu, "Primaria no renovable de iluminación"}}};
-
-bool EsDeIluminacion(Indicador indicador) {
-  return indicador == Indicador::EmisionesIlu || indicador == Indicador::EPriNoRIlu;
-}
-
 }  // namespace
 
 Tabla TablaEdificio(const std::string& nombreCaso, const Edificio& edificio) {
@@ -158,32 +128,8 @@ Tabla TablaServicios(const CasoCalculado& caso) {
       FilaServicio("Total", std::nullopt, r.total,
                    {"", letra(Indicador::EPriNoRTotales), letra(Indicador::EmisionesTotales)}));
 
-  if (SinRefrigeracionCalificada(*caso.edificio) &&
-      caso.edificio->GetDatosGenerales().Tiposimulacion != "Simulacion")
-    tabla.notas.push_back("No se contabiliza refrigeración por estar en zona " +
-                          caso.edificio->GetLocalizacion().ZonaClimatica);
-  if (std::string nota = NotaHoras(r); !nota.empty()) tabla.notas.push_back(std::move(nota));
-  return tabla;
-}
-
-Tabla TablaCalificacion(const CasoCalculado& caso) {
-  const ResultadosCaso& r = caso.resultado->resultados;
-  const DatosGenerales& generales = caso.edificio->GetDatosGenerales();
-  // La obra nueva se queda en "E": sus dos últimos umbrales no cuentan.
-  const std::size_t umbrales = generales.Modo_trabajo == "Nuevo" ? 4 : 6;
-  Tabla tabla;
-  tabla.titulo = "Calificación";
-  tabla.cabeceras = {"Indicador, por m² y año", "Valor", "Letra"};
-  for (std::size_t k = 0; k < umbrales; ++k)
-    tabla.cabeceras.push_back(std::string(1, static_cast<char>('A' + static_cast<int>(k))) + " <");
-  for (const auto& [indicador, nombre] : kIndicadoresMostrados) {
-    if (generales.EsResidencial() && EsDeIluminacion(indicador)) continue;
-    const auto i = static_cast<std::size_t>(indicador);
-    std::vector<Celda> fila = {nombre, Cifra(ValorIndicador(indicador, r)), r.escala.letra[i]};
-    if (r.escala.letra[i] != kSinLetra)
-      for (std::size_t k = 0; k < umbrales; ++k) fila.push_back(Cifra(r.escala.th[i][k]));
-    tabla.filas.push_back(std::move(fila));
-  }
+  for (std::string nota : {NotaZonaSinRefrigeracion(*caso.edificio), TextoHorasFuera(caso).texto})
+    if (!nota.empty()) tabla.notas.push_back(std::move(nota));
   return tabla;
 }
 
@@ -212,9 +158,28 @@ Tabla TablaVectores(const CasoCalculado& caso) {
   return tabla;
 }
 
+std::vector<Tabla> TablasCalificacion(const CasoCalculado& caso, EscalaHoja escala) {
+  std::vector<Tabla> tablas;
+  for (const auto base : {BaseCalificacion::Emisiones, BaseCalificacion::PrimariaNoRenovable}) {
+    const HojaCalificacion hoja = HojaDeCalificacion(caso, base);
+    std::vector<Tabla> filas = TablasHoja(hoja, escala);
+    // La demanda es la misma en las dos hojas.
+    if (!filas.empty() && base != BaseCalificacion::Emisiones) filas.erase(filas.begin());
+    for (Tabla& tabla : filas) {
+      tabla.notas.clear();
+      tablas.push_back(std::move(tabla));
+    }
+    if (Tabla total = TablaEscala(hoja); !total.filas.empty()) tablas.push_back(std::move(total));
+  }
+  return tablas;
+}
+
 std::vector<Tabla> TablasCaso(const CasoCalculado& caso) {
-  return {TablaEdificio(caso.nombre, *caso.edificio), TablaServicios(caso), TablaCalificacion(caso),
-          TablaVectores(caso)};
+  std::vector<Tabla> tablas = {TablaEdificio(caso.nombre, *caso.edificio), TablaServicios(caso)};
+  for (Tabla& tabla : TablasCalificacion(caso, EscalaHoja::SuBanda))
+    tablas.push_back(std::move(tabla));
+  tablas.push_back(TablaVectores(caso));
+  return tablas;
 }
 
 }  // namespace novex

@@ -4,6 +4,7 @@
 
 #include "base/Tabla.h"
 #include "outputs/CasoCalculado.h"
+#include "outputs/HojaCalificacion.h"
 
 namespace novex {
 
@@ -13,8 +14,9 @@ Tabla TablaEdificio(const std::string& nombreCaso, const Edificio& edificio);
 /// Demanda, energía final y primaria y emisiones del año por servicio, con sus letras.
 Tabla TablaServicios(const CasoCalculado& caso);
 
-/// Indicadores que se califican, con su letra y los umbrales de su escala.
-Tabla TablaCalificacion(const CasoCalculado& caso);
+/// La hoja de calificación en emisiones y en energía primaria no renovable, cada una con la escala
+/// de su total. Sin las notas, que van con los servicios.
+std::vector<Tabla> TablasCalificacion(const CasoCalculado& caso, EscalaHoja escala);
 
 /// Energía final del año por vector y servicio, kWh del edificio.
 Tabla TablaVectores(const CasoCalculado& caso);

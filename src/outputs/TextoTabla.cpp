@@ -10,6 +10,7 @@ namespace {
 constexpr std::string_view kMargen = "  ";
 constexpr std::string_view kEntreColumnas = "  ";
 constexpr std::string_view kRaya = "─";
+constexpr std::size_t kAnchoRaya = 110;  // una columna de textos largos no la alarga más
 
 struct Columna {
   std::size_t ancho = 0;
@@ -52,7 +53,7 @@ std::string Raya(const std::vector<Columna>& columnas) {
   std::size_t ancho = 0;
   for (const Columna& c : columnas) ancho += c.ancho + kEntreColumnas.size();
   std::string linea(kMargen);
-  for (std::size_t i = kEntreColumnas.size(); i < ancho; ++i) linea += kRaya;
+  for (std::size_t i = kEntreColumnas.size(); i < std::min(ancho, kAnchoRaya); ++i) linea += kRaya;
   return linea + "\n";
 }
 
@@ -77,6 +78,19 @@ std::string TextoTabla(const Tabla& tabla) {
     texto += Linea(columnas, fila.size(),
                    [&](std::size_t i) -> std::string_view { return fila[i].texto; });
   for (const std::string& nota : tabla.notas) texto.append(kMargen).append(nota).append("\n");
+  return texto;
+}
+
+std::string TextoSeparado(const Tabla& tabla, std::size_t columnas) {
+  std::string texto;
+  for (std::size_t i = 0; i < std::min(columnas, tabla.cabeceras.size()); ++i)
+    texto.append(tabla.cabeceras[i]).append(";");
+  if (!tabla.cabeceras.empty()) texto += '\n';
+  for (const auto& fila : tabla.filas) {
+    for (std::size_t i = 0; i < std::min(columnas, fila.size()); ++i)
+      texto.append(fila[i].texto).append(";");
+    texto += '\n';
+  }
   return texto;
 }
 

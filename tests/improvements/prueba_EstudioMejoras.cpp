@@ -123,8 +123,6 @@ TEST(MarcasEstudio, TresSonLasQueCaben) {
   estudio.medidas[3].marca = true;
   ASSERT_TRUE(AvisoMarcas(estudio));
   EXPECT_EQ(AvisoMarcas(estudio)->titulo, "AVISO");
-  EXPECT_EQ(Ahorro(50, 40), 20);
-  EXPECT_EQ(Ahorro(0, 40), 0);
 }
 
 }  // namespace

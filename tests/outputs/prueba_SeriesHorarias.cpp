@@ -64,18 +64,5 @@ TEST(SeriesHorarias, CsvDeLasOchoMilHoras) {
   EXPECT_EQ(celda(1, "DREF"), "0.000");
 }
 
-TEST(SeriesHorarias, PorSuCodigo) {
-  const auto caso = std::make_unique<calculo>();
-  caso->zona.TSL[1] = 20;
-  caso->zona.TSL[8760] = 21;
-  const auto serie = SerieDeCodigo(*caso, "TSL");
-  ASSERT_TRUE(serie.has_value());
-  ASSERT_EQ(serie->valores.size(), 8760U);
-  EXPECT_EQ(serie->valores.front(), 20);
-  EXPECT_EQ(serie->valores.back(), 21);
-  EXPECT_EQ(serie->clase, ClaseSerie::Temperatura);
-  EXPECT_FALSE(SerieDeCodigo(*caso, "tsl").has_value());
-}
-
 }  // namespace
 }  // namespace novex

@@ -259,7 +259,7 @@ TEST_F(Ordenes, ExpresConstruyeCalificaYGuarda) {
                                     carpeta,     "--guardar",    proyecto};
   const Ejecucion e = Ejecutar(orden);
   EXPECT_EQ(e.codigo, 0) << e.errores;
-  for (const char* parte : {"Plantas: 2", "Fachada sur, m2: 38.2", "zona D3", "Calificación",
+  for (const char* parte : {"Plantas: 2", "Fachada sur, m2: 38.2", "zona D3", "Demanda sensible",
                             "el certificador debe verificar"})
     EXPECT_TRUE(Contiene(e.salida, parte)) << parte;
   // Lo guardado se calcula con los mismos números.

@@ -2,9 +2,11 @@
 #include <memory>
 
 #include "base/FicheroSeguro.h"
+#include "base/Parecidos.h"
 #include "outputs/JsonResultados.h"
 #include "outputs/SeriesHorarias.h"
 #include "outputs/TablaResultados.h"
+#include "outputs/TablasPorNombre.h"
 #include "shell/cli/AbrirProyectoConsola.h"
 #include "shell/cli/CalculoConsola.h"
 #include "shell/cli/Ordenes.h"
@@ -14,9 +16,29 @@ namespace {
 
 struct OpcionesCalcular {
   std::string proyecto, caso, json, series, programa;
+  std::vector<std::string> tablas;
   bool ficherosDeCaso = false;
   bool sinComprobar = false;
 };
+
+void ComprobarNombresTablas(const std::vector<std::string>& pedidas, const Edificio& edificio) {
+  const std::vector<std::string> nombres = NombresTablas(edificio);
+  for (const std::string& nombre : pedidas)
+    if (std::find(nombres.begin(), nombres.end(), nombre) == nombres.end())
+      throw ErrorUso("No hay ninguna tabla \"" + nombre + "\"" +
+                     FraseParecidos(MasParecidos(nombre, nombres)));
+}
+
+// Las tablas que se han pedido de un caso, o las corrientes.
+std::vector<Tabla> TablasPedidas(const OpcionesCalcular& opciones, const CasoCalculado& caso,
+                                 const std::vector<CasoCalculado>& casos) {
+  if (opciones.tablas.empty()) return TablasCaso(caso);
+  std::vector<Tabla> tablas;
+  for (const std::string& nombre : opciones.tablas)
+    for (Tabla& tabla : TablasDeNombre(caso, casos, nombre).value_or(std::vector<Tabla>{}))
+      tablas.push_back(std::move(tabla));
+  return tablas;
+}
 
 // Un descuido al teclear no ha de costar el proyecto.
 void NoPisarProyecto(const OpcionesCalcular& opciones) {
@@ -42,6 +64,8 @@ int Calcular(const OpcionesCalcular& opciones) {
   MensajesConsola mensajes;
   AbrirProyectoConsola(gestor, opciones.proyecto, mensajes, opciones.programa);
   const std::vector<std::string> pedidos = CasosPedidos(gestor, opciones.caso);
+  for (const std::string& nombre : pedidos)
+    ComprobarNombresTablas(opciones.tablas, *gestor.Caso(nombre));
   if (!opciones.sinComprobar && !SePuedenCalcular(gestor, pedidos, mensajes)) return kNoCumple;
   FicherosPrograma ficheros(AbrirEspacio(opciones.programa));
   const auto casos = CalcularCasos(gestor, pedidos, ficheros, mensajes, opciones.ficherosDeCaso);
@@ -59,7 +83,7 @@ int Calcular(const OpcionesCalcular& opciones) {
   if (!opciones.json.empty()) EscribirFichero(opciones.json, JsonResultados(nombre, casos));
   for (std::size_t i = 0; i < casos.size(); ++i) {
     if (i > 0) EscribirSalida("\n\n");
-    EscribirTablas(TablasCaso(casos[i]));
+    EscribirTablas(TablasPedidas(opciones, casos[i], casos));
   }
   return kHecho;
 }
@@ -83,6 +107,11 @@ void AnadirCalcular(CLI::App& programa, Orden& orden) {
       ->add_option("--series", o->series,
                    "Escribe las series horarias en CSV; las de las mejoras, en FICHERO_Mejora_n")
       ->type_name("FICHERO.csv");
+  calcular
+      ->add_option("--tabla", o->tablas,
+                   "Enseña esa tabla en lugar de las corrientes; se puede repetir. Un nombre que "
+                   "no existe da los que se parecen")
+      ->type_name("NOMBRE");
   calcular->add_flag("--ficheros-de-caso", o->ficherosDeCaso,
                      "Deja los ficheros de caso en la carpeta de datos del programa");
   calcular

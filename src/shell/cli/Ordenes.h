@@ -35,6 +35,8 @@ void AnadirCatalogos(CLI::App& programa, Orden& orden);
 
 /// `mejoras`: mide las mejoras predefinidas de un caso.
 void AnadirMejoras(CLI::App& programa, Orden& orden);
+/// `exportar`: escribe tablas y series de un caso como texto separado.
+void AnadirExportar(CLI::App& programa, Orden& orden);
 /// `bateria`: calcula una lista de proyectos.
 void AnadirBateria(CLI::App& programa, Orden& orden);
 /// `verificar`: verifica el DB-HE en los casos de un proyecto.

@@ -71,6 +71,7 @@ int Ejecutar(int argc, char** argv) {
   AnadirVerificar(programa, orden);
   AnadirMejoras(programa, orden);
   AnadirBateria(programa, orden);
+  AnadirExportar(programa, orden);
   AnadirExpres(programa, orden);
   AnadirNuevo(programa, orden);
   AnadirCasos(programa, orden);
