@@ -36,7 +36,11 @@ std::string_view DuplicarCaso(GestorEdifActivo& gestor, std::string_view nombre,
                               Mensajes& mensajes) {
   if (!Existe(gestor, nombre, mensajes)) return {};
   if (gestor.PrimeraMejoraLibre().empty()) {
-    mensajes.Avisar(kAviso, "No caben más de cinco mejoras");
+    mensajes.Avisar("Acción no válida", "o se pueden duplicar mas edificios. Maximo 5");
+    return {};
+  }
+  if (const std::string falta = ComprobacionesPrevias(*gestor.Caso(nombre)); !falta.empty()) {
+    mensajes.Avisar("Valor incorrecto", falta);
     return {};
   }
   gestor.ActivarCaso(nombre);

@@ -16,7 +16,8 @@ namespace novex {
 bool BorrarCaso(GestorEdifActivo& gestor, std::string_view nombre, Mensajes& mensajes);
 
 /// Duplica un caso en la primera mejora libre, que queda activa.
-/// \returns su nombre; vacío, con su aviso, si el caso no existe o no cabe otra mejora
+/// \returns su nombre; vacío, con su aviso, si el caso no existe, si no cabe otra mejora o si el
+/// caso no pasa las comprobaciones previas
 std::string_view DuplicarCaso(GestorEdifActivo& gestor, std::string_view nombre,
                               Mensajes& mensajes);
 

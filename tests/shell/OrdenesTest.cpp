@@ -297,6 +297,15 @@ TEST_F(Ordenes, NuevoCasosYCambiarHacenLoQueHariaUnaPersona) {
             2);
   EXPECT_EQ(LeerFichero(proyecto), antes);
 
+  // Un edificio a medias no se duplica ni recibe casos: se sustituiría.
+  const Ejecucion aMedias = con({"casos", proyecto, "duplicar"});
+  EXPECT_EQ(aMedias.codigo, 1);
+  EXPECT_TRUE(Contiene(aMedias.errores, "Valor incorrecto"));
+  const Ejecucion anadir = con({"casos", proyecto, "anadir", proyecto});
+  EXPECT_EQ(anadir.codigo, 2);
+  EXPECT_TRUE(Contiene(anadir.errores, "Se abre como si fuera nuevo"));
+  fs::copy_file(fs::path(NOVEX_RAIZ_DATOS) / "proyectos/vivienda_unifamiliar_D3.xml", proyecto,
+                fs::copy_options::overwrite_existing);
   EXPECT_EQ(con({"casos", proyecto, "duplicar"}).codigo, 0);
   EXPECT_EQ(
       con({"cambiar", proyecto, "MedidaMejora=Aislar", "--caso", "Mejora_1", "--guardar", proyecto})
@@ -307,10 +316,6 @@ TEST_F(Ordenes, NuevoCasosYCambiarHacenLoQueHariaUnaPersona) {
   EXPECT_EQ(con({"casos", proyecto, "borrar", "Mejora_2"}).codigo, 1);
   EXPECT_EQ(con({"casos", proyecto, "borrar", "Viejo"}).codigo, 0);
   EXPECT_EQ(con({"casos", proyecto, "borrar", "Viejo"}).codigo, 1);
-  // Un proyecto que no se puede calcular no recibe casos: se sustituiría.
-  const Ejecucion anadir = con({"casos", proyecto, "anadir", proyecto});
-  EXPECT_EQ(anadir.codigo, 2);
-  EXPECT_TRUE(Contiene(anadir.errores, "Se abre como si fuera nuevo"));
 }
 
 TEST_F(Ordenes, LosCatalogosSeBuscan) {
@@ -358,6 +363,19 @@ TEST_F(Ordenes, MejorasYBateriaNoSePierdenNiSeParan) {
                               .salida);
   EXPECT_EQ(Ejecutar({"mejoras", ejemplo, "--programa", carpeta}).codigo, 1);  // ninguna marcada
 
+  const std::string marcado = (raiz / "marcado.xml").string();
+  EXPECT_EQ(Ejecutar({"cambiar", ejemplo, "medida=61/900,5/10", "nota_medida=61/Con andamio",
+                      "--guardar", marcado, "--programa", carpeta})
+                .codigo,
+            0);
+  const Ejecucion una = Ejecutar({"mejoras", marcado, "--programa", carpeta, "--json", "-"});
+  EXPECT_EQ(una.codigo, 0);
+  EXPECT_TRUE(Contiene(una.salida, "\"codigo\": 61"));
+  EXPECT_FALSE(Contiene(una.salida, "\"codigo\": 62"));
+  EXPECT_TRUE(Contiene(LeerFichero(marcado), "Con andamio"));
+  EXPECT_EQ(Ejecutar({"cambiar", marcado, "medida=4", "--guardar", marcado}).codigo, 2);
+  EXPECT_EQ(Ejecutar({"cambiar", marcado, "nota_medida=62/x", "--guardar", marcado}).codigo, 2);
+
   const fs::path obras = raiz / "obras";
   fs::create_directories(obras);
   fs::copy(ejemplo, obras / "a.xml");
@@ -370,6 +388,45 @@ TEST_F(Ordenes, MejorasYBateriaNoSePierdenNiSeParan) {
   const std::string salida = LeerFichero(obras / "bateria.out");
   EXPECT_TRUE(salida.starts_with("------------------------------------\n# Caso = 2  de  2 :\n"));
   EXPECT_EQ(Ejecutar({"bateria", (raiz / "no esta.txt").string()}).codigo, 3);
+}
+
+TEST_F(Ordenes, TablasYExportacionesPorSuNombre) {
+  const std::string proyecto = Proyecto();
+  const auto exportar = [&](std::vector<std::string> mas) {
+    mas.insert(mas.begin(), {"exportar", proyecto, "--programa", programa().string()});
+    return Ejecutar(mas);
+  };
+  const Ejecucion tabla = Calcular(proyecto, {"--tabla", "demanda"});
+  EXPECT_TRUE(tabla.salida.starts_with("Demanda Total\n"));
+  EXPECT_FALSE(Contiene(tabla.salida, "Lugar"));
+  const Ejecucion mal = Calcular(proyecto, {"--tabla", "demnda"});
+  EXPECT_EQ(mal.codigo, 2);
+  EXPECT_TRUE(Contiene(mal.errores, "se parecen: demanda,"));
+
+  const fs::path fichero = raiz / "tablas.txt";
+  EXPECT_EQ(
+      exportar({"--tablas", "todas", "--series", "TSE,TSL", "--a", (raiz / "tablas").string()})
+          .codigo,
+      0);
+  const std::string texto = LeerFichero(fichero);
+  EXPECT_TRUE(texto.starts_with("Detalle demanda de ACS;\nInstalacion ACS kWh;ENE;"));
+  const std::size_t series =
+      texto.find("\nConta;hora;día;mes;Temp.seca TSE(ºC);Temp.seca local TSL(ºC);\n1;1;1;1;");
+  ASSERT_NE(series, std::string::npos);
+  EXPECT_EQ(std::count(texto.begin() + static_cast<std::ptrdiff_t>(series) + 1, texto.end(), '\n'),
+            8761);
+
+  const std::string otro = (raiz / "otro.txt").string();
+  EXPECT_TRUE(Contiene(exportar({"--series", "TSX", "--a", otro}).errores, "se parecen: TSE"));
+  std::string muchas = "TSE";
+  for (int i = 0; i < 25; ++i) muchas += ",TSL";
+  EXPECT_EQ(exportar({"--series", muchas, "--a", otro}).codigo, 2);
+  EXPECT_EQ(exportar({"--tablas", "referencia", "--a", otro}).codigo, 2);  // es una vivienda
+  EXPECT_EQ(exportar({"--a", otro}).codigo, 2);
+  EXPECT_FALSE(fs::exists(otro));
+  const Ejecucion sitio = exportar({"--tablas", "visibles", "--a", (raiz / "no/x.txt").string()});
+  EXPECT_EQ(sitio.codigo, 1);
+  EXPECT_TRUE(Contiene(sitio.errores, "x.txt"));
 }
 
 }  // namespace

@@ -5,12 +5,15 @@
 
 #include "entry/CambioUso.h"
 #include "entry/CatalogoMunicipios.h"
+#include "entry/CosteMejora.h"
 #include "entry/CreacionSistema.h"
 #include "entry/GruposHuecos.h"
 #include "entry/ListasSistemas.h"
 #include "entry/ReglasVentilacion.h"
 #include "entry/Sitio.h"
+#include "entry/TextosLibres.h"
 #include "files/ProyectoFichero.h"
+#include "improvements/EstudioMejoras.h"
 #include "outputs/JsonTabla.h"
 #include "reference/CatalogoComposiciones.h"
 #include "reference/LongitudesPuentes.h"
@@ -98,13 +101,19 @@ void CambiarObjetivoDelProyecto(Taller& t, const std::string& valor) {
   t.Apuntar("Tiposimulacion (todos los casos)", antes, valor);
 }
 
-void CrearSistemaPedido(Taller& t, const std::string& valor) {
+// Un texto por sus barras.
+std::vector<std::string> Partes(const std::string& valor) {
   std::vector<std::string> partes;
   for (std::size_t desde = 0; desde <= valor.size();) {
     const std::size_t hasta = std::min(valor.find('/', desde), valor.size());
     partes.push_back(valor.substr(desde, hasta - desde));
     desde = hasta + 1;
   }
+  return partes;
+}
+
+void CrearSistemaPedido(Taller& t, const std::string& valor) {
+  std::vector<std::string> partes = Partes(valor);
   if (partes.size() < 3)
     throw ErrorCampo("\"" + valor + "\" ha de ser SERVICIO/CLASE/TIPOLOGIA[/EMISOR]");
   // La tipología se puede escribir entera: "Individual/Vivienda".
@@ -185,6 +194,45 @@ void BorrarGrupo(Taller& t, const std::string& valor) {
   t.Apuntar("Hueco[" + std::to_string(i + 1) + "]", nombre, "borrado");
 }
 
+int CodigoMedida(const std::string& texto) {
+  for (const MedidaPredefinida& m : MedidasPredefinidas())
+    if (texto == std::to_string(m.codigo)) return m.codigo;
+  throw ErrorCampo("No hay ninguna medida predefinida \"" + texto + "\"");
+}
+
+// Marca una medida del estudio con su coste y su plazo.
+void MarcarMedida(Taller& t, const std::string& valor) {
+  const std::vector<std::string> partes = Partes(valor);
+  const auto parte = [&](std::size_t i) { return i < partes.size() ? partes[i] : std::string(); };
+  const int codigo = CodigoMedida(parte(0));
+  const std::string precio = parte(1), plazo = parte(2);
+  EstudioModificaciones estudio = t.edificio.GetEstudioModificaciones();
+  GuardarCifrasEstudio(estudio, std::array{CifrasTecleadas{codigo, true, precio, plazo}},
+                       t.mensajes);
+  if (const auto aviso = AvisoMarcas(estudio)) t.mensajes.Avisar(aviso->titulo, aviso->texto);
+  t.edificio.SetEstudioModificaciones(estudio);
+  t.Apuntar("Medida " + parte(0), "", "marcada: " + MedidaDeCodigo(codigo)->texto);
+}
+
+void DesmarcarMedida(Taller& t, const std::string& valor) {
+  const int codigo = CodigoMedida(valor);
+  EstudioModificaciones estudio = t.edificio.GetEstudioModificaciones();
+  GuardarCifrasEstudio(estudio, std::array{CifrasTecleadas{codigo, false, "", ""}}, t.mensajes);
+  t.edificio.SetEstudioModificaciones(estudio);
+  t.Apuntar("Medida " + valor, "", "sin marcar");
+}
+
+void AnotarMedida(Taller& t, const std::string& valor) {
+  const std::size_t barra = std::min(valor.find('/'), valor.size());
+  const int codigo = CodigoMedida(valor.substr(0, barra));
+  const std::string nota = barra < valor.size() ? valor.substr(barra + 1) : std::string();
+  EstudioModificaciones estudio = t.edificio.GetEstudioModificaciones();
+  if (!GuardarNotaMedida(estudio, codigo, nota, t.mensajes))
+    throw ErrorCampo("La medida " + valor.substr(0, barra) + " no está marcada");
+  t.edificio.SetEstudioModificaciones(estudio);
+  t.Apuntar("Nota de la medida " + valor.substr(0, barra), "", nota);
+}
+
 using Regla = void (*)(Taller&, const std::string&);
 constexpr std::pair<std::string_view, Regla> kReglas[] = {
     {"municipio", CambiarMunicipio},
@@ -197,6 +245,9 @@ constexpr std::pair<std::string_view, Regla> kReglas[] = {
     {"composicion", PonerComposicion},
     {"grupo_huecos", AnadirGrupo},
     {"borrar_grupo", BorrarGrupo},
+    {"medida", MarcarMedida},
+    {"borrar_medida", DesmarcarMedida},
+    {"nota_medida", AnotarMedida},
 };
 
 // Lo que sigue de un campo cambiado: los puentes de su tabla y el caudal de las viviendas.
@@ -268,7 +319,8 @@ void AnadirCambiar(CLI::App& programa, Orden& orden) {
       "Hueco[Grupo_1]/Ancho_m=1.5\nAdemás:\n"
       "  Municipio=NOMBRE[,PROVINCIA]            asnm=M   ZonaClimatica=D3   PerfilUso=USO\n"
       "  sistema=SERVICIO/CLASE/TIPOLOGIA[/EMISOR]   borrar_sistema=N\n"
-      "  composicion=POSICION/NOMBRE             grupo_huecos=NOMBRE   borrar_grupo=N");
+      "  composicion=POSICION/NOMBRE             grupo_huecos=NOMBRE   borrar_grupo=N\n"
+      "  medida=CODIGO[/EUROS/AÑOS]   borrar_medida=CODIGO   nota_medida=CODIGO/TEXTO");
   app->add_option("PROYECTO", o->proyecto, "Fichero de proyecto (.xml)")
       ->required()
       ->type_name("FICHERO");
