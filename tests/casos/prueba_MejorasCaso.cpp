@@ -25,8 +25,7 @@ TEST(MejorasDeUnCaso, ElAguaCalienteCompartidaEsLaDeCadaCalculo) {
     ASSERT_TRUE(estudio);
     const ResultadosCaso& r = caso.Resultado().resultados;
     EXPECT_EQ(estudio->Base()[CifraMedida::EmisionesTotal], r.total[kEmisiones]);
-    EXPECT_EQ(estudio->Base()[CifraMedida::EnergiaFinalACS],
-              r.servicio[kACS].porUnidad[kFinal][0]);
+    EXPECT_EQ(estudio->Base()[CifraMedida::EnergiaFinalACS], r.servicio[kACS].porUnidad[kFinal][0]);
     ResultadoMedida repetida = estudio->MedirCodigo(kCodigoFinal);
     repetida.codigo = kCodigoBase;
     EXPECT_EQ(repetida, estudio->Base());

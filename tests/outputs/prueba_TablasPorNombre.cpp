@@ -18,8 +18,8 @@ TEST(TablasPorNombre, CadaNombreEsUnoYDaSuTabla) {
     EXPECT_TRUE(vistos.insert(nombre).second) << nombre;
     EXPECT_TRUE(TablasDeNombre(mostrado, {mostrado}, nombre)) << nombre;
   }
-  for (const char* nombre : {"calificacion", "casos", "comparacion-final-ahorro", "detalle-vectores",
-                             "detalle-demanda-huecos", "final-iluminacion"})
+  for (const char* nombre : {"calificacion", "casos", "comparacion-final-ahorro",
+                             "detalle-vectores", "detalle-demanda-huecos", "final-iluminacion"})
     EXPECT_TRUE(vistos.contains(nombre)) << nombre;
   EXPECT_FALSE(TablasDeNombre(mostrado, {mostrado}, "Final-acs"));
   // La página de la iluminación no está en una vivienda, ni tiene edificio de referencia.
