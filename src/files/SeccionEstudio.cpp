@@ -30,6 +30,13 @@ void LeerMedida(const XMLNode& nodo, M& medida, Mensajes& mensajes) {
   }
 }
 
+// Una medida está una vez en el estudio: de un código repetido vale la primera.
+void Anadir(M medida, std::vector<M>& medidas) {
+  const bool esta = std::any_of(medidas.begin(), medidas.end(),
+                                [&](const M& otra) { return otra.codigo == medida.codigo; });
+  if (!esta) medidas.push_back(std::move(medida));
+}
+
 // Los ficheros que no tienen el elemento propio del estudio llevan el coste y el plazo en atributos
 // de las medidas del bloque de resultados.
 void LeerMedidasMejora(const XMLNode& bloque, std::vector<M>& medidas, Mensajes& mensajes) {
@@ -40,7 +47,7 @@ void LeerMedidasMejora(const XMLNode& bloque, std::vector<M>& medidas, Mensajes&
     M medida;
     medida.codigo = camposFichero::LeerEntero(*codigo, kMedidasMejora, 0, kMayorCodigo, mensajes);
     LeerCampos<M>(nodo, kCostes, medida, mensajes, SiFalta::Vaciar, 0, Lugar::Atributos);
-    if (medida.codigo > 0) medidas.push_back(std::move(medida));
+    if (medida.codigo > 0) Anadir(std::move(medida), medidas);
   }
 }
 
@@ -56,7 +63,9 @@ void LeerEstudio(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes) {
   std::size_t i = 0;
   while (const XMLNode nodo = propio.childNamed(kMedida, &i)) {
     if (r.estudio.medidas.size() == kMaximoMedidas) break;
-    LeerMedida(nodo, r.estudio.medidas.emplace_back(), mensajes);
+    M medida;
+    LeerMedida(nodo, medida, mensajes);
+    Anadir(std::move(medida), r.estudio.medidas);
   }
 }
 

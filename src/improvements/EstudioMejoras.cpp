@@ -53,7 +53,8 @@ void PonerParteSolar(IndicadoresServicio& s, const IndicadoresServicio& actual, 
   s.finalSinRenovables = resto * actual.finalSinRenovables;
 }
 
-ResultadoMedida Anotar(int codigo, const ResultadosCaso& r, bool residencial) {
+ResultadoMedida Anotar(int codigo, const ResultadosCaso& r, const DatosGenerales& generales) {
+  const bool residencial = generales.EsResidencial();
   ResultadoMedida m;
   m.codigo = codigo;
   const auto poner = [&](CifraMedida cifra, float valor) {
@@ -89,7 +90,8 @@ ResultadoMedida Anotar(int codigo, const ResultadosCaso& r, bool residencial) {
   poner(C::EnergiaFinalRefEsp, comprada(kRefrigeracion));
   poner(C::EnergiaFinalACSEsp, comprada(kACS));
   poner(C::EnergiaFinalTotalEsp, total(comprada));
-  m.letras = r.escala.letra;
+  // Una simulación libre no se califica.
+  if (generales.Tiposimulacion != "Simulacion") m.letras = r.escala.letra;
   return m;
 }
 
@@ -119,14 +121,15 @@ std::unique_ptr<EstudioMejoras> EstudioMejoras::Preparar(GestorEdifActivo& gesto
     if (!estudio->referencia_) return nullptr;
   }
   const std::unique_ptr<Edificio> copia = estudio->edificio_->Clonar();
-  RegistroMensajes mensajes;
-  Progreso progreso;
-  estudio->calculoBase_ = SimularApuntando(*copia, *estudio->preparado_, SinForzar(),
-                                           estudio->aguaCaliente_, mensajes, progreso);
+  estudio->calculoBase_ =
+      SimularApuntando(*copia, *estudio->preparado_, SinForzar(), estudio->aguaCaliente_,
+                       entorno.mensajes, entorno.progreso);
+  // Sin volumen de depósito falta el agua caliente: nada de lo demás vale.
+  if (estudio->calculoBase_->resultados.depositoNulo) return nullptr;
   estudio->PonerReferencia(*copia, *estudio->calculoBase_);
   CalificarCaso(*copia, *estudio->calculoBase_);
-  estudio->base_ = Anotar(kCodigoBase, estudio->calculoBase_->resultados,
-                          copia->GetDatosGenerales().EsResidencial());
+  estudio->base_ =
+      Anotar(kCodigoBase, estudio->calculoBase_->resultados, copia->GetDatosGenerales());
   return estudio;
 }
 
@@ -169,7 +172,7 @@ ResultadoMedida EstudioMejoras::MedirCodigo(int codigo) const {
   const std::unique_ptr<calculo> caso = Simular(*edificio, forzados);
   RehacerServicios(*edificio, *caso);
   CalificarCaso(*edificio, *caso);
-  return Anotar(codigo, caso->resultados, edificio->GetDatosGenerales().EsResidencial());
+  return Anotar(codigo, caso->resultados, edificio->GetDatosGenerales());
 }
 
 std::vector<ResultadoMedida> EstudioMejoras::Medir(std::span<const int> codigos, unsigned hilos,

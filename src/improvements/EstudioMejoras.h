@@ -63,7 +63,8 @@ class EstudioMejoras {
 
  public:
   explicit EstudioMejoras(Llave) {}
-  /// \returns nulo si falta el fichero de clima (el aviso ya se ha dado)
+  /// \returns nulo si falta el fichero de clima o un depósito no tiene volumen (el aviso ya se ha
+  /// dado)
   /// \throws lo mismo que `EjecutarCalculo`
   static std::unique_ptr<EstudioMejoras> Preparar(GestorEdifActivo& gestor,
                                                   std::string_view nombreCaso, Entorno& entorno);

@@ -1,5 +1,6 @@
 #include "outputs/AnalisisTecnico.h"
 
+#include "model/GestorEdifActivo.h"
 #include "outputs/ReglasResultados.h"
 
 namespace novex {
@@ -88,9 +89,9 @@ Celda CeldaAhorro(const std::string& letra, std::optional<double> ahorro) {
   return ahorro ? Celda(letra + "," + Fijo(*ahorro, kDecimalesResultado)) : Celda(letra);
 }
 
-std::vector<Celda> Fila(const CasoCalculado& caso, const CasoCalculado& base,
+std::vector<Celda> Fila(const CasoCalculado& caso, const CasoCalculado* base,
                         const Rejilla& rejilla) {
-  std::vector<Celda> fila = {&caso == &base ? std::string("base") : caso.nombre};
+  std::vector<Celda> fila = {caso.nombre == novex::caso::kViejo ? std::string("base") : caso.nombre};
   for (const Columna& c : kColumnas) {
     if (NoSeCuenta(caso, c.servicio)) {
       fila.insert(fila.end(), 2, Celda(std::string(kSinLetra)));
@@ -98,8 +99,8 @@ std::vector<Celda> Fila(const CasoCalculado& caso, const CasoCalculado& base,
     }
     const double valor = Valor(caso, rejilla, c.servicio);
     fila.push_back(CeldaResultado(valor));
-    fila.push_back(CeldaAhorro(LetraDe(caso, rejilla, c.servicio),
-                               Ahorro(Valor(base, rejilla, c.servicio), valor)));
+    const double valorBase = base != nullptr ? Valor(*base, rejilla, c.servicio) : 0.0;
+    fila.push_back(CeldaAhorro(LetraDe(caso, rejilla, c.servicio), Ahorro(valorBase, valor)));
   }
   return fila;
 }

@@ -24,27 +24,27 @@ constexpr float kTemperaturaExceso = 26;  // °C
 struct LineaBateria {
   const char* rotulo;
   const char* clave;  // en CSV y JSON
-  float (*valor)(const ResultadosCaso&);
+  float (*valor)(const CasoBateria&);
 };
 template <Servicio S, UnidadEnergia U>
-float Anual(const ResultadosCaso& r) {
-  return r.servicio[S].porUnidad[U][0];
+float Anual(const CasoBateria& c) {
+  return c.resultados.servicio[S].porUnidad[U][0];
 }
 constexpr std::array<LineaBateria, 11> kLineas = {
     {{"Demanda Calef=", "demanda_calefaccion",
-      [](const ResultadosCaso& r) { return r.demandaCalefaccion; }},
+      [](const CasoBateria& c) { return c.resultados.demandaCalefaccion; }},
      {"Demanda Refri=", "demanda_refrigeracion",
-      [](const ResultadosCaso& r) { return r.demandaRefrigeracion; }},
-     {"Demanda ACS=", "demanda_acs", [](const ResultadosCaso& r) { return r.demandaACS; }},
-     {"Demanda Iluminacion=", "iluminacion", Anual<kIluminacion, kFinal>},
-     {"Demanda Ventilacion=", "ventilacion", Anual<kVentilacion, kFinal>},
+      [](const CasoBateria& c) { return c.resultados.demandaRefrigeracion; }},
+     {"Demanda ACS=", "demanda_acs", [](const CasoBateria& c) { return c.resultados.demandaACS; }},
+     {"Demanda Iluminacion=", "iluminacion", [](const CasoBateria& c) { return c.iluminacion; }},
+     {"Demanda Ventilacion=", "ventilacion", [](const CasoBateria& c) { return c.ventilacion; }},
      {"Emisiones CO2 Cal=", "emisiones_calefaccion", Anual<kCalefaccion, kEmisiones>},
      {"Emisiones C02 Refri=", "emisiones_refrigeracion", Anual<kRefrigeracion, kEmisiones>},
      {"Emisiones CO2 ACS=", "emisiones_acs", Anual<kACS, kEmisiones>},
      {"Emisiones Iluminacion=", "emisiones_iluminacion", Anual<kIluminacion, kEmisiones>},
      {"Emisiones Ventilacion=", "emisiones_ventilacion", Anual<kVentilacion, kEmisiones>},
      {"Emisiones totales=", "emisiones_totales",
-      [](const ResultadosCaso& r) { return r.total[kEmisiones]; }}}};
+      [](const CasoBateria& c) { return c.resultados.total[kEmisiones]; }}}};
 
 // Un número como lo escribe un flujo de salida recién abierto.
 std::string DeFlujo(float valor) {
@@ -67,7 +67,6 @@ CasoBateria CalcularUno(GestorEdifActivo& gestor, const std::string& nombre,
   CasoBateria caso;
   caso.proyecto = proyecto;
   caso.caso = nombre;
-  caso.abierto = true;
   try {
     if (!CalcularCaso(gestor, nombre, entorno)) {
       caso.fallo = "falta el fichero de clima";
@@ -77,6 +76,10 @@ CasoBateria CalcularUno(GestorEdifActivo& gestor, const std::string& nombre,
     if (hecho.resultados.depositoNulo) caso.fallo = "un depósito no tiene volumen";
     caso.resultados = hecho.resultados;
     caso.horasExceso = HorasExceso(hecho);
+    if (const float area = hecho.resultados.superficieTotal; area > 0.0F) {
+      caso.iluminacion = hecho.meses.iluminacion[0] / area;
+      caso.ventilacion = hecho.meses.ventilacion[0] / area;
+    }
   } catch (const std::exception& error) {
     caso.fallo = error.what();
   }
@@ -133,9 +136,9 @@ ListaBateria LeerListaBateria(const std::string& texto) {
   return lista;
 }
 
-std::vector<CasoBateria> EjecutarBateria(const ListaBateria& lista, const EspacioTrabajo& espacio,
-                                         const OpcionesBateria& opciones,
-                                         const std::function<void(std::size_t)>& hecho) {
+std::vector<CasoBateria> EjecutarBateria(
+    const ListaBateria& lista, const EspacioTrabajo& espacio, const OpcionesBateria& opciones,
+    const std::function<void(std::size_t, std::size_t)>& hecho) {
   std::vector<std::vector<CasoBateria>> porProyecto(lista.ficheros.size());
   std::atomic<std::size_t> siguiente{0};
   std::size_t hechos = 0;
@@ -148,7 +151,7 @@ std::vector<CasoBateria> EjecutarBateria(const ListaBateria& lista, const Espaci
           CalcularProyecto(lista.carpeta + lista.ficheros[i], ficheros, opciones.todosLosCasos);
       const std::lock_guard<std::mutex> guardia(cerrojo);
       ++hechos;
-      if (hecho) hecho(hechos);
+      if (hecho) hecho(i + 1, lista.ficheros.size() - hechos);
     }
   };
   {
@@ -167,11 +170,11 @@ std::string TextoBateria(const std::vector<CasoBateria>& casos) {
   std::string texto;
   for (std::size_t i = 0; i < casos.size(); ++i) {
     const CasoBateria& caso = casos[i];
-    if (caso.abierto) {
+    if (caso.fallo.empty()) {
       texto += "# Caso = " + std::to_string(i + 1) + "  de  " + std::to_string(casos.size()) +
                " :\n" + caso.proyecto + " :\n";
       for (const LineaBateria& linea : kLineas)
-        texto += linea.rotulo + DeFlujo(linea.valor(caso.resultados)) + "\n";
+        texto += linea.rotulo + DeFlujo(linea.valor(caso)) + "\n";
       texto +=
           "Horas exceso calor (mas de 26 C) en todo el año=" + std::to_string(caso.horasExceso) +
           "\n";
@@ -196,7 +199,7 @@ std::string CsvBateria(const std::vector<CasoBateria>& casos) {
     csv += celda(caso.proyecto) + ";" + celda(caso.caso);
     const bool hecho = caso.fallo.empty();
     for (const LineaBateria& linea : kLineas)
-      csv += ";" + (hecho ? General(linea.valor(caso.resultados)) : std::string());
+      csv += ";" + (hecho ? General(linea.valor(caso)) : std::string());
     csv += ";" + (hecho ? std::to_string(caso.horasExceso) : std::string()) + ";" +
            celda(caso.fallo) + "\n";
   }
@@ -209,7 +212,7 @@ std::string JsonBateria(const std::vector<CasoBateria>& casos) {
   for (const CasoBateria& caso : casos) {
     Json uno{{"proyecto", caso.proyecto}, {"caso", caso.caso}};
     if (caso.fallo.empty()) {
-      for (const LineaBateria& linea : kLineas) uno[linea.clave] = linea.valor(caso.resultados);
+      for (const LineaBateria& linea : kLineas) uno[linea.clave] = linea.valor(caso);
       uno["horas_exceso_calor"] = caso.horasExceso;
     } else {
       uno["fallo"] = caso.fallo;

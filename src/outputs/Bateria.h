@@ -26,8 +26,9 @@ struct CasoBateria {
   std::string proyecto;  ///< camino entero
   std::string caso;
   std::string fallo;  ///< por qué no se ha calculado; vacío si se ha hecho
-  bool abierto = false;
   ResultadosCaso resultados;
+  /// Lo que gastan, kWh/m2, lo dé la red o la fotovoltaica.
+  float iluminacion = 0, ventilacion = 0;
   int horasExceso = 0;  ///< con más de 26 °C en la zona
 };
 
@@ -37,13 +38,15 @@ struct OpcionesBateria {
 };
 
 /// Calcula los proyectos de una lista. Uno que falla no detiene a los demás.
-/// \param hecho se llama al acabar cada proyecto con cuántos van, de uno en uno; puede ser nula
+/// \param hecho se llama al acabar cada proyecto con cuál es, desde 1, y cuántos quedan, de uno en
+/// uno; puede ser nula
 /// \returns uno por proyecto en su orden, o uno por caso con todos los casos
-std::vector<CasoBateria> EjecutarBateria(const ListaBateria& lista, const EspacioTrabajo& espacio,
-                                         const OpcionesBateria& opciones,
-                                         const std::function<void(std::size_t)>& hecho = {});
+std::vector<CasoBateria> EjecutarBateria(
+    const ListaBateria& lista, const EspacioTrabajo& espacio, const OpcionesBateria& opciones,
+    const std::function<void(std::size_t, std::size_t)>& hecho = {});
 
-/// El texto de `bateria.out`. De un proyecto que no se abre va solo la raya final de su bloque.
+/// El texto de `bateria.out`. De un proyecto que no se abre o no se puede calcular va solo la raya
+/// final de su bloque: unos ceros se tomarían por un resultado.
 std::string TextoBateria(const std::vector<CasoBateria>& casos);
 /// Los mismos casos en CSV (punto y coma, con cabecera) y en JSON.
 std::string CsvBateria(const std::vector<CasoBateria>& casos);

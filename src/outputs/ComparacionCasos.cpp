@@ -1,5 +1,6 @@
 #include "outputs/ComparacionCasos.h"
 
+#include "model/GestorEdifActivo.h"
 #include "outputs/ReglasResultados.h"
 
 namespace novex {
@@ -45,15 +46,15 @@ double Valor(const CasoCalculado& caso, std::optional<Servicio> servicio, Unidad
                                       : r.total[unidad]);
 }
 
-std::string NombreBarra(const CasoCalculado& caso, const CasoCalculado& base) {
-  return &caso == &base ? "Actual" : caso.nombre;
+std::string NombreBarra(const CasoCalculado& caso) {
+  return caso.nombre == novex::caso::kViejo ? "Actual" : caso.nombre;
 }
 
 GraficoComparacion Comparar(const std::vector<CasoCalculado>& casos, const ServicioComparado& s,
                             UnidadEnergia unidad, TipoValor tipo) {
-  const CasoCalculado& base = CasoBase(casos);
+  const CasoCalculado* base = CasoBase(casos);
   const auto indicador =
-      IndicadorDe(s.servicio, unidad, base.edificio->GetDatosGenerales().EsResidencial());
+      IndicadorDe(s.servicio, unidad, casos.front().edificio->GetDatosGenerales().EsResidencial());
   GraficoComparacion comparacion;
   Grafico& g = comparacion.grafico;
   g.titulo = Titulo(s, unidad);
@@ -61,10 +62,10 @@ GraficoComparacion Comparar(const std::vector<CasoCalculado>& casos, const Servi
   g.series = {{g.titulo, {}}};
   for (const CasoCalculado& caso : casos) {
     const double valor = Valor(caso, s.servicio, unidad);
-    g.posiciones.push_back(NombreBarra(caso, base));
+    g.posiciones.push_back(NombreBarra(caso));
+    const double valorBase = base != nullptr ? Valor(*base, s.servicio, unidad) : 0.0;
     g.series.front().valores.push_back(
-        tipo == TipoValor::Ahorro ? Ahorro(Valor(base, s.servicio, unidad), valor).value_or(0)
-                                  : valor);
+        tipo == TipoValor::Ahorro ? Ahorro(valorBase, valor).value_or(0) : valor);
     const std::string letra = indicador ? LetraMostrada(*indicador, caso) : std::string();
     if (!letra.empty()) comparacion.letras.push_back(g.posiciones.back() + ": " + letra);
   }
@@ -83,7 +84,7 @@ std::vector<GraficoComparacion> CompararCasos(const std::vector<CasoCalculado>& 
                                               UnidadEnergia unidad, TipoValor tipo) {
   std::vector<GraficoComparacion> graficos;
   if (casos.empty()) return graficos;
-  const bool residencial = CasoBase(casos).edificio->GetDatosGenerales().EsResidencial();
+  const bool residencial = casos.front().edificio->GetDatosGenerales().EsResidencial();
   for (const ServicioComparado& s : kComparados)
     if (s.servicio != kIluminacion || !residencial)
       graficos.push_back(Comparar(casos, s, unidad, tipo));

@@ -27,7 +27,7 @@ struct GraficoComparacion {
 };
 
 /// Compara los casos de un proyecto: un gráfico por servicio y el del total. La iluminación, solo
-/// en terciario. \param casos el primero de nombre "Viejo" es la base; sin casos no hay gráficos
+/// en terciario. \param casos el de nombre "Viejo" es la base; sin casos no hay gráficos
 /// \param unidad el resultado, por m2 y año
 /// \param tipo su valor, o el ahorro en % sobre la base, que es 0 donde la base no es mayor que 0
 std::vector<GraficoComparacion> CompararCasos(const std::vector<CasoCalculado>& casos,

@@ -1,10 +1,11 @@
 #include "outputs/JsonResultados.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "outputs/JsonTabla.h"
+#include "outputs/ReglasResultados.h"
 #include "rating/Escala.h"
 
 namespace novex {
@@ -22,17 +23,6 @@ constexpr std::array<std::pair<std::string_view, UnidadEnergia>, kUnidadesEnergi
      {"energia_primaria_no_renovable", kPrimariaNoRenovable},
      {"energia_primaria_renovable", kPrimariaRenovable},
      {"emisiones", kEmisiones}}};
-
-// El número decimal de cinco cifras más cercano, sin cero negativo.
-double CincoCifras(float valor) {
-  if (!std::isfinite(valor)) return static_cast<double>(valor);
-  std::array<char, 32> texto{};
-  const auto fin = std::to_chars(texto.data(), texto.data() + texto.size(), valor,
-                                 std::chars_format::scientific, 4);
-  double redondeado = 0;
-  std::from_chars(texto.data(), fin.ptr, redondeado);
-  return redondeado == 0.0 ? 0.0 : redondeado;
-}
 
 Json Meses(const TablaMensual& tabla, float signo = 1.0F) {
   Json valores = Json::array();
@@ -52,10 +42,16 @@ Json Anuales(const ResultadosCaso& resultados, UnidadEnergia unidad) {
   return bloque;
 }
 
-Json Letras(const ResultadosCaso& resultados) {
-  Json letras;
-  for (std::size_t i = 0; i < kIndicadores; ++i)
-    letras[std::string(ClaveIndicador(static_cast<Indicador>(i)))] = resultados.escala.letra[i];
+// Las letras de lo que el caso califica: en una simulación libre, ninguna.
+Json Letras(const CasoCalculado& caso) {
+  Json letras = Json::object();
+  const bool residencial = caso.edificio->GetDatosGenerales().EsResidencial();
+  for (std::size_t i = 0; i < kIndicadores; ++i) {
+    const auto indicador = static_cast<Indicador>(i);
+    if (residencial && EsDeIluminacion(indicador)) continue;
+    if (std::string letra = LetraMostrada(indicador, caso); !letra.empty())
+      letras[std::string(ClaveIndicador(indicador))] = std::move(letra);
+  }
   return letras;
 }
 
@@ -97,7 +93,7 @@ Json DeCaso(const CasoCalculado& calculado) {
                          {"refrigeracion", CincoCifras(r.demandaRefrigeracion)},
                          {"acs", CincoCifras(r.demandaACS)}};
   for (const auto& [nombre, unidad] : kBloques) caso[std::string(nombre)] = Anuales(r, unidad);
-  caso["letras"] = Letras(r);
+  caso["letras"] = Letras(calculado);
   caso["horas_fuera_consigna"] = Json{{"calefaccion", std::lround(r.horasFueraCalefaccion)},
                                       {"refrigeracion", std::lround(r.horasFueraRefrigeracion)}};
   caso["horas_ocupacion"] = std::lround(r.horasOcupacion);

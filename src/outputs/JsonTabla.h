@@ -10,4 +10,8 @@ namespace novex {
 /// van como números sin redondear.
 std::string JsonTabla(const Tabla& tabla);
 
+/// El número decimal de cinco cifras más cercano, sin cero negativo: con el que se escriben en JSON
+/// los resultados.
+double CincoCifras(float valor);
+
 }  // namespace novex

@@ -84,8 +84,7 @@ std::optional<Indicador> IndicadorDe(std::optional<Servicio> servicio, UnidadEne
 
 std::string LetraMostrada(Indicador indicador, const CasoCalculado& caso) {
   if (!SeCalifica(*caso.edificio)) return {};
-  const ResultadosCaso& r = caso.resultado->resultados;
-  return Letra(indicador, ValorIndicador(indicador, r), *caso.edificio, r.escala);
+  return caso.resultado->resultados.escala.letra[static_cast<std::size_t>(indicador)];
 }
 
 std::optional<double> Ahorro(double base, double valor) {
@@ -93,10 +92,10 @@ std::optional<double> Ahorro(double base, double valor) {
   return (base - valor) * 100.0 / base;
 }
 
-const CasoCalculado& CasoBase(const std::vector<CasoCalculado>& casos) {
+const CasoCalculado* CasoBase(const std::vector<CasoCalculado>& casos) {
   const auto it = std::find_if(casos.begin(), casos.end(),
                                [](const CasoCalculado& c) { return c.nombre == caso::kViejo; });
-  return it == casos.end() ? casos.front() : *it;
+  return it == casos.end() ? nullptr : &*it;
 }
 
 }  // namespace novex

@@ -49,14 +49,18 @@ HorasFueraConsigna TextoHorasFuera(const CasoCalculado& caso);
 std::optional<Indicador> IndicadorDe(std::optional<Servicio> servicio, UnidadEnergia unidad,
                                      bool residencial);
 
+/// ¿Es un indicador de la iluminación? Solo se califican en terciario.
+constexpr bool EsDeIluminacion(Indicador indicador) {
+  return indicador == Indicador::EmisionesIlu || indicador == Indicador::EPriNoRIlu;
+}
+
 /// Letra con que se muestra un indicador: "A" a "G" o "( - )"; vacía en una simulación libre.
 std::string LetraMostrada(Indicador indicador, const CasoCalculado& caso);
 
 /// Ahorro de un valor sobre el de la base, %. \returns vacío si la base no es mayor que 0
 std::optional<double> Ahorro(double base, double valor);
 
-/// Caso con que se comparan los demás: el de nombre "Viejo", o el primero si no está.
-/// \param casos al menos uno
-const CasoCalculado& CasoBase(const std::vector<CasoCalculado>& casos);
+/// Caso con que se comparan los demás, el de nombre "Viejo"; nulo si no está.
+const CasoCalculado* CasoBase(const std::vector<CasoCalculado>& casos);
 
 }  // namespace novex

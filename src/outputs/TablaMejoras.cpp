@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "outputs/JsonTabla.h"
 #include "outputs/ReglasResultados.h"
 #include "rating/Escala.h"
 
@@ -36,11 +37,12 @@ std::string TextoDe(int codigo) {
 }
 
 Json DeMedida(const ResultadoMedida& m) {
-  Json cifras, letras;
+  Json cifras, letras = Json::object();
   for (std::size_t i = 0; i < kCifrasMedida; ++i)
-    cifras[std::string(ClaveCifra(static_cast<C>(i)))] = m.cifras[i];
+    cifras[std::string(ClaveCifra(static_cast<C>(i)))] = CincoCifras(m.cifras[i]);
   for (std::size_t i = 0; i < kIndicadores; ++i)
-    letras[std::string(ClaveIndicador(static_cast<Indicador>(i)))] = m.letras[i];
+    if (!m.letras[i].empty())
+      letras[std::string(ClaveIndicador(static_cast<Indicador>(i)))] = m.letras[i];
   return Json{{"codigo", m.codigo},
               {"texto", TextoDe(m.codigo)},
               {"cifras", std::move(cifras)},

@@ -14,6 +14,10 @@ enum class UnidadesReferencia : std::size_t { Totales, PorM2 };
 inline constexpr std::array<std::string_view, 2> kTextoUnidadesReferencia = {"Valores totales",
                                                                              "Valores /m2 "};
 
+/// Lo que se dice donde no la hay.
+inline constexpr std::string_view kSinObjetoReferencia =
+    "El caso no se compara con un edificio de referencia";
+
 /// Título de la tabla.
 inline constexpr std::string_view kTituloObjetoReferencia = "Detalle edificio objeto / referencia";
 

@@ -53,8 +53,8 @@ struct LetrasServicio {
   std::string demanda, primaria, emisiones;
 };
 
-LetrasServicio LetrasDe(Servicio servicio, const EscalaCaso& escala) {
-  const auto letra = [&](Indicador i) { return escala.letra[static_cast<std::size_t>(i)]; };
+LetrasServicio LetrasDe(Servicio servicio, const CasoCalculado& caso) {
+  const auto letra = [&](Indicador i) { return LetraMostrada(i, caso); };
   switch (servicio) {
     case kCalefaccion:
       return {letra(Indicador::DemandaCalefaccion), letra(Indicador::EPriNoRCalefaccion),
@@ -121,9 +121,9 @@ Tabla TablaServicios(const CasoCalculado& caso) {
       valores[u] = r.servicio[servicio].porUnidad[u][0];
     const auto demanda =
         servicio < kServiciosDemanda ? std::optional(Demanda(servicio, r)) : std::nullopt;
-    tabla.filas.push_back(FilaServicio(nombre, demanda, valores, LetrasDe(servicio, r.escala)));
+    tabla.filas.push_back(FilaServicio(nombre, demanda, valores, LetrasDe(servicio, caso)));
   }
-  const auto letra = [&](Indicador i) { return r.escala.letra[static_cast<std::size_t>(i)]; };
+  const auto letra = [&](Indicador i) { return LetraMostrada(i, caso); };
   tabla.filas.push_back(
       FilaServicio("Total", std::nullopt, r.total,
                    {"", letra(Indicador::EPriNoRTotales), letra(Indicador::EmisionesTotales)}));
@@ -165,10 +165,7 @@ std::vector<Tabla> TablasCalificacion(const CasoCalculado& caso, EscalaHoja esca
     std::vector<Tabla> filas = TablasHoja(hoja, escala);
     // La demanda es la misma en las dos hojas.
     if (!filas.empty() && base != BaseCalificacion::Emisiones) filas.erase(filas.begin());
-    for (Tabla& tabla : filas) {
-      tabla.notas.clear();
-      tablas.push_back(std::move(tabla));
-    }
+    for (Tabla& tabla : filas) tablas.push_back(std::move(tabla));
     if (Tabla total = TablaEscala(hoja); !total.filas.empty()) tablas.push_back(std::move(total));
   }
   return tablas;
@@ -176,8 +173,10 @@ std::vector<Tabla> TablasCalificacion(const CasoCalculado& caso, EscalaHoja esca
 
 std::vector<Tabla> TablasCaso(const CasoCalculado& caso) {
   std::vector<Tabla> tablas = {TablaEdificio(caso.nombre, *caso.edificio), TablaServicios(caso)};
-  for (Tabla& tabla : TablasCalificacion(caso, EscalaHoja::SuBanda))
+  for (Tabla& tabla : TablasCalificacion(caso, EscalaHoja::SuBanda)) {
+    tabla.notas.clear();  // ya están con los servicios
     tablas.push_back(std::move(tabla));
+  }
   tablas.push_back(TablaVectores(caso));
   return tablas;
 }

@@ -15,7 +15,7 @@ Tabla TablaEdificio(const std::string& nombreCaso, const Edificio& edificio);
 Tabla TablaServicios(const CasoCalculado& caso);
 
 /// La hoja de calificación en emisiones y en energía primaria no renovable, cada una con la escala
-/// de su total. Sin las notas, que van con los servicios.
+/// de su total.
 std::vector<Tabla> TablasCalificacion(const CasoCalculado& caso, EscalaHoja escala);
 
 /// Energía final del año por vector y servicio, kWh del edificio.

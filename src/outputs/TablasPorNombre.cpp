@@ -17,6 +17,9 @@ namespace {
 
 using Tablas = std::vector<Tabla>;
 
+constexpr std::string_view kNombreCasos = "casos";
+constexpr std::string_view kNombreComparacion = "comparacion-";
+
 struct Pedido {
   const CasoCalculado& caso;
   const std::vector<CasoCalculado>& todos;
@@ -36,7 +39,10 @@ constexpr std::array<const char*, 5> kAnalisis = {"", "-elementos", "-opacos", "
 
 Tablas ObjetoReferencia(const Pedido& p, UnidadesReferencia unidades) {
   const auto tabla = TablaObjetoReferencia(p.caso, unidades);
-  return tabla ? Tablas{*tabla} : Tablas{};
+  if (tabla) return {*tabla};
+  Tabla nada;
+  nada.titulo = kSinObjetoReferencia;
+  return {std::move(nada)};
 }
 
 Tablas Variables(const Pedido& p) {
@@ -65,11 +71,11 @@ Tablas Detalle(const Pedido& p, const SeleccionDetalle& seleccion) {
 void AnadirComparaciones(std::vector<TablaNombrada>& lista) {
   for (std::size_t u = 0; u < kUnidadesEnergia; ++u)
     for (const TipoValor tipo : {TipoValor::Absoluto, TipoValor::Ahorro})
-      lista.push_back(
-          {std::string("comparacion-") + kUnidad[u] + (tipo == TipoValor::Ahorro ? "-ahorro" : ""),
-           [u, tipo](const Pedido& p) {
-             return Comparacion(p, static_cast<UnidadEnergia>(u), tipo);
-           }});
+      lista.push_back({std::string(kNombreComparacion) + kUnidad[u] +
+                           (tipo == TipoValor::Ahorro ? "-ahorro" : ""),
+                       [u, tipo](const Pedido& p) {
+                         return Comparacion(p, static_cast<UnidadEnergia>(u), tipo);
+                       }});
 }
 
 // Sin análisis, los totales por servicio; con él, calefacción y refrigeración por separado.
@@ -101,7 +107,7 @@ const std::vector<TablaNombrada>& ListaTablas() {
          [](const Pedido& p) { return ObjetoReferencia(p, UnidadesReferencia::Totales); }},
         {"referencia-m2",
          [](const Pedido& p) { return ObjetoReferencia(p, UnidadesReferencia::PorM2); }},
-        {"casos",
+        {std::string(kNombreCasos),
          [](const Pedido& p) {
            const auto tablas = TablasAnalisisTecnico(p.todos);
            return Tablas(tablas.begin(), tablas.end());
@@ -129,6 +135,10 @@ Tabla TablaDeGrafico(const Grafico& grafico, std::string nota) {
   }
   if (!nota.empty()) tabla.notas.push_back(std::move(nota));
   return tabla;
+}
+
+bool ComparaCasos(std::string_view nombre) {
+  return nombre == kNombreCasos || nombre.starts_with(kNombreComparacion);
 }
 
 std::vector<std::string> NombresTablas(const Edificio& edificio) {

@@ -17,6 +17,9 @@ namespace novex {
 /// mensuales ("final-acs").
 std::vector<std::string> NombresTablas(const Edificio& edificio);
 
+/// ¿Comparan las tablas de ese nombre los casos del proyecto? Hacen falta todos, y son una vez.
+bool ComparaCasos(std::string_view nombre);
+
 /// Las tablas de un nombre, comparado exactamente. \param caso ya calculado \param todos los casos
 /// del proyecto, para las que los comparan \returns vacío si no hay tal nombre en el caso
 std::optional<std::vector<Tabla>> TablasDeNombre(const CasoCalculado& caso,

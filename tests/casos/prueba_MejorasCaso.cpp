@@ -44,5 +44,54 @@ TEST(MejorasDeUnCaso, ElAguaCalienteCompartidaEsLaDeCadaCalculo) {
   }
 }
 
+class MejorasDeUnProyecto : public testing::Test {
+ protected:
+  explicit MejorasDeUnProyecto(const std::string& nombre = "s02_aerotermia_solar")
+      : caso(nombre, pruebas::CarpetaCasos() / "programa") {}
+  std::unique_ptr<EstudioMejoras> Preparar() {
+    return EstudioMejoras::Preparar(caso.gestor, caso::kViejo, entorno);
+  }
+  template <class Cambio>
+  void Cambiar(Cambio cambio) {
+    DatosGenerales generales = caso.Viejo().GetDatosGenerales();
+    cambio(generales);
+    caso.gestor.Caso(caso::kViejo)->SetDatosGenerales(generales);
+  }
+  pruebas::CasoPrueba caso;
+  FicherosPrograma ficheros{EspacioTrabajo{pruebas::CarpetaCasos() / "programa"}};
+  Progreso progreso;
+  Entorno entorno{ficheros, caso.mensajes, progreso};
+};
+
+// De la parte solar no sale energía no renovable; el resto lo da el equipo del caso.
+TEST_F(MejorasDeUnProyecto, UnAporteSolarDejaElRestoAlEquipo) {
+  const auto estudio = Preparar();
+  ASSERT_TRUE(estudio);
+  const float D = caso.Resultado().resultados.demandaACS;
+  const auto base = [&](CifraMedida cifra) { return estudio->Base()[cifra]; };
+  const ResultadoMedida sesenta = estudio->MedirCodigo(55), setenta = estudio->MedirCodigo(97);
+  EXPECT_NEAR(sesenta[CifraMedida::EnergiaFinalACS], D / 1.05F, 1e-3);
+  EXPECT_NEAR(setenta[CifraMedida::EnergiaFinalACS], D, 1e-3);
+  EXPECT_NEAR(sesenta[CifraMedida::EnergiaPrimariaACS],
+              0.4F * base(CifraMedida::EnergiaPrimariaACS), 1e-3);
+  EXPECT_NEAR(setenta[CifraMedida::EmisionesACS], 0.3F * base(CifraMedida::EmisionesACS), 1e-3);
+}
+
+TEST_F(MejorasDeUnProyecto, SinVolumenDeDepositoNoHayEstudioYSeDice) {
+  Cambiar([](DatosGenerales& g) { g.Volumen_Dep_ST = 0; });
+  caso.mensajes.recibidos.clear();
+  EXPECT_FALSE(Preparar());
+  ASSERT_FALSE(caso.mensajes.recibidos.empty());
+  EXPECT_EQ(caso.mensajes.recibidos.back().texto,
+            "El depósito solar no puede tener un volumen nulo. Los calculos no se realizan");
+}
+
+TEST_F(MejorasDeUnProyecto, UnaSimulacionLibreNoTieneLetras) {
+  Cambiar([](DatosGenerales& g) { g.Tiposimulacion = "Simulacion"; });
+  const auto estudio = Preparar();
+  ASSERT_TRUE(estudio);
+  for (const std::string& letra : estudio->MedirCodigo(11).letras) EXPECT_EQ(letra, "");
+}
+
 }  // namespace
 }  // namespace novex

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "outputs/CasoCalculado.h"
+#include "rating/Escala.h"
 
 namespace novex::pruebas {
 
@@ -12,6 +13,15 @@ struct CasoDePrueba {
   std::unique_ptr<calculo> resultado = std::make_unique<calculo>();
 
   CasoCalculado Mostrar() const { return {"Viejo", edificio.get(), resultado.get(), {}}; }
+  /// Lo mismo, con las letras de sus valores y umbrales.
+  CasoCalculado MostrarCalificado() {
+    for (std::size_t i = 0; i < kIndicadores; ++i) {
+      const auto indicador = static_cast<Indicador>(i);
+      Resultados().escala.letra[i] =
+          Letra(indicador, ValorIndicador(indicador, Resultados()), *edificio, Resultados().escala);
+    }
+    return Mostrar();
+  }
   ResultadosCaso& Resultados() { return resultado->resultados; }
   void Poner(int perfilUso, const std::string& zona, const std::string& modo) {
     DatosGenerales generales = edificio->GetDatosGenerales();

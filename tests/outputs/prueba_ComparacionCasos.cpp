@@ -39,8 +39,8 @@ class CasosTest : public testing::Test {
       r.total[u] = calefaccion + 12;
     }
   }
-  std::vector<CasoCalculado> Casos() const {
-    std::vector<CasoCalculado> casos = {base.Mostrar(), mejora.Mostrar()};
+  std::vector<CasoCalculado> Casos() {
+    std::vector<CasoCalculado> casos = {base.MostrarCalificado(), mejora.MostrarCalificado()};
     casos[1].nombre = "Mejora_1";
     return casos;
   }
@@ -127,7 +127,8 @@ TEST_F(CasosTest, ObjetoYReferencia) {
   SistemaResidencial sistema;
   sistema.Tipo_sistema = "Calefaccion";
   base.edificio->AnadirSistema(sistema);
-  const Tabla tabla = TablaObjetoReferencia(base.Mostrar(), UnidadesReferencia::Totales).value();
+  const Tabla tabla =
+      TablaObjetoReferencia(base.MostrarCalificado(), UnidadesReferencia::Totales).value();
   ASSERT_EQ(tabla.filas.size(), 17U);
   EXPECT_EQ(Fila(tabla, 0), (Textos{"Demanda calefacción (kWh)", "800.00", "500.00", "1.60", "F"}));
   EXPECT_EQ(Fila(tabla, 2), (Textos{"Demanda ACS (kWh)", "0.00", "150.00", "0.00", ""}));
@@ -141,13 +142,26 @@ TEST_F(CasosTest, ObjetoYReferencia) {
   EXPECT_EQ(Fila(tabla, 10),
             (Textos{"Emisiones Totales (kgCO2)", "1000.00", "800.00", "1.25", "G"}));
   EXPECT_EQ(tabla.notas.size(), 1U);
-  const Tabla porM2 = TablaObjetoReferencia(base.Mostrar(), UnidadesReferencia::PorM2).value();
+  const Tabla porM2 =
+      TablaObjetoReferencia(base.MostrarCalificado(), UnidadesReferencia::PorM2).value();
   EXPECT_EQ(Fila(porM2, 0),
             (Textos{"Demanda calefacción (kWh/m2)", "16.00", "10.00", "1.60", "F"}));
   EXPECT_EQ(Fila(porM2, 4)[0], "Energía ventilación (kWh)");
   EXPECT_EQ(Fila(porM2, 16)[0], "* Energia primaria no renovable Totales (kWh/m2)");
   PonerZona(0, "D3");
-  EXPECT_FALSE(TablaObjetoReferencia(base.Mostrar(), UnidadesReferencia::PorM2).has_value());
+  EXPECT_FALSE(
+      TablaObjetoReferencia(base.MostrarCalificado(), UnidadesReferencia::PorM2).has_value());
+}
+
+// Una mejora sola no es la base de nada.
+TEST_F(CasosTest, SinLaBaseNoHayConQueComparar) {
+  const std::vector<CasoCalculado> sola = {Casos()[1]};
+  const auto ahorros = CompararCasos(sola, kEmisiones, TipoValor::Ahorro);
+  EXPECT_EQ(ahorros.back().grafico.posiciones, Textos{"Mejora_1"});
+  EXPECT_EQ(ahorros.back().LineaLetras(), "Mejora_1: F");
+  const Tabla emisiones = TablasAnalisisTecnico(sola)[1];
+  EXPECT_EQ(Fila(emisiones, 0)[0], "Mejora_1");
+  EXPECT_EQ(Fila(emisiones, 0)[2], "B");
 }
 
 }  // namespace

@@ -16,7 +16,7 @@ class HojaTest : public testing::Test {
     caso.Poner(0, "D3", "Existente");
   }
   HojaCalificacion Hoja(BaseCalificacion base = BaseCalificacion::Emisiones) {
-    return HojaDeCalificacion(caso.Mostrar(), base);
+    return HojaDeCalificacion(caso.MostrarCalificado(), base);
   }
   void Simulacion(const std::string& tipo) {
     DatosGenerales g = caso.edificio->GetDatosGenerales();
@@ -120,7 +120,7 @@ TEST_F(HojaTest, HorasFueraDeConsigna) {
   EXPECT_EQ(Hoja().horas.texto,
             "Porcentaje horas fuera consigna = 4.10 %. Certificación no válida");
   EXPECT_TRUE(Hoja().horas.noValida);
-  CasoCalculado mejora = caso.Mostrar();
+  CasoCalculado mejora = caso.MostrarCalificado();
   mejora.nombre = "Mejora_1";
   EXPECT_EQ(TextoHorasFuera(mejora).texto, "");
 }

@@ -77,9 +77,22 @@ TEST_F(JsonResultadosTest, LosMesesVanDeEneroADiciembreYLaCalefaccionEnPositivo)
   EXPECT_TRUE(final.at("iluminacion").empty());
 }
 
+// Una vivienda no califica la iluminación; una simulación libre, nada.
+TEST_F(JsonResultadosTest, SoloLasLetrasQueTiene) {
+  caso.Resultados().escala.letra.fill("A");
+  caso.Poner(0, "C2", "Nuevo");
+  EXPECT_EQ(Caso({}).at("letras").size(), 10U);
+  EXPECT_FALSE(Caso({}).at("letras").contains("EmisionesIlu"));
+  DatosGenerales generales = caso.edificio->GetDatosGenerales();
+  generales.Tiposimulacion = "Simulacion";
+  caso.edificio->SetDatosGenerales(generales);
+  EXPECT_EQ(Caso({}).at("letras").size(), 0U);
+}
+
 TEST_F(JsonResultadosTest, DatosLetrasHorasYAvisos) {
   caso.Poner(7, "C2", "Nuevo");
   caso.edificio->GetRecinto(0).Suelo_habitable_m2 = 123.456F;
+  caso.Resultados().escala.letra.fill("A");
   caso.Resultados().escala.letra[static_cast<std::size_t>(Indicador::EPriNoRIlu)] = "C";
   caso.Resultados().horasFueraRefrigeracion = 39;
   caso.Resultados().horasOcupacion = 3448;

@@ -373,6 +373,11 @@ TEST_F(Ordenes, MejorasYBateriaNoSePierdenNiSeParan) {
   EXPECT_TRUE(Contiene(una.salida, "\"codigo\": 61"));
   EXPECT_FALSE(Contiene(una.salida, "\"codigo\": 62"));
   EXPECT_TRUE(Contiene(LeerFichero(marcado), "Con andamio"));
+  // Marcarla otra vez no pierde sus cifras.
+  EXPECT_EQ(Ejecutar({"cambiar", marcado, "medida=61", "--guardar", marcado}).codigo, 0);
+  EXPECT_TRUE(Contiene(LeerFichero(marcado), "900.5"));
+  EXPECT_EQ(Ejecutar({"cambiar", marcado, "medida=61/1/2/3", "--guardar", marcado}).codigo, 2);
+  EXPECT_EQ(Ejecutar({"mejoras", marcado, "--caso", "", "--programa", carpeta}).codigo, 2);
   EXPECT_EQ(Ejecutar({"cambiar", marcado, "medida=4", "--guardar", marcado}).codigo, 2);
   EXPECT_EQ(Ejecutar({"cambiar", marcado, "nota_medida=62/x", "--guardar", marcado}).codigo, 2);
 
@@ -403,9 +408,16 @@ TEST_F(Ordenes, TablasYExportacionesPorSuNombre) {
   EXPECT_EQ(mal.codigo, 2);
   EXPECT_TRUE(Contiene(mal.errores, "se parecen: demanda,"));
 
+  // Comparar pide todos los casos, y se hace una vez.
+  const Ejecucion comparacion = Calcular(
+      Proyecto("D3", 100, 1), {"--caso", "Mejora_1", "--tabla", "comparacion-emisiones-ahorro"});
+  EXPECT_TRUE(Contiene(comparacion.salida, "Actual"));
+  EXPECT_EQ(comparacion.salida.find("\nEmisiones ACS\n"),
+            comparacion.salida.rfind("\nEmisiones ACS\n"));
+
   const fs::path fichero = raiz / "tablas.txt";
   EXPECT_EQ(
-      exportar({"--tablas", "todas", "--series", "TSE,TSL", "--a", (raiz / "tablas").string()})
+      exportar({"--tablas", "todas", "--series", "TSE, TSL", "--a", (raiz / "tablas").string()})
           .codigo,
       0);
   const std::string texto = LeerFichero(fichero);

@@ -48,8 +48,9 @@ int Ejecutar(const OpcionesOrden& o) {
   opciones.todosLosCasos = o.todosLosCasos;
   const std::size_t cuantos = lista->ficheros.size();
   const auto casos = EjecutarBateria(
-      *lista, AbrirEspacio(o.programa), opciones,
-      [&](std::size_t hechos) { std::cerr << "Caso = " << hechos << "  de  " << cuantos << '\n'; });
+      *lista, AbrirEspacio(o.programa), opciones, [&](std::size_t cual, std::size_t quedan) {
+        std::cerr << "n calculo " << quedan << "\nCaso = " << cual << "  de  " << cuantos << '\n';
+      });
   EscribirFichero(std::filesystem::path(lista->carpeta) / "bateria.out", TextoBateria(casos));
   if (!o.csv.empty()) EscribirFichero(o.csv, CsvBateria(casos));
   if (o.json == kSalidaEstandar)

@@ -29,15 +29,39 @@ void ComprobarNombresTablas(const std::vector<std::string>& pedidas, const Edifi
                      FraseParecidos(MasParecidos(nombre, nombres)));
 }
 
-// Las tablas que se han pedido de un caso, o las corrientes.
+bool AlgunaCompara(const std::vector<std::string>& tablas) {
+  return std::any_of(tablas.begin(), tablas.end(),
+                     [](const std::string& nombre) { return ComparaCasos(nombre); });
+}
+
+// Las tablas que se han pedido de un caso, o las corrientes. \param comparan las que comparan los
+// casos, o las que son de uno
 std::vector<Tabla> TablasPedidas(const OpcionesCalcular& opciones, const CasoCalculado& caso,
-                                 const std::vector<CasoCalculado>& casos) {
-  if (opciones.tablas.empty()) return TablasCaso(caso);
+                                 const std::vector<CasoCalculado>& todos, bool comparan) {
+  if (opciones.tablas.empty() && !comparan) return TablasCaso(caso);
   std::vector<Tabla> tablas;
-  for (const std::string& nombre : opciones.tablas)
-    for (Tabla& tabla : TablasDeNombre(caso, casos, nombre).value_or(std::vector<Tabla>{}))
+  for (const std::string& nombre : opciones.tablas) {
+    if (ComparaCasos(nombre) != comparan) continue;
+    for (Tabla& tabla : TablasDeNombre(caso, todos, nombre).value_or(std::vector<Tabla>{}))
       tablas.push_back(std::move(tabla));
+  }
   return tablas;
+}
+
+// Enseña las tablas de cada caso y, una sola vez, las que los comparan.
+void Ensenar(const OpcionesCalcular& opciones, const std::vector<CasoCalculado>& casos,
+             const std::vector<CasoCalculado>& todos) {
+  std::vector<std::vector<Tabla>> bloques;
+  for (const CasoCalculado& caso : casos)
+    bloques.push_back(TablasPedidas(opciones, caso, todos, false));
+  bloques.push_back(TablasPedidas(opciones, todos.front(), todos, true));
+  std::string separacion;
+  for (const std::vector<Tabla>& bloque : bloques) {
+    if (bloque.empty()) continue;
+    EscribirSalida(separacion);
+    EscribirTablas(bloque);
+    separacion = "\n\n";
+  }
 }
 
 // Un descuido al teclear no ha de costar el proyecto.
@@ -68,8 +92,15 @@ int Calcular(const OpcionesCalcular& opciones) {
     ComprobarNombresTablas(opciones.tablas, *gestor.Caso(nombre));
   if (!opciones.sinComprobar && !SePuedenCalcular(gestor, pedidos, mensajes)) return kNoCumple;
   FicherosPrograma ficheros(AbrirEspacio(opciones.programa));
-  const auto casos = CalcularCasos(gestor, pedidos, ficheros, mensajes, opciones.ficherosDeCaso);
-  if (casos.empty()) return kSinHacer;
+  // Para comparar hacen falta todos los casos, aunque se pida uno.
+  const bool comparar = AlgunaCompara(opciones.tablas);
+  const auto todos = CalcularCasos(gestor, comparar ? CasosDe(gestor) : pedidos, ficheros, mensajes,
+                                   opciones.ficherosDeCaso);
+  if (todos.empty()) return kSinHacer;
+  std::vector<CasoCalculado> casos;
+  for (const CasoCalculado& caso : todos)
+    if (std::find(pedidos.begin(), pedidos.end(), caso.nombre) != pedidos.end())
+      casos.push_back(caso);
 
   const std::string nombre = std::filesystem::path(opciones.proyecto).filename().string();
   if (!opciones.series.empty())
@@ -81,10 +112,7 @@ int Calcular(const OpcionesCalcular& opciones) {
     return kHecho;
   }
   if (!opciones.json.empty()) EscribirFichero(opciones.json, JsonResultados(nombre, casos));
-  for (std::size_t i = 0; i < casos.size(); ++i) {
-    if (i > 0) EscribirSalida("\n\n");
-    EscribirTablas(TablasPedidas(opciones, casos[i], casos));
-  }
+  Ensenar(opciones, casos, todos);
   return kHecho;
 }
 

@@ -203,15 +203,18 @@ int CodigoMedida(const std::string& texto) {
 // Marca una medida del estudio con su coste y su plazo.
 void MarcarMedida(Taller& t, const std::string& valor) {
   const std::vector<std::string> partes = Partes(valor);
-  const auto parte = [&](std::size_t i) { return i < partes.size() ? partes[i] : std::string(); };
-  const int codigo = CodigoMedida(parte(0));
-  const std::string precio = parte(1), plazo = parte(2);
+  if (partes.size() > 3) throw ErrorCampo("\"" + valor + "\" ha de ser CODIGO[/EUROS[/AÑOS]]");
+  const int codigo = CodigoMedida(partes.front());
   EstudioModificaciones estudio = t.edificio.GetEstudioModificaciones();
+  // Lo que no se da sigue como estaba.
+  const CifrasMedida antes = CifrasDeMedida(estudio, codigo);
+  const std::string precio = partes.size() > 1 ? partes[1] : General(antes.PrecioMejora);
+  const std::string plazo = partes.size() > 2 ? partes[2] : General(antes.AmortMejora);
   GuardarCifrasEstudio(estudio, std::array{CifrasTecleadas{codigo, true, precio, plazo}},
                        t.mensajes);
   if (const auto aviso = AvisoMarcas(estudio)) t.mensajes.Avisar(aviso->titulo, aviso->texto);
   t.edificio.SetEstudioModificaciones(estudio);
-  t.Apuntar("Medida " + parte(0), "", "marcada: " + MedidaDeCodigo(codigo)->texto);
+  t.Apuntar("Medida " + partes.front(), "", "marcada: " + MedidaDeCodigo(codigo)->texto);
 }
 
 void DesmarcarMedida(Taller& t, const std::string& valor) {
@@ -230,7 +233,11 @@ void AnotarMedida(Taller& t, const std::string& valor) {
   if (!GuardarNotaMedida(estudio, codigo, nota, t.mensajes))
     throw ErrorCampo("La medida " + valor.substr(0, barra) + " no está marcada");
   t.edificio.SetEstudioModificaciones(estudio);
-  t.Apuntar("Nota de la medida " + valor.substr(0, barra), "", nota);
+  std::string guardada;
+  for (const MedidaEstudio& m : estudio.medidas)
+    if (m.codigo == codigo)
+      for (const std::string& linea : m.notas) guardada += (guardada.empty() ? "" : " / ") + linea;
+  t.Apuntar("Nota de la medida " + valor.substr(0, barra), "", guardada);
 }
 
 using Regla = void (*)(Taller&, const std::string&);

@@ -3,6 +3,7 @@
 
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
+#include "base/Texto.h"
 #include "outputs/ExportacionSeries.h"
 #include "outputs/ExportacionTablas.h"
 #include "outputs/TextoTabla.h"
@@ -21,7 +22,8 @@ struct OpcionesExportar {
 std::vector<std::string> SeparadosPorComas(const std::string& texto) {
   std::vector<std::string> partes;
   std::istringstream entrada(texto);
-  for (std::string parte; std::getline(entrada, parte, ',');) partes.push_back(parte);
+  for (std::string parte; std::getline(entrada, parte, ',');)
+    partes.emplace_back(SinBlancos(parte));
   return partes;
 }
 
@@ -29,7 +31,7 @@ std::string TextoTablas(const CasoCalculado& caso, const std::string& cuales) {
   if (cuales == "todas") return ExportarTablas(caso, AlcanceExportacion::Todas);
   if (cuales == "visibles") return ExportarTablas(caso, AlcanceExportacion::Visible);
   const std::string texto = ExportarObjetoReferencia(caso, UnidadesReferencia::Totales);
-  if (texto.empty()) throw ErrorUso("El caso no se compara con un edificio de referencia");
+  if (texto.empty()) throw ErrorUso(std::string(kSinObjetoReferencia));
   return texto;
 }
 

@@ -27,6 +27,7 @@ std::vector<int> CodigosPedidos(const OpcionesMejoras& o, const EstudioModificac
 }
 
 int Estudiar(const OpcionesMejoras& o) {
+  if (o.caso.empty()) throw ErrorUso("Falta el nombre del caso");
   GestorEdifActivo gestor;
   MensajesConsola mensajes;
   AbrirProyectoConsola(gestor, o.proyecto, mensajes, o.programa);
