@@ -91,7 +91,8 @@ Celda CeldaAhorro(const std::string& letra, std::optional<double> ahorro) {
 
 std::vector<Celda> Fila(const CasoCalculado& caso, const CasoCalculado* base,
                         const Rejilla& rejilla) {
-  std::vector<Celda> fila = {caso.nombre == novex::caso::kViejo ? std::string("base") : caso.nombre};
+  std::vector<Celda> fila = {caso.nombre == novex::caso::kViejo ? std::string("base")
+                                                                : caso.nombre};
   for (const Columna& c : kColumnas) {
     if (NoSeCuenta(caso, c.servicio)) {
       fila.insert(fila.end(), 2, Celda(std::string(kSinLetra)));
