@@ -39,10 +39,7 @@ constexpr std::array<const char*, 5> kAnalisis = {"", "-elementos", "-opacos", "
 
 Tablas ObjetoReferencia(const Pedido& p, UnidadesReferencia unidades) {
   const auto tabla = TablaObjetoReferencia(p.caso, unidades);
-  if (tabla) return {*tabla};
-  Tabla nada;
-  nada.titulo = kSinObjetoReferencia;
-  return {std::move(nada)};
+  return tabla ? Tablas{*tabla} : Tablas{};
 }
 
 Tablas Variables(const Pedido& p) {

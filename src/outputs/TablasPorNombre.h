@@ -21,7 +21,8 @@ std::vector<std::string> NombresTablas(const Edificio& edificio);
 bool ComparaCasos(std::string_view nombre);
 
 /// Las tablas de un nombre, comparado exactamente. \param caso ya calculado \param todos los casos
-/// del proyecto, para las que los comparan \returns vacío si no hay tal nombre en el caso
+/// del proyecto, para las que los comparan \returns vacío si no hay tal nombre en el caso; ninguna
+/// tabla si el caso no tiene lo que enseñan
 std::optional<std::vector<Tabla>> TablasDeNombre(const CasoCalculado& caso,
                                                  const std::vector<CasoCalculado>& todos,
                                                  std::string_view nombre);

@@ -19,7 +19,6 @@ class FicheroCatalogo {
   FicheroCatalogo(std::filesystem::path ruta, std::string_view raiz);
 
   const NodoConservado& Raiz() const { return raiz_; }
-  const std::filesystem::path& Ruta() const { return ruta_; }
 
   /// Aplica un cambio a una copia del catálogo y la guarda; solo entonces el catálogo cambia. Si
   /// otro programa ha cambiado el fichero desde que se leyó, pregunta antes de escribir sobre él.

@@ -408,6 +408,9 @@ TEST_F(Ordenes, TablasYExportacionesPorSuNombre) {
   EXPECT_EQ(mal.codigo, 2);
   EXPECT_TRUE(Contiene(mal.errores, "se parecen: demanda,"));
 
+  const Ejecucion vivienda = Calcular(proyecto, {"--tabla", "referencia"});
+  EXPECT_EQ(vivienda.codigo, 2);
+  EXPECT_TRUE(Contiene(vivienda.errores, "La tabla \"referencia\" no tiene nada en el caso Base"));
   // Comparar pide todos los casos, y se hace una vez.
   const Ejecucion comparacion = Calcular(
       Proyecto("D3", 100, 1), {"--caso", "Mejora_1", "--tabla", "comparacion-emisiones-ahorro"});

@@ -42,8 +42,11 @@ std::vector<Tabla> TablasPedidas(const OpcionesCalcular& opciones, const CasoCal
   std::vector<Tabla> tablas;
   for (const std::string& nombre : opciones.tablas) {
     if (ComparaCasos(nombre) != comparan) continue;
-    for (Tabla& tabla : TablasDeNombre(caso, todos, nombre).value_or(std::vector<Tabla>{}))
-      tablas.push_back(std::move(tabla));
+    auto suyas = TablasDeNombre(caso, todos, nombre).value_or(std::vector<Tabla>{});
+    if (std::all_of(suyas.begin(), suyas.end(), [](const Tabla& t) { return t.filas.empty(); }))
+      throw ErrorUso("La tabla \"" + nombre + "\" no tiene nada en el caso " +
+                     NombreMostrado(caso.nombre));
+    for (Tabla& tabla : suyas) tablas.push_back(std::move(tabla));
   }
   return tablas;
 }
