@@ -120,4 +120,14 @@ std::array<std::string_view, 3> RotulosCatastro(std::string_view registro) {
   return reglas != nullptr ? reglas->rotulos : kPartesCatastro;
 }
 
+std::string TextoReferencias(const std::vector<ReferenciaCatastral>& referencias) {
+  std::string texto;
+  for (const ReferenciaCatastral& r : referencias) {
+    if (!texto.empty()) texto += ", ";
+    texto += r.Parcela + r.Inmueble;
+    if (!r.Parte.empty()) texto += " " + r.Parte;
+  }
+  return texto;
+}
+
 }  // namespace novex

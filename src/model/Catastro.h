@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -31,6 +32,10 @@ std::string_view ComprobarParteCatastro(std::string_view texto, std::string_view
 /// falso.
 bool ComprobarReferencias(const std::vector<ReferenciaCatastral>& referencias,
                           std::string_view registro);
+
+/// Las referencias como se escriben en los documentos: parcela e inmueble seguidos, tras un blanco
+/// la parte si la hay, y separadas por ", ".
+std::string TextoReferencias(const std::vector<ReferenciaCatastral>& referencias);
 
 /// Rótulos de las tres partes según el registro; con uno desconocido, sus nombres.
 std::array<std::string_view, 3> RotulosCatastro(std::string_view registro);

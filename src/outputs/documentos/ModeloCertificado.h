@@ -7,6 +7,9 @@
 
 namespace novex {
 
+/// Los dos documentos: el certificado y la verificación del DB-HE.
+enum class TipoDocumento { Certi, HE };
+
 /// Una variable de un documento: la marca `_nombre_` de la plantilla se cambia por su valor.
 struct VBLE {
   std::string nombre, valor;

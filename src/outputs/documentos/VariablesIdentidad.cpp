@@ -2,8 +2,11 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "demand/CargaInternaMedia.h"
 #include "files/ComunidadAutonoma.h"
+#include "model/Catastro.h"
 #include "outputs/documentos/VariablesCalificacion.h"
 
 namespace novex {
@@ -20,7 +23,18 @@ std::string CincoCifrasGeneral(float valor) {
   return fmt::format("{:.5g}", valor);
 }
 
+// La lista del programa lleva la norma como una clave: "NBE_CT_79".
+std::string NormaEdificacion(std::string clave) {
+  std::replace(clave.begin(), clave.end(), '_', ' ');
+  return clave;
+}
+
 }  // namespace
+
+std::string ReferenciasDe(const Edificio& edificio) {
+  std::string nuevas = TextoReferencias(edificio.GetDatosPantalla().referencias);
+  return nuevas.empty() ? edificio.GetDatosGenerales().ReferenciaCatastral : nuevas;
+}
 
 void VariablesIdentidad(const Edificio& edificio, std::string_view tipoCertificado,
                         std::vector<VBLE>& variables) {
@@ -38,8 +52,11 @@ void VariablesIdentidad(const Edificio& edificio, std::string_view tipoCertifica
   poner("ZC", lugar.ZonaClimatica);
   poner("ZC_", lugar.ZonaClimatica);
   poner("ANOCONSTRUCCION", g.AnoConstruccion);
-  poner("NORM", g.NormativaVigente);
-  poner("REFCAT", g.ReferenciaCatastral);
+  // Los dos siguientes están en un solo campo en los ficheros antiguos.
+  poner("NORM",
+        g.NormativaVigente.empty() ? NormaEdificacion(g.NormativaEdificacion) : g.NormativaVigente);
+  poner("REFCAT", ReferenciasDe(edificio));
+  poner("FECHA", g.Fecha);
   poner("NOMBRECERT", g.Certificador_Nombre);
   poner("NIF", g.Certificador_NIF);
   poner("RAZON", g.Certificador_Empresa);

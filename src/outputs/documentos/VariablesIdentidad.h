@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -10,6 +11,9 @@ namespace novex {
 
 /// Procedimiento con que se ha calculado, como consta en los documentos.
 inline constexpr std::string_view kProcedimiento = "NOVEX V_6.1  Fecha: mayo-2024";
+
+/// Referencias catastrales de un edificio; la del campo antiguo si no hay otras.
+std::string ReferenciasDe(const Edificio& edificio);
 
 /// Añade quién es el edificio y quién lo certifica: textos del usuario, ya como HTML.
 /// \param tipoCertificado clase de certificado que se muestra

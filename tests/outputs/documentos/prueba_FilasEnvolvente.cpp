@@ -1,0 +1,135 @@
+#include "outputs/documentos/FilasEnvolvente.h"
+
+#include <gtest/gtest.h>
+
+#include "outputs/CasoPrueba.h"
+
+namespace novex {
+namespace {
+
+constexpr std::size_t kMuro = ranura::MuroExt2;
+
+material Capa(const char* nombre, float espesor, float conductividad) {
+  material m;
+  m.Material = nombre;
+  m.Espesor = espesor;
+  m.Conductividad = conductividad;
+  m.Resistencia_termica = espesor / conductividad;
+  m.Densidad = 1000;
+  m.CalorEspecifico = 840;
+  m.Resisvidad_relativa_vapor = 10;
+  return m;
+}
+
+class FilasEnvolvente : public testing::Test {
+ protected:
+  NOVEX_TO_MODELOCERTIFICADO modelo;
+  pruebas::CasoDePrueba caso;
+};
+
+TEST_F(FilasEnvolvente, UnCerramientoPorOrientacionYUnaComposicion) {
+  Edificio& e = *caso.edificio;
+  Recinto& r = e.GetRecinto(0);
+  r = {};
+  r.Muro_ext_m2[1][oeste] = 12.34F;
+  r.Muro_ext_m2[1][sur_este] = 5;
+  r.Cubierta_incl_m2[0][norte] = 40;
+  r.Suelo_vacio_sanitario_m2[1] = 60;
+  e.AnadirMaterial(Capa("Ladrillo <1/2 pie>", 0.115F, 0.85F), kMuro);
+  e.AnadirMaterial(Capa("Aislante", 0.08F, 0.034F), kMuro);
+  e.GetComposicion(kMuro).nombre = "Muro _NIF_";
+  e.GetComposicion(ranura::TechoInc1).U = 0.4F;
+  e.GetComposicion(ranura::SueloOtro3).nombre = "Doble hoja";
+  caso.Resultados().Uefectiva[kMuro] = 0.349F;
+  FilasCerramientos(caso.Mostrar(), modelo);
+
+  ASSERT_EQ(modelo.cerramientos.size(), 4U);
+  EXPECT_EQ(modelo.cerramientos[0].tipo, "Cubierta Incl. Exterior 30ºN");
+  EXPECT_EQ(modelo.cerramientos[0].definicion, "Definido por el usuario");
+  EXPECT_EQ(modelo.cerramientos[0].composicion, "");
+  const MC_CERRAMIENTO& muro = modelo.cerramientos[1];
+  EXPECT_EQ(muro.tipo, "Muro Exterior O");
+  EXPECT_EQ(muro.area, "12.3");
+  EXPECT_EQ(muro.U, "0.3");
+  EXPECT_EQ(muro.definicion, "En función de su composición");
+  EXPECT_EQ(muro.composicion, "Muro &#95;NIF&#95;");
+  EXPECT_EQ(modelo.cerramientos[2].tipo, "Muro Exterior SE");
+  EXPECT_EQ(modelo.cerramientos[3].tipo, "Suelo a vacio sanitario");
+  EXPECT_EQ(modelo.cerramientos[3].definicion, "Defecto existentes. Doble hoja");
+
+  ASSERT_EQ(modelo.composiciones.size(), 2U);  // la de la cubierta no tiene nombre ni capas
+  ASSERT_EQ(modelo.composiciones[0].capas.size(), 2U);
+  const MC_CAPA& capa = modelo.composiciones[0].capas[0];
+  EXPECT_EQ(capa.nombre, "Ladrillo &lt;1/2 pie&gt;");
+  EXPECT_EQ(capa.calorEspecifico, "0.84");  // kJ/kgK
+  EXPECT_EQ(capa.espesor, "0.12");
+  EXPECT_TRUE(modelo.composiciones[1].capas.empty());
+}
+
+TEST(ModoDefinicionCerramiento, SinNadaNoEstaDefinido) {
+  composicion c;
+  EXPECT_EQ(ModoDefinicion(c), "No definido");
+  c.nombre = "Defecto existentes. Ventilada";
+  EXPECT_EQ(ModoDefinicion(c), "Defecto existentes. Ventilada");
+}
+
+TEST_F(FilasEnvolvente, UnHuecoPorGrupoYOrientacion) {
+  Edificio& e = *caso.edificio;
+  Huecos& ventanas = e.GetHuecos(0);
+  ventanas = {};
+  ventanas.columnas[este].Anadir(3);
+  ventanas.columnas[norte].Anadir(1);
+  ventanas.Indice_tipo_cristal = 1;
+  ventanas.FS_cristal_tanto_por_uno = 0.75F;
+  Huecos lucernario;
+  lucernario.Tipo_de_hueco = kLucernario;
+  lucernario.columnas[sur].Anadir(1);
+  lucernario.columnas[kColumnaHorizontal].Anadir(1);
+  lucernario.Indice_tipo_cristal = 5;
+  e.AnadirHuecos(lucernario);
+  FilasHuecos(e, modelo);
+  ASSERT_EQ(modelo.huecos.size(), 4U);
+  EXPECT_EQ(modelo.huecos[0].orientacionYArea, "N 2.00");
+  EXPECT_EQ(modelo.huecos[0].definicion, "Función de su composición");
+  EXPECT_EQ(modelo.huecos[1].orientacionYArea, "E 6.00");
+  EXPECT_EQ(modelo.huecos[1].clase, "Ventanas");
+  EXPECT_EQ(modelo.huecos[1].vidrio, "Dobles");
+  EXPECT_EQ(modelo.huecos[2].grupo, "Grupo 2");
+  EXPECT_EQ(modelo.huecos[2].orientacionYArea, "30ºS 2.00");
+  EXPECT_EQ(modelo.huecos[2].definicion, "Definido por usuario");
+  EXPECT_EQ(modelo.huecos[3].orientacionYArea, "Hz 2.00");
+}
+
+TEST_F(FilasEnvolvente, LosOchoPuentesConSuValorYSuLongitud) {
+  Construccion c;
+  for (std::size_t i = 0; i < kPuentes; ++i) c.U_L_Puentes[i] = static_cast<float>(i) + 0.5F;
+  c.Perimetro_forjados = 10;
+  c.Perimetro_huecos = 20;
+  c.Longitud_esquinas_sal_menos_ent = 30;
+  c.Perimetro_suelo_ext = 35;
+  c.Perimetro_cubiertas = 37;
+  c.Perimetro_suelo_terreno = 39;
+  c.Long_pilares = {1, 2, 3, 4, 5, 6};
+  FilasPuentes(c, modelo);
+  const std::array<std::array<const char*, 3>, 8> esperados = {
+      {{"FRENTE&#95;FORJADO", "1.50", "10.00"},
+       {"UNION&#95;CUBIERTA", "2.50", "37.00"},
+       {"ESQUINA&#95;CONVEXA&#95;FORJADO", "3.50", "35.00"},
+       {"ESQUINA&#95;CONCAVA&#95;CERRAMIENTO", "4.50", "30.00"},
+       {"ESQUINA&#95;CONVEXA&#95;CERRAMIENTO", "4.50", "30.00"},
+       {"PILAR", "5.50", "21.00"},
+       {"UNION&#95;SOLERA&#95;PAREDEXT", "6.50", "39.00"},
+       {"HUECO&#95;VENTANA", "0.50", "20.00"}}};
+  ASSERT_EQ(modelo.puentes.size(), esperados.size());
+  for (std::size_t i = 0; i < esperados.size(); ++i) {
+    const PUENTETERMICO& p = modelo.puentes[i];
+    EXPECT_EQ(p.vacio, "");
+    EXPECT_EQ(p.clase, esperados[i][0]);
+    EXPECT_EQ(p.transmitancia, esperados[i][1]) << p.clase;
+    EXPECT_EQ(p.longitud, esperados[i][2]) << p.clase;
+    EXPECT_EQ(p.origen, "SDINT");
+  }
+}
+
+}  // namespace
+}  // namespace novex
