@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/Calendario.h"
+#include "demand/VectorEnergetico.h"
 #include "model/TablaEnvolvente.h"
 
 namespace novex {
@@ -94,6 +95,15 @@ struct AtributoSistema {
   std::string nombre;
   int decimales = 2;
   SerieHoraria serie;
+};
+
+/// Sumas del año de un bloque de generador por servicio, kWh.
+struct SumasBloque {
+  using PorServicio = std::array<float, kServiciosDemanda>;
+  std::array<PorServicio, 2> dado{}, consumo{};  ///< por generador; el frío es el sensible
+  PorServicio ambiente{};                        ///< calor tomado del ambiente
+  PorServicio auxiliares{};                      ///< electricidad de bombas y ventiladores
+  bool operator==(const SumasBloque&) const = default;
 };
 
 }  // namespace novex

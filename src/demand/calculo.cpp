@@ -21,6 +21,7 @@ void calculo::VaciarResultados() {
   zona = SeriesZona{};
   sistemas = SeriesSistemas{};
   atributos.clear();
+  sumasBloques.clear();
   meses = TablasMensuales{};
   valores.clear();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include "demand/ResultadosCaso.h"
 #include "demand/Series.h"
@@ -19,6 +20,8 @@ class calculo {
   SeriesSistemas sistemas;
   /// Magnitudes de cada sistema, en el orden del fichero; sus direcciones no cambian.
   std::deque<AtributoSistema> atributos;
+  /// Un elemento por bloque de generador, contados por sistemas y dentro de cada uno por bloques.
+  std::vector<SumasBloque> sumasBloques;
   TablasMensuales meses;
   valores_type valores;
 

@@ -52,6 +52,12 @@ ModoDefecto ModoDefectoDe(std::string_view equiposDefecto) {
   return equiposDefecto == "SI" ? ModoDefecto::Si : ModoDefecto::SinDecir;
 }
 
+VectorEnergetico VectorDefecto(std::size_t servicio, bool residencial) {
+  if (servicio == kRefrigeracion) return VectorEnergetico::Electricidad;
+  if (residencial) return VectorEnergetico::GasNatural;
+  return servicio == kACS ? VectorEnergetico::Electricidad : VectorEnergetico::Gasoleo_C;
+}
+
 void CargarDefectoHora(int h, const std::array<float, kServiciosDemanda>& noDado, ModoDefecto modo,
                        calculo& caso) {
   const int mes = HoraDelMes(h);

@@ -27,6 +27,10 @@ EquipoDefecto LeerDefecto(const XMLNode& raiz, const std::string& ruta, bool res
 enum class ModoDefecto { No, Si, SinDecir };
 ModoDefecto ModoDefectoDe(std::string_view equiposDefecto);
 
+/// Vector en que cuenta la energía del equipo por defecto: lo fija el uso, no el fichero.
+/// \param servicio uno de los que tienen demanda
+VectorEnergetico VectorDefecto(std::size_t servicio, bool residencial);
+
 /// Carga a los equipos por defecto lo que los sistemas no dan en una hora: suma la energía final a
 /// sus filas mensuales y deja las series horarias. La serie de ACS se guarda siempre; las otras,
 /// solo cuando lo toman los equipos por defecto. \param h hora del año, 1 a 8760 \param noDado

@@ -30,13 +30,6 @@ float PorArea(float valor, const Contexto& contexto) {
   return contexto.area > 0.0F ? valor / contexto.area : 0.0F;
 }
 
-// Vector del equipo por defecto: lo fija el uso, no el fichero.
-VectorEnergetico VectorDefecto(std::size_t servicio, bool residencial) {
-  if (servicio == kRefrigeracion) return VectorEnergetico::Electricidad;
-  if (residencial) return VectorEnergetico::GasNatural;
-  return servicio == kACS ? VectorEnergetico::Electricidad : VectorEnergetico::Gasoleo_C;
-}
-
 void SumarAnos(TablasMensuales& meses) {
   for (auto& vector : meses.consumo) std::for_each(vector.begin(), vector.end(), SumarAno);
   for (auto* tabla : {&meses.ambiente, &meses.bombas, &meses.ventiladores, &meses.defecto,

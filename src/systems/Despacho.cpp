@@ -41,6 +41,7 @@ Despacho::Despacho(Edificio& edificio, const AjustesUso& ajustes, calculo& caso,
       ajustes_(ajustes),
       caso_(caso),
       superficie_(edificio.GetRecinto(0).Suelo_habitable_m2) {
+  caso_.sumasBloques.clear();
   for (std::size_t n = 0; n < edificio.NumeroSistemas(); ++n) {
     SistemaResidencial& datos = edificio.GetSistema(n);
     if (datos.instalaciones.empty()) continue;
@@ -55,13 +56,13 @@ Despacho::Despacho(Edificio& edificio, const AjustesUso& ajustes, calculo& caso,
                            ClaseGeneradorDe(i.Seleccion) == ClaseGenerador::Rooftop;
       auto bloque = std::make_unique<Bloque>(
           Bloque{GeneradorPreparado(edificio, datos, i, static_cast<int>(n) + 1), nullptr,
-                 sumas_.size(), nullptr});
+                 caso_.sumasBloques.size(), nullptr});
       if (DaACS(sistema->tipo))
         bloque->acs =
             std::make_unique<HoraACS>(edificio, bloque->generador, estadoSolar_, caso, mensajes);
       bloque->atributos = std::make_unique<AtributosSistema>(
           bloque->generador, bloque->acs ? &bloque->acs->Arreglo() : nullptr, caso);
-      sumas_.emplace_back();
+      caso_.sumasBloques.emplace_back();
       sistema->bloques.push_back(std::move(bloque));
     }
     sistemas_.push_back(std::move(sistema));
@@ -73,7 +74,7 @@ Despacho::Despacho(Edificio& edificio, const AjustesUso& ajustes, calculo& caso,
 Despacho::~Despacho() = default;
 
 void Despacho::GrabarACS(AnosACS& anos) {
-  anos.assign(sumas_.size(), {});
+  anos.assign(caso_.sumasBloques.size(), {});
   for (const auto& s : sistemas_)
     for (const auto& b : s->bloques)
       if (b->acs) {
@@ -144,7 +145,7 @@ void Despacho::RepartirSuperficies() {
 void Despacho::Contabilizar(Bloque& b, const HoraSistemas& hora, const RespuestaHora& r) {
   TablasMensuales& meses = caso_.meses;
   const GeneradorPreparado& g = b.generador;
-  SumasBloque& suma = sumas_[b.indice];
+  SumasBloque& suma = caso_.sumasBloques[b.indice];
   const auto anotar = [&](const std::optional<VectorEnergetico>& v, std::size_t s, float consumo) {
     if (v && Indice(*v) < kVectoresConsumo)
       SumarMes(meses.consumo[Indice(*v)][s], hora.mes, consumo);
@@ -159,6 +160,8 @@ void Despacho::Contabilizar(Bloque& b, const HoraSistemas& hora, const Respuesta
     suma.dado[1][s] += r.dado2[s];
     suma.consumo[0][s] += r.consumo1[s];
     suma.consumo[1][s] += r.consumo2[s];
+    suma.ambiente[s] += r.ambiente[s];
+    suma.auxiliares[s] += (r.bombas[s] + r.ventiladores[s]) * 0.001F;
   }
   SumarMes(meses.calorBiomasa, hora.mes, r.calorBiomasa);
   b.atributos->Anotar(hora.h, r);

@@ -10,11 +10,6 @@
 
 namespace novex {
 
-/// Sumas del año de un bloque, kWh, por generador y servicio.
-struct SumasBloque {
-  std::array<CargasHora, 2> dado{}, consumo{};
-};
-
 /// Lo que el reparto deja en una hora.
 struct ResultadoDespacho {
   CargasHora sinCubrir{};  ///< asignado a sistemas que no lo alcanzan, kW
@@ -41,7 +36,7 @@ class Despacho {
   bool HaySistemas() const { return !sistemas_.empty(); }
   /// ¿Ha dado algún depósito sin volumen?
   bool VolumenNulo() const { return estadoSolar_.volumenNulo; }
-  const std::vector<SumasBloque>& Sumas() const { return sumas_; }
+  const std::vector<SumasBloque>& Sumas() const { return caso_.sumasBloques; }
 
  private:
   struct Bloque;
@@ -62,7 +57,6 @@ class Despacho {
   calculo& caso_;
   EstadoSolarCaso estadoSolar_;
   std::vector<std::unique_ptr<Sistema>> sistemas_;
-  std::vector<SumasBloque> sumas_;
   float superficie_;
   CargasHora servida_{};  ///< superficie que sirven los sistemas, por servicio, m2
   bool haySistemasDeAire_ = false;
