@@ -1,0 +1,201 @@
+#include "base/Proceso.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <functional>
+#include <iterator>
+#include <thread>
+
+#include "base/FicheroSeguro.h"
+#include "files/CarpetaTemporal.h"
+
+namespace novex {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+using testing::HasSubstr;
+
+bool EsperarA(const std::function<bool()>& que) {
+  for (int i = 0; i < 500; ++i) {
+    if (que()) return true;
+    std::this_thread::sleep_for(10ms);
+  }
+  return false;
+}
+
+class Proceso : public testing::Test {
+ protected:
+  fs::path Guion(const std::string& lineas, const std::string& nombre = "un guion") const {
+    const fs::path ruta = carpeta / nombre;
+    EscribirFichero(ruta, "#!/bin/sh\n" + lineas + "\n");
+    fs::permissions(ruta, fs::perms::owner_all);
+    return ruta;
+  }
+  // El proceso cuyo número deja un guion en un fichero.
+  pid_t Apuntado(const std::string& nombre) const {
+    return static_cast<pid_t>(std::stol(LeerFichero(carpeta / nombre)));
+  }
+  // Un proceso matado sigue un instante como zombi hasta que alguien lo recoge.
+  static bool Vive(pid_t proceso) {
+    const fs::path estado = "/proc/" + std::to_string(proceso) + "/stat";
+    if (!fs::exists(estado)) return false;
+    std::ifstream entrada(estado);
+    const std::string texto{std::istreambuf_iterator<char>(entrada), {}};
+    const std::size_t fin = texto.rfind(')');
+    return fin != std::string::npos && texto.compare(fin, 3, ") Z") != 0;
+  }
+
+  pruebas::CarpetaTemporal carpeta;
+};
+
+TEST_F(Proceso, LosArgumentosLleganComoEstan) {
+  const auto programa = Guion("for a in \"$@\"; do printf '[%s]' \"$a\"; done; cat; exit 7");
+  const auto r =
+      EjecutarProceso({programa, {"a b", "\"c'", "$HOME;ls", "", "-x", "ñ*", "l\nm", "\\"}, {}});
+  EXPECT_EQ(r.salida, "[a b][\"c'][$HOME;ls][][-x][ñ*][l\nm][\\]");
+  EXPECT_EQ(r.codigo, 7);
+  EXPECT_TRUE(r.Arrancado());
+  EXPECT_FALSE(r.Bien());
+}
+
+TEST_F(Proceso, SalidasCarpetaYSenal) {
+  const fs::path otra = carpeta / "otra carpeta";
+  fs::create_directory(otra);
+  auto r = EjecutarProceso({Guion("pwd; echo mal >&2"), {}, otra});
+  EXPECT_TRUE(r.Bien());
+  EXPECT_EQ(r.salida, fs::canonical(otra).string() + "\n");
+  EXPECT_EQ(r.errores, "mal\n");
+  r = EjecutarProceso({Guion("kill -TERM $$"), {}, {}});
+  EXPECT_EQ(r.senal, SIGTERM);
+  EXPECT_EQ(r.codigo, -1);
+  EXPECT_FALSE(r.Bien());
+}
+
+TEST_F(Proceso, LoQueNoArrancaDicePorQue) {
+  const fs::path sinPermiso = carpeta / "sin permiso", ajeno = carpeta / "ajeno";
+  EscribirFichero(sinPermiso, "#!/bin/sh\n");
+  EscribirFichero(ajeno, "MZ no es de aquí");
+  fs::permissions(ajeno, fs::perms::owner_all);
+  const auto vale = Guion("exit 0");
+  const std::pair<OrdenProceso, std::string> casos[] = {
+      {{carpeta / "falta", {}, {}}, "no existe"},     {{sinPermiso, {}, {}}, "permiso"},
+      {{ajeno, {}, {}}, "no es un programa"},         {{vale, {}, carpeta / "no hay"}, "no hay"},
+      {{vale, {std::string("a\0b", 3)}, {}}, "nulo"}, {{{}, {}, {}}, "programa"}};
+  for (const auto& [orden, motivo] : casos) {
+    const auto r = EjecutarProceso(orden);
+    EXPECT_FALSE(r.Arrancado());
+    EXPECT_FALSE(r.Bien());
+    EXPECT_THAT(r.motivo, HasSubstr(motivo));
+    EXPECT_EQ(LanzarProceso(orden), r.motivo);
+  }
+  EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);  // nadie queda sin recoger
+}
+
+TEST_F(Proceso, SeGuardaElFinalDeLoMuchoQueEscribe) {
+  // Por las dos salidas a la vez pasa mucho más de lo que cabe en los tubos.
+  const auto programa = Guion(
+      "i=0; while [ $i -lt 20000 ]; do echo \"linea $i de la salida\"; echo \"error $i\" >&2; "
+      "i=$((i+1)); done");
+  const auto r = EjecutarProceso({programa, {}, {}}, {60s, 100});
+  ASSERT_TRUE(r.Bien());
+  EXPECT_EQ(r.salida.size(), 100U);
+  EXPECT_EQ(r.errores.size(), 100U);
+  EXPECT_TRUE(r.salida.ends_with("linea 19998 de la salida\nlinea 19999 de la salida\n"));
+  EXPECT_TRUE(r.errores.ends_with("error 19998\nerror 19999\n"));
+}
+
+TEST_F(Proceso, PasadoElPlazoMuereSuGrupo) {
+  const auto programa = Guion("echo antes; sleep 60 & echo $! > nieto; wait");
+  const auto inicio = std::chrono::steady_clock::now();
+  const auto r = EjecutarProceso({programa, {}, carpeta / ""}, {1s});
+  EXPECT_LT(std::chrono::steady_clock::now() - inicio, 20s);
+  EXPECT_TRUE(r.plazoVencido);
+  EXPECT_FALSE(r.Bien());
+  EXPECT_EQ(r.senal, SIGKILL);
+  EXPECT_EQ(r.salida, "antes\n");
+  const pid_t nieto = Apuntado("nieto");
+  EXPECT_TRUE(EsperarA([&] { return !Vive(nieto); }));
+}
+
+TEST_F(Proceso, NoSeEsperaALoQueElProgramaDejaAndando) {
+  const auto programa = Guion("sleep 60 & echo $! > nieto; echo hecho; exit 3");
+  const auto inicio = std::chrono::steady_clock::now();
+  const auto r = EjecutarProceso({programa, {}, carpeta / ""});
+  EXPECT_LT(std::chrono::steady_clock::now() - inicio, 20s);
+  EXPECT_EQ(r.codigo, 3);
+  EXPECT_EQ(r.salida, "hecho\n");
+  ::kill(Apuntado("nieto"), SIGKILL);
+}
+
+TEST_F(Proceso, NoHeredaDescriptores) {
+  constexpr int kAjeno = 57;
+  ASSERT_EQ(::dup2(STDERR_FILENO, kAjeno), kAjeno);  // sin cierre al ejecutar
+  const auto programa =
+      Guion("for d in /proc/$$/fd/*; do n=${d##*/}; [ $n -gt 2 ] && readlink $d; done; exit 0");
+  // El intérprete tiene abierto su guion, y nada más.
+  const std::string propio = fs::canonical(programa).string() + "\n";
+  EXPECT_EQ(EjecutarProceso({programa, {}, {}}).salida, propio);
+  const auto suelto =
+      Guion("for d in /proc/$$/fd/*; do readlink $d; done > abiertos.p; mv abiertos.p abiertos",
+            "suelto");
+  EXPECT_EQ(LanzarProceso({suelto, {}, carpeta / ""}), "");
+  ASSERT_TRUE(EsperarA([&] { return fs::exists(carpeta / "abiertos"); }));
+  const std::string abiertos = LeerFichero(carpeta / "abiertos");
+  EXPECT_EQ(abiertos.find("pipe"), std::string::npos) << abiertos;
+  ::close(kAjeno);
+}
+
+TEST_F(Proceso, LoLanzadoNoSeEsperaNiDejaZombi) {
+  const auto programa = Guion(
+      "echo $$ > numero; while [ ! -e sigue ]; do sleep 0.05; done; pwd > fin.p; mv fin.p fin");
+  // Lo lanza un proceso que acaba enseguida, y que es jefe de su propio grupo.
+  const pid_t lanzador = ::fork();
+  if (lanzador == 0) {
+    ::setpgid(0, 0);
+    ::_exit(LanzarProceso({programa, {}, carpeta / ""}).empty() ? 0 : 1);
+  }
+  int estado = -1;
+  ASSERT_EQ(::waitpid(lanzador, &estado, 0), lanzador);
+  EXPECT_EQ(estado, 0);
+  ::kill(-lanzador, SIGKILL);  // lo que mata al grupo del lanzador no le alcanza
+  EscribirFichero(carpeta / "sigue", "");
+  ASSERT_TRUE(EsperarA([&] { return fs::exists(carpeta / "fin"); }));
+  EXPECT_EQ(LeerFichero(carpeta / "fin"), fs::canonical(carpeta / "").string() + "\n");
+
+  fs::remove(carpeta / "fin");
+  EXPECT_EQ(LanzarProceso({programa, {}, carpeta / ""}), "");
+  ASSERT_TRUE(EsperarA([&] { return fs::exists(carpeta / "fin"); }));
+  EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+  EXPECT_EQ(errno, ECHILD);
+}
+
+TEST_F(Proceso, BuscaEnElPath) {
+  const char* const antes = std::getenv("PATH");
+  const std::string guardado = antes == nullptr ? "" : antes;
+  for (const char* nombre : {"a", "b", "c"}) fs::create_directory(carpeta / nombre);
+  EscribirFichero(carpeta / "a/herramienta", "sin permiso");
+  fs::create_directory(carpeta / "b/herramienta");
+  const auto buena = Guion("exit 0", "c/herramienta");
+  const auto relativa = fs::relative(carpeta / "c").string();
+  const auto poner = [&](const std::string& path) { ::setenv("PATH", path.c_str(), 1); };
+  poner(relativa + "::" + (carpeta / "a").string() + ":" + (carpeta / "b").string());
+  EXPECT_EQ(BuscarPrograma("herramienta"), fs::path());
+  poner((carpeta / "a").string() + ":" + (carpeta / "b").string() + ":" + (carpeta / "c").string());
+  EXPECT_EQ(BuscarPrograma("herramienta"), buena);
+  EXPECT_EQ(BuscarPrograma("../c/herramienta"), fs::path());
+  EXPECT_EQ(BuscarPrograma(""), fs::path());
+  ::unsetenv("PATH");
+  EXPECT_EQ(BuscarPrograma("herramienta"), fs::path());
+  if (antes != nullptr) poner(guardado);
+}
+
+}  // namespace
+}  // namespace novex
