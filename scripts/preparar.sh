@@ -7,6 +7,8 @@ paquetes=(
   libfmt-dev libpugixml-dev liblodepng-dev
   libcli11-dev nlohmann-json3-dev
   libgtest-dev libgmock-dev libbenchmark-dev
+  weasyprint fonts-crosextra-carlito
+  poppler-utils libxml2-utils
 )
 
 fallar() {
