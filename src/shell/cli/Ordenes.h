@@ -29,6 +29,8 @@ void AnadirNuevo(CLI::App& programa, Orden& orden);
 void AnadirCasos(CLI::App& programa, Orden& orden);
 /// `cambiar`: cambia campos de un proyecto.
 void AnadirCambiar(CLI::App& programa, Orden& orden);
+/// `imagen`: pone y extrae las imágenes de un proyecto.
+void AnadirImagen(CLI::App& programa, Orden& orden);
 /// `materiales`, `composiciones`, `municipios` y `catalogos`: buscan en los catálogos y los ponen
 /// al día.
 void AnadirCatalogos(CLI::App& programa, Orden& orden);

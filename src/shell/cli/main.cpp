@@ -76,6 +76,7 @@ int Ejecutar(int argc, char** argv) {
   AnadirNuevo(programa, orden);
   AnadirCasos(programa, orden);
   AnadirCambiar(programa, orden);
+  AnadirImagen(programa, orden);
   AnadirCatalogos(programa, orden);
   try {
     programa.parse(argc, argv);
