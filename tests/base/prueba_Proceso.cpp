@@ -115,7 +115,7 @@ TEST_F(Proceso, SeGuardaElFinalDeLoMuchoQueEscribe) {
 TEST_F(Proceso, PasadoElPlazoMuereSuGrupo) {
   const auto programa = Guion("echo antes; sleep 60 & echo $! > nieto; wait");
   const auto inicio = std::chrono::steady_clock::now();
-  const auto r = EjecutarProceso({programa, {}, carpeta / ""}, {1s});
+  const auto r = EjecutarProceso({programa, {}, carpeta / ""}, {2s});
   EXPECT_LT(std::chrono::steady_clock::now() - inicio, 20s);
   EXPECT_TRUE(r.plazoVencido);
   EXPECT_FALSE(r.Bien());

@@ -51,6 +51,8 @@ int ExtraerImagenes(const GestorEdifActivo& gestor, const fs::path& carpeta, Men
 int HacerImagen(const OpcionesImagen& o) {
   const bool poner = !o.edificio.empty() || !o.plano.empty();
   if (!poner && o.extraer.empty()) throw ErrorUso("Falta --edificio, --plano o --extraer");
+  if (!o.extraer.empty() && (poner || !o.salida.empty()))
+    throw ErrorUso("--extraer no va con --edificio, --plano ni --salida");
   GestorEdifActivo gestor;
   MensajesConsola mensajes;
   AbrirProyectoConsola(gestor, o.proyecto, mensajes, o.programa);
@@ -76,7 +78,6 @@ void AnadirImagen(CLI::App& programa, Orden& orden) {
   app->add_option("--salida", o->salida, "Fichero en que se guarda, en lugar del mismo")
       ->type_name("FICHERO.xml");
   app->add_option("--extraer", o->extraer, "Escribe las imágenes del proyecto en una carpeta")
-      ->excludes("--edificio", "--plano", "--salida")
       ->type_name("CARPETA");
   app->add_option("--programa", o->programa, "Carpeta de programa en lugar de la suya")
       ->type_name("CARPETA");
