@@ -1,8 +1,10 @@
 #include "outputs/documentos/ConstruirModelo.h"
 
+#include "outputs/documentos/ConsumosServicio.h"
 #include "outputs/documentos/FilasEnvolvente.h"
 #include "outputs/documentos/VariablesCalificacion.h"
 #include "outputs/documentos/VariablesEnvolventeHE.h"
+#include "outputs/documentos/VariablesEquipos.h"
 #include "outputs/documentos/VariablesEspacio.h"
 #include "outputs/documentos/VariablesIdentidad.h"
 #include "outputs/documentos/VariablesRenovables.h"
@@ -31,9 +33,13 @@ NOVEX_TO_MODELOCERTIFICADO ConstruirModelo(const CasoCalculado& caso,
 
   FilasCerramientos(caso, modelo);
   FilasHuecos(*caso.edificio, modelo);
-  if (datos.tipo == TipoDocumento::HE) FilasPuentes(caso.edificio->GetConstruccion(), modelo);
+  const bool verifica = datos.tipo == TipoDocumento::HE;
+  if (verifica) FilasPuentes(caso.edificio->GetConstruccion(), modelo);
   VariablesEspacio(caso, variables);
   VariablesAuxiliares(caso, variables);
+  VariablesEquipos(caso, verifica ? FormaRendimiento::Razon : FormaRendimiento::TantoPorCiento,
+                   modelo);
+  if (verifica) ListaConsumos(caso, modelo);
   return modelo;
 }
 

@@ -113,12 +113,13 @@ void VariablesIndicadores(const CasoCalculado& caso, std::vector<VBLE>& variable
   for (const VariablesDe& v : kIndicadoresDocumento) {
     if (residencial && EsDeIluminacion(v.indicador)) continue;
     const bool fuera = sinFrio && EsDeRefrigeracion(v.indicador);
-    variables.push_back(
-        {v.valor, fuera ? std::string(kSinLetra) : CifraDocumento(ValorIndicador(v.indicador, r))});
+    // Delante del valor: la marca "_EMI_CAL_CO2_" está también dentro de "_I_EMI_CAL_CO2_".
     if (v.indice != nullptr) variables.push_back({v.indice, Indice(v.indicador, r)});
     if (v.letra != nullptr)
       variables.push_back({v.letra, fuera ? std::string(kSinLetra)
                                           : r.escala.letra[static_cast<std::size_t>(v.indicador)]});
+    variables.push_back(
+        {v.valor, fuera ? std::string(kSinLetra) : CifraDocumento(ValorIndicador(v.indicador, r))});
   }
 }
 

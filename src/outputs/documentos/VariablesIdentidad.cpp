@@ -49,8 +49,9 @@ void VariablesIdentidad(const Edificio& edificio, std::string_view tipoCertifica
   poner("CP", g.CodigoPostal);
   poner("PROVINCIA", lugar.Provincia);
   poner("CA", ComunidadAutonomaDe(lugar.Provincia));
-  poner("ZC", lugar.ZonaClimatica);
+  // En este orden: la marca de la segunda está dentro de la de la primera.
   poner("ZC_", lugar.ZonaClimatica);
+  poner("ZC", lugar.ZonaClimatica);
   poner("ANOCONSTRUCCION", g.AnoConstruccion);
   // Los dos siguientes están en un solo campo en los ficheros antiguos.
   poner("NORM",

@@ -98,7 +98,8 @@ void VariablesImagenes(const CasoCalculado& caso, const ImagenesDocumento& image
   i.Poner("BLANCO.BMP", "blanco.bmp");
   i.Poner("ESCALA.BMP", "escala.bmp");
   CasillasEdificio(g, i);
-  CasillasIntervencion(SinBlancosFinales(g.Reforma), i);
+  // Una obra nueva guarda la última intervención elegida, que no es suya.
+  CasillasIntervencion(g.Modo_trabajo == "Nuevo" ? "" : SinBlancosFinales(g.Reforma), i);
   const bool sinFrio = SinRefrigeracionCalificada(*caso.edificio);
   const auto flecha = [&](const char* nombre, Indicador indicador) {
     const bool fuera = sinFrio && indicador == Indicador::DemandaRefrigeracion;

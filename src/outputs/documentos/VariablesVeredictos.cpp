@@ -1,5 +1,6 @@
 #include "outputs/documentos/VariablesVeredictos.h"
 
+#include <array>
 #include <initializer_list>
 
 #include "compliance/Requisitos.h"
@@ -105,6 +106,19 @@ void Demandas(const ResultadosCaso& r, Grupo& v) {
   fila("DREF", "DREFLIM", "DREFSINO", r.demandaRefrigeracion, r.limites.demandaRefrigeracion);
 }
 
+// Potencia y eficiencia de la iluminación; en residencial no se aplican.
+void Iluminacion(const RequisitoHE3& he3, Grupo& v) {
+  constexpr std::array<std::array<const char*, 2>, 2> kNombres = {
+      {{"POTILULIM", "POTILUCUMPLE"}, {"VEEILIM", "VEEICUMPLE"}}};
+  for (std::size_t i = 0; i < kNombres.size(); ++i) {
+    const bool hay = he3.aplica && i < he3.veredictos.size();
+    const Veredicto* fila = hay ? &he3.veredictos[i] : nullptr;
+    v.Poner(kNombres[i][0],
+            hay ? CifraDocumento(static_cast<float>(fila->limite.value_or(0))) : std::string());
+    v.Poner(kNombres[i][1], hay ? TextoHtml(fila->veredicto) : std::string(kNoAplicable));
+  }
+}
+
 }  // namespace
 
 std::string TextoRecuperador(const DatosGenerales& generales) {
@@ -130,6 +144,7 @@ void VariablesVeredictos(const CasoCalculado& caso, const VerificacionHE& verifi
   HorasFuera(r, he0, v);
   Envolvente(r, verificacion, he1, v);
   Demandas(r, v);
+  Iluminacion(verificacion.he3, v);
   v.Poner("RERACSNRB", TextoHtml(verificacion.he4.RERACSNRB));
   v.Poner("RERACSNRBMIN", TextoHtml(verificacion.he4.RERACSNRBMIN));
   v.Poner("RERACSCUMPLE", TextoHtml(verificacion.he4.RERACSCUMPLE));

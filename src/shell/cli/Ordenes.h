@@ -43,6 +43,8 @@ void AnadirExportar(CLI::App& programa, Orden& orden);
 void AnadirBateria(CLI::App& programa, Orden& orden);
 /// `verificar`: verifica el DB-HE en los casos de un proyecto.
 void AnadirVerificar(CLI::App& programa, Orden& orden);
+/// `certificado`: escribe el certificado o la verificación de un caso.
+void AnadirCertificado(CLI::App& programa, Orden& orden);
 
 struct SitioPedido;
 /// Añade a una orden las opciones del lugar del edificio.

@@ -70,6 +70,7 @@ int Ejecutar(int argc, char** argv) {
   AnadirClima(programa, orden);
   AnadirVerificar(programa, orden);
   AnadirMejoras(programa, orden);
+  AnadirCertificado(programa, orden);
   AnadirBateria(programa, orden);
   AnadirExportar(programa, orden);
   AnadirExpres(programa, orden);
