@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include "base/FicheroSeguro.h"
 #include "demand/GeneradorClima.h"
@@ -106,6 +107,50 @@ TEST_F(Ordenes, CalcularTodosLosCasosOUno) {
   const Ejecucion otra = Calcular(proyecto, {"--caso", "Mejora_2"});
   EXPECT_EQ(otra.codigo, 2);
   EXPECT_TRUE(Contiene(otra.errores, "tiene: Viejo, Mejora_1"));
+}
+
+// Los bloques de resultados no son datos: no cambian lo que se vuelve a calcular, y un guardado sin
+// cálculo los deja fuera y conserva todo lo demás.
+TEST_F(Ordenes, GuardarConResultadosSoloAnadeResultados) {
+  const std::string proyecto = Proyecto("D3", 100, 1);
+  const std::string guardado = (raiz / "con.xml").string();
+  const Ejecucion primera = Calcular(proyecto, {"--json", "-", "--guardar", guardado});
+  ASSERT_EQ(primera.codigo, 0) << primera.errores;
+  const std::string con = LeerFichero(guardado);
+  for (const char* bloque : {"<Sistemas>", "<ResultadosBalance>", "<OtrosIndicadores>"})
+    EXPECT_EQ(con.find(bloque), con.rfind(bloque)) << bloque;
+  EXPECT_TRUE(Contiene(con, "<MedidaMejora>"));
+  EXPECT_NE(con.find("<ACSTotalProducido_1 "), con.rfind("<ACSTotalProducido_1 "));  // dos casos
+
+  const Ejecucion segunda = Calcular(guardado, {"--json", "-"});
+  const auto desde = [](const std::string& json) { return json.substr(json.find("\"casos\"")); };
+  EXPECT_EQ(desde(segunda.salida), desde(primera.salida));
+
+  const auto cambiar = [&](const std::string& de, const char* a) {
+    const std::string ruta = (raiz / a).string();
+    const Ejecucion e = Ejecutar(
+        {"cambiar", de, "Direccion=Otra", "--guardar", ruta, "--programa", programa().string()});
+    EXPECT_EQ(e.codigo, 0) << e.errores;
+    return LeerFichero(ruta);
+  };
+  const std::string sin = cambiar(guardado, "sin.xml");
+  for (const char* resultado : {"<Sistemas>", "<Indicadores>", "<ACSTotalProducido_1 "})
+    EXPECT_FALSE(Contiene(sin, resultado)) << resultado;
+  // Lo que pone el cálculo es la latitud del clima y la superficie que sirve cada sistema.
+  const auto sinCalculados = [](const std::string& texto) {
+    std::string salida;
+    std::istringstream lineas(texto);
+    for (std::string linea; std::getline(lineas, linea);)
+      if (!Contiene(linea, "<latitud ") && !Contiene(linea, "<Sup_")) salida += linea + "\n";
+    return salida;
+  };
+  EXPECT_EQ(sinCalculados(sin), sinCalculados(cambiar(proyecto, "original.xml")));
+
+  // Con solo una mejora calculada no hay bloques, que son de la base; y no se pisa el proyecto.
+  Calcular(proyecto, {"--caso", "Mejora_1", "--guardar", guardado});
+  EXPECT_FALSE(Contiene(LeerFichero(guardado), "<Sistemas>"));
+  EXPECT_TRUE(Contiene(LeerFichero(guardado), "<ACSTotalProducido_1 "));
+  EXPECT_EQ(Calcular(proyecto, {"--guardar", proyecto}).codigo, 2);
 }
 
 TEST_F(Ordenes, LaOrdenMalEscritaSaleCon2) {

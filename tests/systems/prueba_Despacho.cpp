@@ -63,7 +63,7 @@ const std::vector<Oferta> kOferta = {
      {"1 BC aire-agua", "Rend. estacional conocido"}}};
 
 struct Semanas {
-  CargasHora dado{}, consumo{}, pedido{}, defecto{};
+  CargasHora dado{}, consumo{}, pedido{}, defecto{}, ambiente{}, auxiliares{};
 };
 
 // Una semana de enero y otra de julio de los sistemas del caso.
@@ -82,8 +82,15 @@ Semanas CorrerSemanas(CasoSistemas& c) {
     for (std::size_t k = 0; k < kServiciosDemanda; ++k) {
       s.dado[k] += b.dado[0][k] + b.dado[1][k];
       s.consumo[k] += b.consumo[0][k] + b.consumo[1][k];
+      s.ambiente[k] += b.ambiente[k];
+      s.auxiliares[k] += b.auxiliares[k];
     }
   return s;
+}
+
+float DelAno(TablaMensual tabla) {
+  SumarAno(tabla);
+  return tabla[0];
 }
 
 Instalaciones BloqueDeOferta(const std::string& tipo, const std::string& seleccion,
@@ -120,6 +127,10 @@ TEST(Despacho, TodasLasCasillas) {
           EXPECT_EQ(s.dado[k] > 0.2F * s.pedido[k], da[k]) << k;
           EXPECT_EQ(s.dado[k] > 0.0F, da[k]) << k;
           EXPECT_EQ(s.consumo[k] > 0.0F, da[k]) << k;
+          // Lo que se guarda por bloques es lo mismo que va a los meses.
+          const TablasMensuales& m = c.caso->meses;
+          EXPECT_NEAR(s.ambiente[k], DelAno(m.ambiente[k]), 1e-3F) << k;
+          EXPECT_NEAR(s.auxiliares[k], DelAno(m.bombas[k]) + DelAno(m.ventiladores[k]), 1e-3F) << k;
           // El agua caliente lleva además lo que pierden y guardan los depósitos.
           if (k != kACS || !da[k]) {
             EXPECT_NEAR(s.dado[k] + s.defecto[k], s.pedido[k], 1e-3 * s.pedido[k]) << k;

@@ -16,7 +16,6 @@ using Consumos = std::vector<ConsumoServicio>;
 constexpr const char* kInstalacionSolar = "Inst.solar termica";
 constexpr const char* kEquipoVentilacion = "EQUIPO EXCLUSIVO VENTILACION";
 constexpr std::array kOrden = {kCalefaccion, kACS, kRefrigeracion};
-constexpr std::array<const char*, kServicios> kTextoServicio = {"ACS", "CAL", "REF", "VEN", "ILU"};
 
 // Suma a la fila del mismo vector, servicio y generador, o la empieza. \param desde primera fila
 // del bloque
@@ -73,7 +72,7 @@ std::vector<ConsumoServicio> ConsumosDeCaso(const CasoCalculado& caso) {
 void ListaConsumos(const CasoCalculado& caso, NOVEX_TO_MODELOCERTIFICADO& modelo) {
   for (const ConsumoServicio& c : ConsumosDeCaso(caso))
     modelo.consumos.push_back({std::string(TextoCertificado(c.vector)), TextoHtml(c.generador),
-                               kTextoServicio[c.servicio], CifraDocumento(c.energia)});
+                               std::string(SiglaServicio(c.servicio)), CifraDocumento(c.energia)});
 }
 
 }  // namespace novex

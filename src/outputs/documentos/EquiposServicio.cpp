@@ -1,6 +1,7 @@
 #include "outputs/documentos/EquiposServicio.h"
 
-#include "base/Texto.h"
+#include <array>
+
 #include "rating/EquipoDefecto.h"
 #include "systems/GeneradorPreparado.h"
 
@@ -117,6 +118,11 @@ GeneradorServicio Sustitucion(const calculo& caso, Servicio servicio, bool resid
 }
 
 }  // namespace
+
+std::string_view SiglaServicio(std::size_t servicio) {
+  constexpr std::array<std::string_view, kServicios> kSiglas = {"ACS", "CAL", "REF", "VEN", "ILU"};
+  return kSiglas.at(servicio);
+}
 
 std::string GeneradorServicio::Etiqueta() const {
   return sustitucion ? clase : std::to_string(equipos) + "x) " + clase;

@@ -2,11 +2,15 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "outputs/CasoCalculado.h"
 
 namespace novex {
+
+/// Nombre corto de un servicio en los documentos: "ACS", "CAL", "REF", "VEN" o "ILU".
+std::string_view SiglaServicio(std::size_t servicio);
 
 /// Un generador que da un servicio, con lo que ha hecho en el año. Son valores: cada salida les da
 /// su forma.

@@ -34,17 +34,18 @@ EQUIPO Fila(const GeneradorServicio& g, FormaRendimiento forma) {
   fila.generador = TextoHtml(g.Etiqueta());
   fila.rendimientoNominal = TextoRendimiento(g.rendimientoNominal, forma);
   if (g.vector) fila.vector = kNombreVector[Indice(*g.vector)];
-  if (g.sustitucion) {
-    fila.rendimientoEstacional = kPorDefecto;
-    return fila;
-  }
-  fila.potencia = CifraDocumento(g.potencia);
-  fila.rendimientoEstacional =
-      g.rendimientoEstacional ? TextoRendimiento(*g.rendimientoEstacional, forma) : kDelUsuario;
+  if (!g.sustitucion) fila.potencia = CifraDocumento(g.potencia);
+  fila.rendimientoEstacional = TextoRendimientoEstacional(g, forma);
   return fila;
 }
 
 }  // namespace
+
+std::string TextoRendimientoEstacional(const GeneradorServicio& generador, FormaRendimiento forma) {
+  if (generador.sustitucion) return kPorDefecto;
+  if (!generador.rendimientoEstacional) return kDelUsuario;
+  return TextoRendimiento(*generador.rendimientoEstacional, forma);
+}
 
 void VariablesEquipos(const CasoCalculado& caso, FormaRendimiento forma,
                       NOVEX_TO_MODELOCERTIFICADO& modelo) {

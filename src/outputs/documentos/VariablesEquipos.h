@@ -10,6 +10,10 @@ namespace novex {
 /// certificado, en tanto por ciento.
 enum class FormaRendimiento { Razon, TantoPorCiento };
 
+/// El rendimiento del año de un generador: "Definido por usuario" si no lo tiene, y "Definido por
+/// defecto" el del equipo por defecto.
+std::string TextoRendimientoEstacional(const GeneradorServicio& generador, FormaRendimiento forma);
+
 /// Llena las tres listas de equipos del modelo y añade las variables de la potencia de cada
 /// servicio: `TOTALPOTACS`, `POTNOMACS` y las demás, en kW. \param caso ya plegado
 void VariablesEquipos(const CasoCalculado& caso, FormaRendimiento forma,

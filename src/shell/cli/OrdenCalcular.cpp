@@ -3,10 +3,12 @@
 
 #include "base/FicheroSeguro.h"
 #include "base/Parecidos.h"
+#include "files/ProyectoFichero.h"
 #include "outputs/JsonResultados.h"
 #include "outputs/SeriesHorarias.h"
 #include "outputs/TablaResultados.h"
 #include "outputs/TablasPorNombre.h"
+#include "outputs/bloques/DerivadosDeResultados.h"
 #include "shell/cli/AbrirProyectoConsola.h"
 #include "shell/cli/CalculoConsola.h"
 #include "shell/cli/Ordenes.h"
@@ -15,7 +17,7 @@ namespace novex::cli {
 namespace {
 
 struct OpcionesCalcular {
-  std::string proyecto, caso, json, series, programa;
+  std::string proyecto, caso, json, series, guardar, programa;
   std::vector<std::string> tablas;
   bool ficherosDeCaso = false;
   bool sinComprobar = false;
@@ -69,7 +71,8 @@ void Ensenar(const OpcionesCalcular& opciones, const std::vector<CasoCalculado>&
 
 // Un descuido al teclear no ha de costar el proyecto.
 void NoPisarProyecto(const OpcionesCalcular& opciones) {
-  for (const std::string& salida : {opciones.json, opciones.series}) {
+  const auto guardado = opciones.guardar.empty() ? "" : RutaDeGuardado(opciones.guardar).string();
+  for (const std::string& salida : {opciones.json, opciones.series, guardado}) {
     std::error_code error;
     if (!salida.empty() && std::filesystem::equivalent(salida, opciones.proyecto, error))
       throw ErrorUso("Los resultados se escribirían encima del proyecto \"" + salida + "\"");
@@ -110,6 +113,9 @@ int Calcular(const OpcionesCalcular& opciones) {
     for (const CasoCalculado& caso : casos)
       EscribirFichero(FicheroSeries(opciones.series, caso, casos.size()),
                       CsvSeries(*caso.resultado));
+  if (!opciones.guardar.empty())
+    GuardarProyecto(gestor, opciones.guardar,
+                    DerivadosDeResultados(todos, LeerDocumentosHE(ficheros.Espacio().Datos())));
   if (opciones.json == kSalidaEstandar) {
     EscribirSalida(JsonResultados(nombre, casos));
     return kHecho;
@@ -143,6 +149,10 @@ void AnadirCalcular(CLI::App& programa, Orden& orden) {
                    "Enseña esa tabla en lugar de las corrientes; se puede repetir. Un nombre que "
                    "no existe da los que se parecen")
       ->type_name("NOMBRE");
+  calcular
+      ->add_option("--guardar", o->guardar,
+                   "Guarda el proyecto en otro fichero con los bloques de resultados")
+      ->type_name("FICHERO.xml");
   calcular->add_flag("--ficheros-de-caso", o->ficherosDeCaso,
                      "Deja los ficheros de caso en la carpeta de datos del programa");
   calcular
