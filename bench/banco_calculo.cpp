@@ -12,6 +12,7 @@
 #include "demand/Clima.h"
 #include "files/ProyectoFichero.h"
 #include "rating/Plegado.h"
+#include "shell/EmitirDocumento.h"
 
 namespace {
 
@@ -105,12 +106,26 @@ void CalculoEntero(benchmark::State& estado, const std::string& proyecto) {
   }
 }
 
+// El documento HTML de un caso ya calculado: verificación, modelo, relleno y escritura.
+void CertificadoHtml(benchmark::State& estado) {
+  Banco banco(kVivienda);
+  Entorno entorno = banco.Dar();
+  CalcularProyecto(banco.gestor, entorno);
+  PedidoDocumento pedido;
+  pedido.proyecto = "banco.xml";
+  pedido.pdf = false;
+  for (auto _ : estado)
+    benchmark::DoNotOptimize(
+        EmitirDocumento(banco.gestor, caso::kViejo, pedido, entorno).html.empty());
+}
+
 BENCHMARK(LeerProyecto);
 BENCHMARK(LeerFicheroDeClima);
 BENCHMARK(ClimaYRespuesta);
 BENCHMARK(Cargas);
 BENCHMARK(Pasada)->Arg(1)->Arg(2)->ArgName("pasada");
 BENCHMARK(Plegado);
+BENCHMARK(CertificadoHtml)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalculoEntero, vivienda, std::string(kVivienda))->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(CalculoEntero, bloque, std::string("bloque_B3.xml"))
     ->Unit(benchmark::kMillisecond);

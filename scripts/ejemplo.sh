@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Desde una máquina Debian recién instalada: instala lo que falta, compila y califica una vivienda.
+# Desde una máquina Debian recién instalada: instala lo que falta, compila, califica una vivienda y
+# escribe su certificado en HTML y PDF.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -26,5 +27,10 @@ compilar() {
 
 paso "preparar la máquina" scripts/preparar.sh
 paso "compilar" compilar
-# El código de salida es el del programa: 1 si el proyecto no cumple algo, 3 si no se pudo calcular.
-build/release/novex-cli calcular data/proyectos/vivienda_unifamiliar_D3.xml
+proyecto=data/proyectos/vivienda_unifamiliar_D3.xml
+salida=build/ejemplo
+mkdir -p "$salida"
+build/release/novex-cli calcular "$proyecto"
+printf '\nCertificado:\n'
+# El código de salida es el del programa: 1 si el proyecto no cumple algo, 3 si no se pudo escribir.
+build/release/novex-cli certificado "$proyecto" --pdf --salida "$salida"

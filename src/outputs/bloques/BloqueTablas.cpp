@@ -1,5 +1,6 @@
 #include <map>
 
+#include "outputs/EnergiaRenovable.h"
 #include "outputs/bloques/Bloque.h"
 #include "outputs/bloques/BloquesResultados.h"
 #include "outputs/documentos/EquiposServicio.h"
@@ -11,27 +12,6 @@ using bloque::Grupo;
 using bloque::Hoja;
 using bloque::HojaCifra;
 using V = VectorEnergetico;
-
-double Anual(const ResultadosCaso& r, Servicio servicio, V vector) {
-  return static_cast<double>(r.servicio[servicio].finalPorVector[Indice(vector)][0]);
-}
-
-// Energía térmica renovable de un servicio en el año, kWh.
-struct Renovable {
-  double solar = 0, ambiente = 0, biomasa = 0, total = 0;
-  double Suma() const { return solar + ambiente + biomasa; }
-  double Parte(double de) const { return de > 0.0 ? 100.0 * Suma() / de : 0.0; }
-};
-
-Renovable RenovableDe(const ResultadosCaso& r, Servicio servicio) {
-  Renovable e;
-  e.solar = Anual(r, servicio, V::Energiasolartermica);
-  e.ambiente = Anual(r, servicio, V::MedioAmbiente);
-  e.biomasa = Anual(r, servicio, V::Biomasa_Pellet) + Anual(r, servicio, V::Biomasa_Otros);
-  for (const TablaMensual& tabla : r.servicio[servicio].finalPorVector)
-    e.total += static_cast<double>(tabla[0]);
-  return e;
-}
 
 bool TomaRenovable(const GeneradorServicio& g) {
   return g.bombaDeCalor || g.vector == V::Biomasa_Pellet || g.vector == V::Biomasa_Otros;
@@ -51,36 +31,36 @@ double PotenciaTermica(const CasoCalculado& caso) {
 
 NodoConservado Termica(const CasoCalculado& caso) {
   const ResultadosCaso& r = caso.resultado->resultados;
-  const Renovable cal = RenovableDe(r, kCalefaccion), ref = RenovableDe(r, kRefrigeracion),
-                  acs = RenovableDe(r, kACS);
-  const double energia = cal.Suma() + ref.Suma() + acs.Suma();
-  if (!(energia > 0.0)) return Grupo("Termica");
+  const OrigenesServicio cal = OrigenesDe(r, kCalefaccion), ref = OrigenesDe(r, kRefrigeracion),
+                         acs = OrigenesDe(r, kACS);
+  const float energia = cal.Termica() + ref.Termica() + acs.Termica();
+  if (!(energia > 0.0F)) return Grupo("Termica");
   std::string fuentes;
-  const auto anadir = [&fuentes](const char* fuente, double kWh) {
-    if (kWh > 0.0) fuentes += (fuentes.empty() ? "" : " + ") + std::string(fuente);
+  const auto anadir = [&fuentes](const char* fuente, float kWh) {
+    if (kWh > 0.0F) fuentes += (fuentes.empty() ? "" : " + ") + std::string(fuente);
   };
   anadir("Solar térmica", acs.solar);
   anadir("Medio ambiente", cal.ambiente + acs.ambiente);
   anadir("Biomasa", cal.biomasa + acs.biomasa);
-  const double demanda =
-      static_cast<double>(r.demandaACS * caso.edificio->GetRecinto(0).Suelo_habitable_m2);
+  const float demanda = r.demandaACS * caso.edificio->GetRecinto(0).Suelo_habitable_m2;
   return Grupo("Termica",
                {Grupo("Sistema",
                       {Hoja("Id", "TERMICA-1"), Hoja("Nombre", "Renovable térmica"),
                        Hoja("Tipo", fuentes), HojaCifra("PotenciaInstalada", PotenciaTermica(caso)),
                        HojaCifra("EnergiaGenerada", energia),
-                       HojaCifra("CoberturaConsumoFinalCal", cal.Parte(cal.total)),
-                       HojaCifra("CoberturaConsumoFinalRef", ref.Parte(ref.total)),
-                       HojaCifra("CoberturaConsumoFinalAcs", acs.Parte(acs.total)),
-                       HojaCifra("CoberturaDemandaAcs", acs.Parte(demanda))})});
+                       HojaCifra("CoberturaConsumoFinalCal", Porciento(cal.Termica(), cal.total)),
+                       HojaCifra("CoberturaConsumoFinalRef", Porciento(ref.Termica(), ref.total)),
+                       HojaCifra("CoberturaConsumoFinalAcs", Porciento(acs.Termica(), acs.total)),
+                       HojaCifra("CoberturaDemandaAcs", Porciento(acs.Termica(), demanda))})});
 }
 
 NodoConservado Electrica(const CasoCalculado& caso) {
-  double kW = 0, autoconsumida = 0;
+  double kW = 0;
+  float autoconsumida = 0;
   for (const float pico : caso.edificio->GetDatosGenerales().PotPico_FV)
     kW += static_cast<double>(pico);
-  for (const IndicadoresServicio& s : caso.resultado->resultados.servicio)
-    autoconsumida += static_cast<double>(s.finalPorVector[Indice(V::Energiasolarfotovoltaica)][0]);
+  for (std::size_t s = 0; s < kServicios; ++s)
+    autoconsumida += OrigenesDe(caso.resultado->resultados, static_cast<Servicio>(s)).fotovoltaica;
   const float generada = caso.resultado->meses.produccionFotovoltaica[0];
   if (kW == 0.0 && generada == 0.0F) return Grupo("Electrica");
   return Grupo("Electrica",
@@ -95,7 +75,7 @@ NodoConservado Electrica(const CasoCalculado& caso) {
 NodoConservado BloqueTablas(const CasoCalculado& caso) {
   const ResultadosCaso& r = caso.resultado->resultados;
   const float area = caso.edificio->GetRecinto(0).Suelo_habitable_m2;
-  const float otros = r.total[kEmisiones] - r.emisionesElectricidad;
+  const float otros = EmisionesNoElectricas(r);
   return Grupo("Tablas", {Grupo("EnergiasRenovables", {Termica(caso), Electrica(caso)}),
                           Grupo("DesgloseEmisiones",
                                 {HojaCifra("ConsumoElectrico", r.emisionesElectricidad),

@@ -2,33 +2,11 @@
 
 #include <numeric>
 
+#include "outputs/EnergiaRenovable.h"
 #include "outputs/documentos/VariablesCalificacion.h"
 
 namespace novex {
 namespace {
-
-using enum VectorEnergetico;
-
-// Energía final de un servicio en el año por su origen, kWh.
-struct OrigenesServicio {
-  float total = 0, biomasa = 0, ambiente = 0, solar = 0, fotovoltaica = 0;
-};
-
-OrigenesServicio Origenes(const ResultadosCaso& r, Servicio servicio) {
-  const auto& vectores = r.servicio[servicio].finalPorVector;
-  const auto ano = [&](VectorEnergetico v) { return vectores[Indice(v)][0]; };
-  OrigenesServicio o;
-  for (std::size_t v = 0; v < kVectores; ++v) o.total += ano(static_cast<VectorEnergetico>(v));
-  o.biomasa = ano(Biomasa_Pellet) + ano(Biomasa_Otros);
-  o.ambiente = ano(MedioAmbiente);
-  o.solar = ano(Energiasolartermica);
-  o.fotovoltaica = ano(Energiasolarfotovoltaica);
-  return o;
-}
-
-float Porciento(float parte, float total) {
-  return total > 0.0F ? 100.0F * parte / total : 0.0F;
-}
 
 class Cifras {
  public:
@@ -46,8 +24,8 @@ class Cifras {
 void VariablesRenovables(const CasoCalculado& caso, std::vector<VBLE>& variables) {
   const ResultadosCaso& r = caso.resultado->resultados;
   const float superficie = caso.edificio->GetRecinto(0).Suelo_habitable_m2;
-  const OrigenesServicio calor = Origenes(r, kCalefaccion);
-  const OrigenesServicio agua = Origenes(r, kACS);
+  const OrigenesServicio calor = OrigenesDe(r, kCalefaccion);
+  const OrigenesServicio agua = OrigenesDe(r, kACS);
   Cifras poner(variables);
 
   const float biomasaCalor = Porciento(calor.biomasa, calor.total);
@@ -69,18 +47,14 @@ void VariablesRenovables(const CasoCalculado& caso, std::vector<VBLE>& variables
   filaACS(r.demandaACS * superficie, {"SOLARDEMACS", "BIODEMACS", "BCDEMACS", "TOTDEMACS"});
 
   float fotovoltaica = agua.fotovoltaica + calor.fotovoltaica +
-                       Origenes(r, kRefrigeracion).fotovoltaica +
-                       Origenes(r, kVentilacion).fotovoltaica;
+                       OrigenesDe(r, kRefrigeracion).fotovoltaica +
+                       OrigenesDe(r, kVentilacion).fotovoltaica;
   if (!caso.edificio->GetDatosGenerales().EsResidencial())
-    fotovoltaica += Origenes(r, kIluminacion).fotovoltaica;
+    fotovoltaica += OrigenesDe(r, kIluminacion).fotovoltaica;
   poner("FOTOVOLT", fotovoltaica);
   poner("TOTALFOTOVOLT", fotovoltaica);
 
-  // La suma de los servicios y no el total que se califica, que en las zonas sin refrigeración no
-  // la lleva: la electricidad sí.
-  float emisiones = 0;
-  for (const IndicadoresServicio& s : r.servicio) emisiones += s.porUnidad[kEmisiones][0];
-  const float otras = emisiones - r.emisionesElectricidad;
+  const float otras = EmisionesNoElectricas(r);
   poner("CO2ELECM2", r.emisionesElectricidad);
   poner("CO2ELEC", r.emisionesElectricidad * superficie);
   poner("CO2COMBM2", otras);
@@ -96,7 +70,7 @@ void VariablesFotovoltaica(const CasoCalculado& caso, NOVEX_TO_MODELOCERTIFICADO
   }
   modelo.variables.push_back({"POTENCIARENOVABLE", CifraDocumento(potencia)});
   const auto fila = [&](const char* texto, Servicio servicio) {
-    const float energia = Origenes(caso.resultado->resultados, servicio).fotovoltaica;
+    const float energia = OrigenesDe(caso.resultado->resultados, servicio).fotovoltaica;
     modelo.producciones.push_back(
         {texto, "ELECTRICIDAD", "Fotovoltaica insitu", CifraDocumento(energia)});
   };

@@ -147,6 +147,7 @@ TEST_F(Bloque, LosIndicadoresYSusLetras) {
   ResultadosCaso& r = caso.Resultados();
   r.demandaCalefaccion = 30.126F;
   r.servicio[kCalefaccion].porUnidad[kEmisiones][0] = 2.5F;
+  r.servicio[kACS].porUnidad[kEmisiones][0] = 1.5F;
   r.total[kEmisiones] = 4;
   r.emisionesElectricidad = 1;
   for (auto& th : r.escala.th) th = {1, 2, 3, 4, 5, 6};
