@@ -16,9 +16,9 @@ namespace novex {
 namespace {
 
 bool PasaComprobaciones(const Edificio& edificio, Mensajes& mensajes) {
-  const std::string motivo = ComprobacionesPrevias(edificio);
-  if (!motivo.empty()) mensajes.Avisar("Valor incorrecto", motivo);
-  return motivo.empty();
+  const std::vector<Mensaje> avisos = AvisosPrevios(edificio);
+  for (const Mensaje& aviso : avisos) mensajes.Avisar(aviso.titulo, aviso.texto);
+  return avisos.empty();
 }
 
 bool Calculado(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno& entorno) {
