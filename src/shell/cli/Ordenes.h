@@ -45,6 +45,8 @@ void AnadirBateria(CLI::App& programa, Orden& orden);
 void AnadirVerificar(CLI::App& programa, Orden& orden);
 /// `certificado`: escribe el certificado o la verificación de un caso.
 void AnadirCertificado(CLI::App& programa, Orden& orden);
+/// `administracion`: escribe el informe de evaluación energética de un proyecto.
+void AnadirAdministracion(CLI::App& programa, Orden& orden);
 
 struct SitioPedido;
 /// Añade a una orden las opciones del lugar del edificio.

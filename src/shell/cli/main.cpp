@@ -69,6 +69,7 @@ int Ejecutar(int argc, char** argv) {
   AnadirInfo(programa, orden);
   AnadirClima(programa, orden);
   AnadirVerificar(programa, orden);
+  AnadirAdministracion(programa, orden);
   AnadirMejoras(programa, orden);
   AnadirCertificado(programa, orden);
   AnadirBateria(programa, orden);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <vector>
+
+#include "files/xmlParser.h"
+#include "improvements/EstudioMejoras.h"
+
+namespace novex {
+
+/// Lo medido de las medidas de un caso.
+struct MejorasMedidas {
+  ResultadoMedida base;  ///< el caso como está
+  std::vector<ResultadoMedida> medidas;
+};
+
+/// Añade al informe las medidas de mejora, con su coste, sus notas, lo que resulta de cada una y lo
+/// que ahorra frente a la base. Sin medidas no añade nada. \param informe el elemento raíz
+void AnadirMejoras(XMLNode& informe, const Edificio& edificio, const MejorasMedidas& mejoras);
+
+/// Añade las visitas al edificio con su fecha y lo que se anotó en ellas.
+void AnadirVisitas(XMLNode& informe, const DatosGenerales& generales);
+
+}  // namespace novex
