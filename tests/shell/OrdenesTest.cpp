@@ -489,5 +489,38 @@ TEST_F(Ordenes, TablasYExportacionesPorSuNombre) {
   EXPECT_TRUE(Contiene(sitio.errores, "x.txt"));
 }
 
+TEST_F(Ordenes, AdministracionGuardaYEscribeElInforme) {
+  const auto administracion = [&](const fs::path& proyecto, std::vector<std::string> mas = {}) {
+    mas.insert(mas.begin(),
+               {"administracion", proyecto.string(), "--programa", programa().string()});
+    return Ejecutar(mas);
+  };
+  const Ejecucion falta = administracion(Proyecto());
+  EXPECT_EQ(falta.codigo, 1);
+  EXPECT_TRUE(Contiene(falta.errores, "AVISO: No se genera el fichero. Faltan datos generales"));
+
+  const fs::path ejemplo = fs::path(NOVEX_RAIZ_DATOS) / "proyectos/vivienda_unifamiliar_D3.xml";
+  const fs::path casa = raiz / "casa.xml", salida = raiz / "salida dada";
+  fs::copy(ejemplo, casa);
+  const std::string antes = LeerFichero(casa);
+  EXPECT_EQ(administracion(casa, {"--salida", salida.string()}).codigo, 2);
+  EXPECT_EQ(administracion(raiz / "no está.xml").codigo, 255);
+  fs::create_directory(salida);
+  const Ejecucion hecho = administracion(casa, {"--salida", salida.string()});
+  EXPECT_EQ(hecho.codigo, 0) << hecho.errores;
+  EXPECT_EQ(hecho.salida, (salida / "casa_certi.xml").string() + "\n");
+  EXPECT_TRUE(fs::exists(salida / "casa.xml"));
+  EXPECT_EQ(LeerFichero(casa), antes);
+  EXPECT_FALSE(fs::exists(raiz / "casa_certi.xml"));
+
+  EXPECT_EQ(administracion(casa).codigo, 0);
+  EXPECT_EQ(LeerFichero(raiz / "casa_certi.xml"), LeerFichero(salida / "casa_certi.xml"));
+  // Sin el clima de la zona no se puede calcular, y no se escribe nada.
+  fs::remove(programa() / "databaseCTE" / "ZonaD3.met");
+  fs::remove(raiz / "casa_certi.xml");
+  EXPECT_EQ(administracion(casa).codigo, 3);
+  EXPECT_FALSE(fs::exists(raiz / "casa_certi.xml"));
+}
+
 }  // namespace
 }  // namespace novex

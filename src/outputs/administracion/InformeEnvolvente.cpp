@@ -152,10 +152,12 @@ class Opacos {
   int filas_ = 0;
 };
 
-// Factor solar de cada clase de vidrio: quien lo ha dejado como está no lo ha medido.
+// Factor solar de cada clase de vidrio: quien lo ha dejado como está no lo ha medido. De un hueco
+// que es todo marco el vidrio no dice nada.
 const char* ModoHueco(const Huecos& g) {
   constexpr std::array<float, 5> kDeClase = {0.85F, 0.75F, 0.7F, 0.7F, 0.7F};
   constexpr float kIgual = 1e-4F;
+  if (g.Fraccion_marco_tanto_por_cien >= 100.0F) return kUsuario;
   const int clase = g.Indice_tipo_cristal;
   const bool deClase =
       clase >= 0 && clase < static_cast<int>(kDeClase.size()) &&
