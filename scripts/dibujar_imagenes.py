@@ -225,9 +225,9 @@ def Casilla(marcada):
 
 def Escala():
     """Siete barras que crecen de la A a la G."""
-    lienzo = Lienzo(360, FRANJA * BARRAS)
+    lienzo = Lienzo(480, FRANJA * BARRAS)
     for i, (letra, color) in enumerate(CLASES.items()):
-        fin, arriba, abajo = 150 + 34 * i, FRANJA * i + 5, FRANJA * (i + 1) - 5
+        fin, arriba, abajo = 196 + 46 * i, FRANJA * i + 5, FRANJA * (i + 1) - 5
         lienzo.Poligono([(0, arriba), (fin - 30, arriba), (fin, (arriba + abajo) / 2),
                          (fin - 30, abajo), (0, abajo)], color)
         LetraDeClase(lienzo, letra, fin - 56, arriba + 13, 34, 7.5)
