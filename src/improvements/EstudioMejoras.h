@@ -55,6 +55,12 @@ struct ResultadoMedida {
   bool operator==(const ResultadoMedida&) const = default;
 };
 
+/// Medidas de un estudio con la base de que parten.
+struct MejorasMedidas {
+  ResultadoMedida base;
+  std::vector<ResultadoMedida> medidas;  ///< las marcadas, por orden de código
+};
+
 /// El estudio de medidas de un caso. Prepara el caso una vez; cada medida se simula sobre una
 /// copia, así que el caso y sus resultados quedan como estaban.
 class EstudioMejoras {

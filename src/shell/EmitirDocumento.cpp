@@ -6,11 +6,11 @@
 #include "calculation/ComprobacionesPrevias.h"
 #include "calculation/EjecutarCalculo.h"
 #include "files/ImagenesProyecto.h"
-#include "improvements/EstudioMejoras.h"
 #include "outputs/documentos/ConstruirModelo.h"
 #include "outputs/documentos/ConversorPDF.h"
 #include "outputs/documentos/EscribirDocumento.h"
 #include "outputs/documentos/VariablesIdentidad.h"
+#include "shell/MejorasMarcadas.h"
 
 namespace novex {
 namespace {
@@ -26,21 +26,6 @@ bool Calculado(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno& e
   const bool hecho = edificio.GetCalculo() && edificio.GetCalculo()->Calculado();
   if (!hecho && !CalcularCaso(gestor, nombreCaso, entorno)) return false;
   return !edificio.GetCalculo()->resultados.depositoNulo;
-}
-
-// Las medidas marcadas del caso. Con más de las que caben no se mide ninguna.
-MejorasMedidas MedirMarcadas(GestorEdifActivo& gestor, std::string_view nombreCaso, unsigned hilos,
-                             Entorno& entorno) {
-  const EstudioModificaciones& estudio = gestor.Caso(nombreCaso)->GetEstudioModificaciones();
-  const std::vector<int> codigos = CodigosMarcados(estudio);
-  if (codigos.empty()) return {};
-  if (const auto aviso = AvisoMarcas(estudio)) {
-    entorno.mensajes.Avisar(aviso->titulo, aviso->texto);
-    return {};
-  }
-  const auto preparado = EstudioMejoras::Preparar(gestor, nombreCaso, entorno);
-  if (!preparado) return {};
-  return {preparado->Base(), preparado->Medir(codigos, hilos)};
 }
 
 bool HayImagen(const std::shared_ptr<const std::string>& imagen) {
@@ -88,8 +73,9 @@ DocumentoEmitido EmitirDocumento(GestorEdifActivo& gestor, std::string_view nomb
   if (!PasaComprobaciones(edificio, entorno.mensajes)) return {Emision::Rechazada, {}, {}};
   if (!Calculado(gestor, nombreCaso, entorno)) return {Emision::SinCalculo, {}, {}};
   const bool certificado = pedido.tipo == TipoDocumento::Certi;
-  const MejorasMedidas mejoras =
-      certificado ? MedirMarcadas(gestor, nombreCaso, pedido.hilos, entorno) : MejorasMedidas();
+  const auto mejoras = certificado ? MedirMarcadas(gestor, nombreCaso, pedido.hilos, entorno)
+                                   : std::optional(MejorasMedidas());
+  if (!mejoras) return {Emision::SinCalculo, {}, {}};
 
   const CasoCalculado caso = {std::string(nombreCaso), &edificio, edificio.GetCalculo().get(), {}};
   DatosDocumento datos;
@@ -112,7 +98,7 @@ DocumentoEmitido EmitirDocumento(GestorEdifActivo& gestor, std::string_view nomb
   const bool residencial = edificio.GetDatosGenerales().EsResidencial();
   const std::filesystem::path html = NombreDocumento(pedido.proyecto, pedido.tipo, pedido.carpeta);
   if (!EscribirDocumento(PlantillasDe(espacio.Datos(), pedido.tipo, residencial), html,
-                         ConstruirModelo(caso, verificacion, mejoras, datos), entorno.mensajes))
+                         ConstruirModelo(caso, verificacion, *mejoras, datos), entorno.mensajes))
     return {Emision::SinHtml, {}, {}};
   hecho.html = html;
   if (pedido.pdf && !EscribirPdf(edificio, espacio, hecho, entorno.mensajes))

@@ -4,7 +4,6 @@
 #include <functional>
 
 #include "calculation/Entorno.h"
-#include "files/DatosDerivados.h"
 #include "files/xmlParser.h"
 #include "model/GestorEdifActivo.h"
 
@@ -15,9 +14,7 @@ struct PedidoAdministracion {
   std::filesystem::path proyecto;  ///< con qué nombre se guarda
   /// ¿Lo ha elegido el usuario ahora? Solo cambia el aviso final.
   bool nombreElegido = false;
-  // Lo que lleva el guardado corriente.
-  DatosDerivados derivados;
-  ModoCodificacion codificacion;
+  ModoCodificacion codificacion;  ///< la del fichero abierto
   /// Otro programa que hace el informe con el proyecto ya guardado; nulo, se hace aquí. Devuelve si
   /// se ha encargado de ello: si no, se hace aquí.
   std::function<bool(const std::filesystem::path& proyecto, const std::filesystem::path& informe)>

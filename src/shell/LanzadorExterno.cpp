@@ -23,6 +23,10 @@ fs::path Encontrar(const fs::path& carpeta, std::string_view nombre) {
 
 }  // namespace
 
+bool HayExterno(const EspacioTrabajo& espacio, std::string_view nombre) {
+  return !Encontrar(espacio.programa, nombre).empty();
+}
+
 bool LanzarExterno(const EspacioTrabajo& espacio, std::string_view nombre,
                    const std::vector<std::string>& argumentos, Mensajes& mensajes) {
   const std::string texto(nombre);

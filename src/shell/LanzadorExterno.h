@@ -17,6 +17,9 @@ inline constexpr std::string_view kImpreso = "xml2cert";  ///< impreso del certi
 inline constexpr std::string_view kInspeccion = "iEPB_Novex";  ///< inspección de la comunidad
 }  // namespace programaExterno
 
+/// ¿Está ese programa en la carpeta de programa?
+bool HayExterno(const EspacioTrabajo& espacio, std::string_view nombre);
+
 /// Arranca un programa de la carpeta de programa, que es también su carpeta de trabajo, y no lo
 /// espera. Se busca con su nombre y con ".exe".
 /// \returns false, con su aviso, si no está o no se puede arrancar

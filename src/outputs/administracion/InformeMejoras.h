@@ -7,12 +7,6 @@
 
 namespace novex {
 
-/// Lo medido de las medidas de un caso.
-struct MejorasMedidas {
-  ResultadoMedida base;  ///< el caso como está
-  std::vector<ResultadoMedida> medidas;
-};
-
 /// Añade al informe las medidas de mejora, con su coste, sus notas, lo que resulta de cada una y lo
 /// que ahorra frente a la base. Sin medidas no añade nada. \param informe el elemento raíz
 void AnadirMejoras(XMLNode& informe, const Edificio& edificio, const MejorasMedidas& mejoras);

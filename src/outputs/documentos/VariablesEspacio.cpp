@@ -41,13 +41,13 @@ std::string_view ControlAire(const DatosGenerales& g) {
   return "Ventilacion fijada en coef, operacionales";
 }
 
-// Sin unidad de aire sus variables son un guion.
+// Sin unidad de aire sus variables están vacías: la plantilla esconde entonces su tabla.
 void SinUnidadDeAire(const char* motivo, Textos& poner) {
   poner("SISTEMASSECUNDARIOS", motivo);
   for (const char* nombre :
        {"NOMBRESECUNDARIO", "TIPOSECUNDARIO", "ZONASECUNDARIO", "POTCALSEC", "POTFRIOSEC",
         "RENDCALSEC", "RENDFRIOSEC", "ENFGRATUITO", "ENFEVAP", "RECEENE", "CONTROLSEC"})
-    poner(nombre, kNada);
+    poner(nombre, "");
 }
 
 // La unidad no produce calor ni frío: lo recupera. Sus potencias son 0, y su rendimiento, el del
@@ -120,7 +120,7 @@ void VariablesAuxiliares(const CasoCalculado& caso, std::vector<VBLE>& variables
 
   poner("TORREREFRIGERACION", g.EsResidencial() ? kSoloTerciario : kNoExisten);
   for (const char* nombre : {"NOMBRETORRE", "TIPOTORRE", "SERVICIOTORRE", "CONSUMOTORRE"})
-    poner(nombre, kNada);
+    poner(nombre, "");
   const AjustesUso ajustes = ResolverAjustes(*caso.edificio);
   if (g.EsResidencial())
     SinUnidadDeAire(kSoloTerciario, poner);

@@ -19,12 +19,6 @@ enum class ClaseValor {
 /// Una cifra de una medida frente a la de la base.
 float ValorMejora(const ResultadoMedida& medida, CifraMedida cifra, ClaseValor clase, float base);
 
-/// Medidas de un estudio con la base de que parten.
-struct MejorasMedidas {
-  ResultadoMedida base;
-  std::vector<ResultadoMedida> medidas;  ///< las marcadas, por orden de código
-};
-
 /// Añade al modelo una hoja por medida: cifras, letras, diferencias con la base, coste, notas,
 /// escalas y flechas. \param carpetaImagenes la de imágenes del programa
 void FilasMejoras(const CasoCalculado& caso, const MejorasMedidas& mejoras,

@@ -2,6 +2,7 @@
 
 #include "files/ProyectoFichero.h"
 #include "shell/FicheroAdministracion.h"
+#include "shell/LanzadorExterno.h"
 #include "shell/cli/AbrirProyectoConsola.h"
 #include "shell/cli/Ordenes.h"
 
@@ -27,6 +28,12 @@ int Administracion(const OpcionesAdministracion& o) {
     pedido.proyecto = std::filesystem::path(o.salida) / pedido.proyecto.filename();
     pedido.nombreElegido = true;
   }
+  // El programa ajeno que hace el informe, si está, va delante del propio.
+  pedido.convertidor = [&](const std::filesystem::path& guardado, const std::filesystem::path&) {
+    if (!HayExterno(ficheros.Espacio(), programaExterno::kConvertidor)) return false;
+    LanzarFicheroAdministracion(ficheros.Espacio(), guardado, mensajes);
+    return true;
+  };
   const EscrituraAdministracion escritura = EscribirFicheroAdministracion(gestor, pedido, entorno);
   switch (escritura.fin) {
     case FinAdministracion::Rechazado:
