@@ -11,6 +11,8 @@ namespace {
 constexpr std::string_view kCaso = "Novex";
 constexpr std::string_view kUsoPorDefecto = "Residencial";
 
+}  // namespace
+
 RegistrosCaso SacarRegistros(const Edificio& edificio) {
   RegistrosCaso r;
   r.generales = edificio.GetDatosGenerales();
@@ -36,8 +38,6 @@ void GuardarRegistros(RegistrosCaso r, Edificio& edificio) {
   edificio.GetRecinto(0) = std::move(r.recinto);
   for (std::size_t i = 0; i < kRanuras; ++i) edificio.GetComposicion(i).U = r.U[i];
 }
-
-}  // namespace
 
 bool LeerCaso(const XMLNode& novex, Edificio& edificio, Mensajes& mensajes) {
   RegistrosCaso r = SacarRegistros(edificio);

@@ -81,4 +81,11 @@ void EscribirCubiertas(XMLNode& novex, RegistrosCaso& r) {
   EscribirTipos(cubiertas, kGrupoOtras, "CubiertaOtras", kOtra, r, 2);
 }
 
+void AnadirTablasCubiertas(std::vector<TablaCampos>& tablas) {
+  tablas.push_back({"", kColor, 1});
+  tablas.push_back({"CubiertaHz", kHorizontal, 3});
+  tablas.push_back({"CubiertaIncl", kInclinada, 3});
+  tablas.push_back({"CubiertaOtras", kOtra, 2});
+}
+
 }  // namespace novex

@@ -116,4 +116,11 @@ void EscribirDefinicion(XMLNode& novex, RegistrosCaso& r) {
   EscribirCampos<R>(intervenciones, kCamposIntervenciones, r);
 }
 
+void AnadirTablasDefinicion(std::vector<TablaCampos>& tablas) {
+  tablas.push_back({"", kVisitas, 1});
+  tablas.push_back({"", kCamposCondiciones, 1});
+  tablas.push_back({"", kEconomia, 1});
+  tablas.push_back({"", kCamposIntervenciones, 1});
+}
+
 }  // namespace novex

@@ -213,4 +213,14 @@ void EscribirCertificado(XMLNode& novex, const RegistrosCaso& r) {
   AnadirTexto(certificador, "Titulacion", d.Certificador_Profesion);
 }
 
+void AnadirTablasGenerales(std::vector<TablaCampos>& tablas) {
+  tablas.push_back({"", kHastaAlcance, 1});
+  tablas.push_back({"", kDireccion, 1});
+  tablas.push_back({"", kCodigoPostal, 1});
+  tablas.push_back({"", kRegistro, 1});
+  tablas.push_back({"", kNormativa, 1});
+  tablas.push_back({"", kSitioYCertificador, 1});
+  tablas.push_back({"", kCamposObstaculos, 1});
+}
+
 }  // namespace novex

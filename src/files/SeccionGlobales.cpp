@@ -108,4 +108,12 @@ void EscribirGlobales(XMLNode& novex, RegistrosCaso& r, const Edificio& edificio
   EscribirModelo(globales, r, edificio);
 }
 
+void AnadirTablasGlobales(std::vector<TablaCampos>& tablas) {
+  tablas.push_back({"", kGlobales, 1});
+}
+
+std::span<const Campo<TipologiaVivienda>> CamposDeTipologia() {
+  return kCamposTipologia;
+}
+
 }  // namespace novex

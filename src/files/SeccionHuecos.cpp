@@ -129,4 +129,8 @@ void EscribirHuecos(XMLNode& novex, const Edificio& edificio) {
   }
 }
 
+std::span<const Campo<Huecos>> CamposDeHuecos() {
+  return kCampos;
+}
+
 }  // namespace novex

@@ -126,4 +126,8 @@ void EscribirInstalaciones(XMLNode& novex, RegistrosCaso& r, const Edificio& edi
   EscribirSistemas(instalaciones, r.derivados, edificio);
 }
 
+void AnadirTablasInstalaciones(std::vector<TablaCampos>& tablas) {
+  tablas.push_back({"", kCampos, 1});
+}
+
 }  // namespace novex

@@ -71,4 +71,10 @@ void EscribirMuros(XMLNode& novex, RegistrosCaso& r) {
   EscribirTipos(muros, kGrupoOtros, "Muro_otro", kOtro, r, 2);
 }
 
+void AnadirTablasMuros(std::vector<TablaCampos>& tablas) {
+  tablas.push_back({"", kColor, 1});
+  tablas.push_back({"MuroExt", kExterior, 5});
+  tablas.push_back({"Muro_otro", kOtro, 2});
+}
+
 }  // namespace novex

@@ -65,4 +65,8 @@ void EscribirPuentes(XMLNode& novex, RegistrosCaso& r) {
   EscribirCampos<R>(puentes, kCamposPuentes, r);
 }
 
+void AnadirTablasPuentes(std::vector<TablaCampos>& tablas) {
+  tablas.push_back({"", kCamposPuentes, 1});
+}
+
 }  // namespace novex

@@ -252,4 +252,12 @@ void EscribirSistemas(XMLNode& instalaciones, const X& derivados, const Edificio
   }
 }
 
+std::span<const Campo<SistemaResidencial>> CamposDeSistema() {
+  return kCamposSistema;
+}
+
+std::span<const Campo<Instalaciones>> CamposDeGenerador() {
+  return kCamposGenerador;
+}
+
 }  // namespace novex

@@ -68,4 +68,9 @@ void EscribirSuelos(XMLNode& novex, RegistrosCaso& r) {
   EscribirTipos(suelos, kGrupoOtros, "Suelo_otro", kOtro, r, 2);
 }
 
+void AnadirTablasSuelos(std::vector<TablaCampos>& tablas) {
+  tablas.push_back({"Suelo_terreno", kTerreno, 3});
+  tablas.push_back({"Suelo_otro", kOtro, 2});
+}
+
 }  // namespace novex

@@ -164,4 +164,11 @@ void EscribirUso(XMLNode& novex, RegistrosCaso& r) {
     acciones.setAttribute(Ordinal(mes), perfiles.AccionMes[mes]);
 }
 
+void AnadirTablasUso(std::vector<TablaCampos>& tablas) {
+  tablas.push_back({"", kTipo, 1});
+  tablas.push_back({"", kCamposMaximos, 1});
+  tablas.push_back({"", kCamposIluminacion, 1});
+  tablas.push_back({"", kCamposVarios, 1});
+}
+
 }  // namespace novex

@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 #include <string_view>
+#include <vector>
 
 #include "base/Mensajes.h"
 #include "files/CamposFichero.h"
@@ -114,5 +116,32 @@ void EscribirSistemas(XMLNode& instalaciones, const DatosDerivados::Caso& deriva
                       const Edificio& edificio);
 void LeerEstudio(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes);
 void EscribirEstudio(XMLNode& novex, const RegistrosCaso& r);
+
+/// Una tabla de campos de un caso, con el elemento que se repite por tipo constructivo; sin él, los
+/// campos están una vez.
+struct TablaCampos {
+  std::string_view elemento;
+  std::span<const Campo<RegistrosCaso>> campos;
+  std::size_t tipos = 1;
+};
+// Añaden las tablas de cada sección, en el orden del fichero.
+void AnadirTablasGenerales(std::vector<TablaCampos>& tablas);
+void AnadirTablasDefinicion(std::vector<TablaCampos>& tablas);
+void AnadirTablasUso(std::vector<TablaCampos>& tablas);
+void AnadirTablasGlobales(std::vector<TablaCampos>& tablas);
+void AnadirTablasPuentes(std::vector<TablaCampos>& tablas);
+void AnadirTablasCubiertas(std::vector<TablaCampos>& tablas);
+void AnadirTablasMuros(std::vector<TablaCampos>& tablas);
+void AnadirTablasSuelos(std::vector<TablaCampos>& tablas);
+void AnadirTablasInstalaciones(std::vector<TablaCampos>& tablas);
+// Las tablas de los registros que un caso tiene en lista.
+std::span<const Campo<TipologiaVivienda>> CamposDeTipologia();
+std::span<const Campo<Huecos>> CamposDeHuecos();
+std::span<const Campo<SistemaResidencial>> CamposDeSistema();
+std::span<const Campo<Instalaciones>> CamposDeGenerador();
+
+/// Los registros de un caso, sacados para recorrerlos, y su vuelta al edificio.
+RegistrosCaso SacarRegistros(const Edificio& edificio);
+void GuardarRegistros(RegistrosCaso r, Edificio& edificio);
 
 }  // namespace novex
