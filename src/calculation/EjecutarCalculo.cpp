@@ -13,12 +13,6 @@
 namespace novex {
 namespace {
 
-void QuitarServiciosForzados(Forzados& forzados) {
-  for (ServicioForzado* s :
-       {&forzados.CasoACS, &forzados.CasoCalefaccion, &forzados.CasoRefrigeracion})
-    s->modo = "Normales";
-}
-
 void Avanzar(SimulacionCaso& simulacion, Progreso& progreso) {
   constexpr int kHorasPorTramo = 730;
   while (simulacion.Avanzar(kHorasPorTramo)) progreso.Avanzar(simulacion.Porcentaje());
@@ -45,9 +39,15 @@ void EscribirFicherosDeCaso(std::string_view nombreCaso, Entorno& entorno, const
   EscribirFicheroSistemas(carpeta, nombreCaso, caso);
 }
 
-// Pone en la referencia el edificio base con la envolvente del código. Sus equipos no cuentan: solo
-// se leen su demanda y su iluminación.
-void ConstruirReferencia(GestorEdifActivo& gestor) {
+}  // namespace
+
+void QuitarServiciosForzados(Forzados& forzados) {
+  for (ServicioForzado* s :
+       {&forzados.CasoACS, &forzados.CasoCalefaccion, &forzados.CasoRefrigeracion})
+    s->modo = "Normales";
+}
+
+void CrearEdificioReferencia(GestorEdifActivo& gestor) {
   gestor.CrearReferencia();
   Edificio& referencia = *gestor.Caso(caso::kReferencia);
   DatosGenerales g = referencia.GetDatosGenerales();
@@ -59,12 +59,10 @@ void ConstruirReferencia(GestorEdifActivo& gestor) {
   PonerEnvolventeReferencia(referencia);
 }
 
-}  // namespace
-
 std::optional<DemandaReferencia> DemandaDeReferencia(GestorEdifActivo& gestor, Entorno& entorno) {
   Edificio* referencia = gestor.Caso(caso::kReferencia);
   if (referencia == nullptr || !CalculoDe(*referencia).Calculado()) {
-    ConstruirReferencia(gestor);
+    CrearEdificioReferencia(gestor);
     referencia = gestor.Caso(caso::kReferencia);
     if (!EjecutarCalculo(*referencia, caso::kReferencia, kModoTodo, entorno)) return std::nullopt;
   }

@@ -50,6 +50,13 @@ std::unique_ptr<calculo> SimularApuntando(Edificio& edificio, const calculo& pre
 /// si falta su clima. \throws lo mismo que `EjecutarCalculo`
 std::optional<DemandaReferencia> DemandaDeReferencia(GestorEdifActivo& gestor, Entorno& entorno);
 
+/// Deja en los servicios lo que haya en el caso, sin sustituir ninguno.
+void QuitarServiciosForzados(Forzados& forzados);
+
+/// Pone en la referencia el edificio base con la envolvente del código. Sus equipos no cuentan:
+/// solo se leen su demanda y su iluminación.
+void CrearEdificioReferencia(GestorEdifActivo& gestor);
+
 /// ¿Se califica un caso contra el edificio de referencia?
 bool NecesitaReferencia(const DatosGenerales& generales);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "files/SeccionesProyecto.h"
 #include "model/CatalogoCampos.h"
 #include "model/ClavesCampos.h"
 
@@ -194,12 +195,14 @@ std::vector<std::string> DireccionesDeCampos(const Edificio& edificio) {
 }
 
 LectorCampos::LectorCampos(const Edificio& edificio)
-    : edificio_(edificio), registros_(SacarRegistros(edificio)) {}
+    : edificio_(edificio), registros_(std::make_unique<RegistrosCaso>(SacarRegistros(edificio))) {}
+
+LectorCampos::~LectorCampos() = default;
 
 std::optional<std::string> LectorCampos::Valor(std::string_view direccion) {
   const auto& campos = CamposDelCaso().porDireccion;
   if (const auto it = campos.find(direccion); it != campos.end())
-    return camposFichero::TextoDeCampo(*it->second.campo, registros_, it->second.donde);
+    return camposFichero::TextoDeCampo(*it->second.campo, *registros_, it->second.donde);
   const auto d = LeerEnLista(direccion);
   if (!d) return std::nullopt;
   std::optional<std::string> valor;
@@ -209,7 +212,7 @@ std::optional<std::string> LectorCampos::Valor(std::string_view direccion) {
   };
   if (d->elemento == kTipologia) {
     if (d->indice < kTipologias)
-      EnCampo(CamposDeTipologia(), d->etiqueta, &registros_.ventilacion.tipologias[d->indice],
+      EnCampo(CamposDeTipologia(), d->etiqueta, &registros_->ventilacion.tipologias[d->indice],
               leer);
     return valor;
   }

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "base/Mensajes.h"
-#include "files/SeccionesProyecto.h"
 #include "model/Edificio.h"
 
 namespace novex {
@@ -16,6 +17,8 @@ namespace novex {
 // "Suelo_habitable_m2", "MuroExt[2]/Muro_ext_sur_m2", "Hueco[1]/Ancho_m",
 // "Tipo_sistema[1]/QcalorCaldera1", "Tipologia[1]/N_viviendas".
 
+struct RegistrosCaso;
+
 enum class ClaseCampo { Real, Entero, Logico, Texto, Lista };
 
 /// Lo que se sabe de un campo sin mirar ningún caso.
@@ -23,7 +26,7 @@ struct DatosCampo {
   std::string etiqueta;  ///< sin su elemento, con el sector y el tipo puestos
   ClaseCampo clase = ClaseCampo::Texto;
   int decimales = 0;
-  ListaTextos lista;  ///< textos de las posiciones de una lista
+  std::span<const std::string_view> lista;  ///< textos de las posiciones de una lista
 };
 
 /// Los datos de un campo; nada si no hay tal campo en ningún caso.
@@ -36,12 +39,13 @@ std::vector<std::string> DireccionesDeCampos(const Edificio& edificio);
 class LectorCampos {
  public:
   explicit LectorCampos(const Edificio& edificio);
+  ~LectorCampos();
   /// El valor como lo escribe el fichero; nada si el caso no tiene el campo.
   std::optional<std::string> Valor(std::string_view direccion);
 
  private:
   const Edificio& edificio_;
-  RegistrosCaso registros_;
+  std::unique_ptr<RegistrosCaso> registros_;
 };
 
 /// Pone un campo de un caso. Un número se comprueba con la clave de su etiqueta: uno que no vale se

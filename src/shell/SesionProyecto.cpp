@@ -1,0 +1,197 @@
+#include "shell/SesionProyecto.h"
+
+#include "calculation/CompletarProyecto.h"
+#include "entry/ProyectoNuevo.h"
+#include "shell/OrdenesProyecto.h"
+
+namespace novex {
+namespace {
+
+constexpr std::size_t kEdicionesRecordadas = 200;
+
+const XMLNode& PerfilesUso(FicherosPrograma& ficheros) {
+  return ficheros.Xml("PerfilesUso.xml", "PERFILES_USO");
+}
+
+}  // namespace
+
+SesionProyecto::SesionProyecto(FicherosPrograma& ficheros, Mensajes& mensajes)
+    : ficheros_(ficheros), mensajes_(mensajes) {
+  Nuevo();
+}
+
+SesionProyecto::Instantanea SesionProyecto::Fotografiar(std::string_view nombre,
+                                                        bool completa) const {
+  Instantanea foto;
+  foto.nombre = nombre;
+  foto.completa = completa;
+  foto.activo = gestor_.NombreActivo();
+  foto.revision = revision_;
+  if (!completa) {
+    foto.casos.emplace_back(foto.activo, gestor_.Activo().Clonar());
+    return foto;
+  }
+  for (std::size_t i = 0; i < gestor_.NumeroCasos(); ++i) {
+    const std::string_view caso = GestorEdifActivo::NombreCasoUsuario(i);
+    foto.casos.emplace_back(caso, gestor_.Caso(caso)->Clonar());
+  }
+  return foto;
+}
+
+// Pone el proyecto como en una foto. \returns la foto de como estaba
+SesionProyecto::Instantanea SesionProyecto::Cambiar(Instantanea&& foto) {
+  // Una edición de un caso se deshace en él, aunque ahora se esté viendo otro.
+  gestor_.ActivarCaso(foto.completa ? gestor_.NombreActivo() : foto.activo);
+  Instantanea antes = Fotografiar(foto.nombre, foto.completa);
+  if (foto.completa) {
+    gestor_.NuevoProyecto();
+    for (std::size_t i = 1; i < foto.casos.size(); ++i) gestor_.CrearCasoVacio(foto.casos[i].first);
+  }
+  for (auto& [nombre, edificio] : foto.casos)
+    gestor_.Caso(nombre)->TomarRegistros(std::move(*edificio));
+  gestor_.ActivarCaso(foto.activo);
+  if (foto.activo == caso::kViejo || foto.completa) gestor_.EliminarCaso(caso::kReferencia);
+  revision_ = foto.revision;
+  return antes;
+}
+
+void SesionProyecto::Apuntar(Instantanea&& foto) {
+  rehacer_.clear();
+  deshacer_.push_back(std::move(foto));
+  if (deshacer_.size() > kEdicionesRecordadas) deshacer_.erase(deshacer_.begin());
+  revision_ = ++ultima_;
+}
+
+void SesionProyecto::OlvidarHistoria() {
+  deshacer_.clear();
+  rehacer_.clear();
+  revision_ = ++ultima_;
+}
+
+void SesionProyecto::QuitarResultados(std::string_view nombre) {
+  gestor_.Caso(nombre)->QuitarCalculo();
+  // La referencia sale del caso base.
+  if (nombre == caso::kViejo) gestor_.EliminarCaso(caso::kReferencia);
+}
+
+bool SesionProyecto::Editar(std::string_view nombre, const CambioCaso& cambio,
+                            bool quitarResultados) {
+  Instantanea foto = Fotografiar(nombre, false);
+  cambio(gestor_.Activo());
+  if (MismosRegistros(gestor_.Activo(), *foto.casos.front().second)) return false;
+  if (quitarResultados) QuitarResultados(foto.activo);
+  Apuntar(std::move(foto));
+  return true;
+}
+
+bool SesionProyecto::Editar(std::string_view nombre, const CambioCaso& cambio) {
+  return Editar(nombre, cambio, true);
+}
+
+bool SesionProyecto::EditarSinRecalcular(std::string_view nombre, const CambioCaso& cambio) {
+  return Editar(nombre, cambio, false);
+}
+
+bool SesionProyecto::EditarProyecto(std::string_view nombre, const CambioProyecto& cambio) {
+  Instantanea foto = Fotografiar(nombre, true);
+  cambio(gestor_);
+  bool iguales = gestor_.NumeroCasos() == foto.casos.size();
+  for (std::size_t i = 0; iguales && i < foto.casos.size(); ++i)
+    iguales = MismosRegistros(*gestor_.Caso(foto.casos[i].first), *foto.casos[i].second);
+  if (iguales) return false;
+  for (std::size_t i = 0; i < gestor_.NumeroCasos(); ++i)
+    QuitarResultados(GestorEdifActivo::NombreCasoUsuario(i));
+  Apuntar(std::move(foto));
+  return true;
+}
+
+std::string_view SesionProyecto::QueDeshace() const {
+  return deshacer_.empty() ? std::string_view() : deshacer_.back().nombre;
+}
+
+std::string_view SesionProyecto::QueRehace() const {
+  return rehacer_.empty() ? std::string_view() : rehacer_.back().nombre;
+}
+
+bool SesionProyecto::Deshacer() {
+  if (deshacer_.empty()) return false;
+  Instantanea foto = std::move(deshacer_.back());
+  deshacer_.pop_back();
+  rehacer_.push_back(Cambiar(std::move(foto)));
+  return true;
+}
+
+bool SesionProyecto::Rehacer() {
+  if (rehacer_.empty()) return false;
+  Instantanea foto = std::move(rehacer_.back());
+  rehacer_.pop_back();
+  deshacer_.push_back(Cambiar(std::move(foto)));
+  return true;
+}
+
+void SesionProyecto::ActivarCaso(std::string_view nombre) {
+  if (gestor_.Existe(nombre)) gestor_.ActivarCaso(nombre);
+}
+
+void SesionProyecto::Nuevo() {
+  EmpezarProyecto(gestor_, PerfilesUso(ficheros_), mensajes_);
+  fichero_ = kNombreProyectoNuevo;
+  codificacion_ = {};
+  OlvidarHistoria();
+  guardada_ = revision_;
+}
+
+bool SesionProyecto::Abrir(const std::filesystem::path& ruta) {
+  ModoCodificacion codificacion;
+  const ProyectoAbierto abierto =
+      AbrirProyecto(gestor_, ruta, ModoApertura::Nuevo, mensajes_, codificacion);
+  if (!abierto.abierto) return false;
+  CompletarProyecto(gestor_, abierto.casosSinUso, ficheros_, mensajes_);
+  gestor_.ActivarCaso(caso::kViejo);
+  fichero_ = std::filesystem::absolute(ruta);
+  codificacion_ = codificacion;
+  OlvidarHistoria();
+  guardada_ = revision_;
+  return true;
+}
+
+bool SesionProyecto::Anadir(const std::filesystem::path& ruta) {
+  Instantanea foto = Fotografiar("añadir " + ruta.filename().string(), true);
+  bool sustituido = false;
+  const ProyectoAbierto abierto = AnadirProyecto(gestor_, ruta, ficheros_, mensajes_, sustituido);
+  if (!abierto.abierto) return false;
+  if (sustituido) fichero_ = std::filesystem::absolute(ruta);
+  Apuntar(std::move(foto));
+  return true;
+}
+
+std::filesystem::path SesionProyecto::Guardar(const std::filesystem::path& ruta) {
+  fichero_ = std::filesystem::absolute(
+      GuardarProyecto(gestor_, ruta.empty() ? fichero_ : ruta, {}, codificacion_));
+  guardada_ = revision_;
+  return fichero_;
+}
+
+bool SesionProyecto::DuplicarCaso() {
+  const std::string activo(gestor_.NombreActivo());
+  return EditarProyecto("duplicar el caso", [&](GestorEdifActivo& gestor) {
+    novex::DuplicarCaso(gestor, activo, mensajes_);
+  });
+}
+
+void SesionProyecto::BorrarCaso() {
+  if (gestor_.NumeroCasos() == 1) return Nuevo();
+  EditarProyecto("borrar el caso", [](GestorEdifActivo& gestor) {
+    gestor.EliminarCaso(std::string(gestor.NombreActivo()));
+  });
+}
+
+bool SesionProyecto::Recuperar(const std::filesystem::path& recuperacion,
+                               const std::filesystem::path& original) {
+  if (!Abrir(recuperacion)) return false;
+  fichero_ = original;
+  revision_ = ++ultima_;
+  return true;
+}
+
+}  // namespace novex
