@@ -6,6 +6,7 @@ paquetes=(
   g++ cmake ninja-build ccache
   libfmt-dev libpugixml-dev liblodepng-dev
   libcli11-dev nlohmann-json3-dev
+  qt6-base-dev qt6-charts-dev qt6-svg-dev libqt6opengl6-dev libgl-dev libopengl-dev libvulkan-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   weasyprint fonts-crosextra-carlito
   poppler-utils libxml2-utils

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include "calculation/ComprobacionesPrevias.h"
+#include "shell/SesionProyecto.h"
+
+namespace novex::gui {
+
+/// Páginas de la tira de pestañas, en su orden.
+enum class Destino {
+  Titulo,
+  Global,
+  Edificio,
+  Instalaciones,
+  Certificacion,
+  Comparacion,
+  HE,
+  Definicion
+};
+
+/// Lo que comparten las páginas: la sesión y el aviso de que algo ha cambiado. Una página edita por
+/// aquí y se refresca cuando se le dice; no conoce a las demás.
+class ContextoGui : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit ContextoGui(SesionProyecto& sesion) : sesion_(sesion) {}
+
+  SesionProyecto& Sesion() { return sesion_; }
+  const Edificio& Caso() const { return sesion_.Caso(); }
+  FicherosPrograma& Ficheros() { return sesion_.Ficheros(); }
+
+  /// Edita el caso activo y lo anuncia. \param nombre qué se cambia, para "Deshacer"
+  /// \param recalcula falso en textos administrativos, imágenes, costes y notas
+  /// \returns si ha cambiado algo
+  bool Editar(const QString& nombre, const SesionProyecto::CambioCaso& cambio,
+              bool recalcula = true);
+  /// Edita el proyecto entero y lo anuncia.
+  bool EditarProyecto(const QString& nombre, const SesionProyecto::CambioProyecto& cambio);
+  /// Lo que impide un cálculo lleva a una página y, dentro de ella, a otra.
+  void IrA(PaginaProyecto pagina) { emit Ir(pagina); }
+
+ signals:
+  /// El caso activo ha cambiado por una edición, al deshacerla o al rehacerla.
+  void Editado();
+  /// El proyecto, sus casos o el caso activo son otros.
+  void ProyectoCambiado();
+  /// Hay que enseñar una página.
+  void Ir(novex::PaginaProyecto pagina);
+
+ private:
+  SesionProyecto& sesion_;
+};
+
+}  // namespace novex::gui

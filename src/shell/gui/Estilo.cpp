@@ -1,0 +1,28 @@
+#include "shell/gui/Estilo.h"
+
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace novex::gui {
+
+void PonerEstilo(QApplication& aplicacion) {
+  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  const bool oscuro = QApplication::palette().color(QPalette::Window).lightness() < 128;
+  const QString suave = oscuro ? "#9aa4ad" : "#66727c";
+  const QString aviso = oscuro ? "#ff9c8a" : "#b3261e";
+  const QString distinto = oscuro ? "#7fb8e6" : "#1f5f8b";
+  aplicacion.setStyleSheet(QString(R"(
+    QLabel[papel="titulo"] { font-size: 15pt; font-weight: 600; }
+    QLabel[papel="seccion"] { font-weight: 600; padding-top: 8px; }
+    QLabel[papel="unidad"], QLabel[papel="nota"] { color: %1; }
+    QLabel[papel="aviso"] { color: %2; }
+    QLineEdit[distinto="true"], QComboBox[distinto="true"] { border-left: 3px solid %3; }
+    QLineEdit { padding: 3px 5px; }
+    QGroupBox { font-weight: 600; margin-top: 12px; }
+    QGroupBox::title { subcontrol-origin: margin; left: 4px; }
+    QListWidget { border: none; background: transparent; }
+  )")
+                               .arg(suave, aviso, distinto));
+}
+
+}  // namespace novex::gui

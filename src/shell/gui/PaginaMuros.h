@@ -1,0 +1,15 @@
+#pragma once
+
+#include "shell/gui/Pagina.h"
+
+namespace novex::gui {
+
+/// Los muros por tipo constructivo y orientación.
+class PaginaMuros : public Pagina {
+  Q_OBJECT
+
+ public:
+  explicit PaginaMuros(ContextoGui& contexto, QWidget* padre = nullptr);
+};
+
+}  // namespace novex::gui

@@ -1,0 +1,36 @@
+#include "shell/gui/PaginaPestanas.h"
+
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace novex::gui {
+
+PaginaPestanas::PaginaPestanas(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, padre) {
+  auto* columna = new QVBoxLayout(this);
+  columna->setContentsMargins(0, 0, 0, 0);
+  pestanas_ = new QTabWidget(this);
+  pestanas_->setDocumentMode(true);
+  columna->addWidget(pestanas_);
+  connect(pestanas_, &QTabWidget::currentChanged, this, [this] { Refrescar(); });
+}
+
+void PaginaPestanas::Anadir(Pagina* pagina, const QString& titulo) {
+  auto* visor = new QScrollArea(this);
+  visor->setWidgetResizable(true);
+  visor->setFrameShape(QFrame::NoFrame);
+  visor->setWidget(pagina);
+  paginas_.push_back(pagina);
+  pestanas_->addTab(visor, titulo);
+}
+
+void PaginaPestanas::Refrescar() {
+  const auto cual = static_cast<std::size_t>(pestanas_->currentIndex());
+  if (cual < paginas_.size()) paginas_[cual]->Refrescar();
+}
+
+void PaginaPestanas::Mostrar(const QString& titulo) {
+  for (int i = 0; i < pestanas_->count(); ++i)
+    if (pestanas_->tabText(i) == titulo) pestanas_->setCurrentIndex(i);
+}
+
+}  // namespace novex::gui

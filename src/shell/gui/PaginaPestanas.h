@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QTabWidget>
+#include <vector>
+
+#include "shell/gui/Pagina.h"
+
+namespace novex::gui {
+
+/// Una página hecha de otras, en pestañas. Solo se refresca la que está a la vista.
+class PaginaPestanas : public Pagina {
+  Q_OBJECT
+
+ public:
+  explicit PaginaPestanas(ContextoGui& contexto, QWidget* padre = nullptr);
+  void Anadir(Pagina* pagina, const QString& titulo);
+  void Refrescar() override;
+  /// Enseña la de ese título, si está.
+  void Mostrar(const QString& titulo);
+  const std::vector<Pagina*>& Paginas() const { return paginas_; }
+
+ private:
+  QTabWidget* pestanas_;
+  std::vector<Pagina*> paginas_;
+};
+
+}  // namespace novex::gui

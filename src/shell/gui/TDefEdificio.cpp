@@ -1,0 +1,45 @@
+#include "shell/gui/TDefEdificio.h"
+
+#include <QVBoxLayout>
+
+#include "shell/gui/PaginaCubiertas.h"
+#include "shell/gui/PaginaHuecos.h"
+#include "shell/gui/PaginaMuros.h"
+#include "shell/gui/PaginaPuentes.h"
+#include "shell/gui/PaginaSuelos.h"
+#include "shell/gui/TextoQt.h"
+
+namespace novex::gui {
+
+TDefEdificio::TDefEdificio(ContextoGui& contexto, QWidget* padre)
+    : PaginaPestanas(contexto, padre) {
+  Anadir(new PaginaCubiertas(contexto), "Cubiertas");
+  Anadir(new PaginaMuros(contexto), "Muros");
+  Anadir(new PaginaSuelos(contexto), "Suelos");
+  Anadir(new PaginaHuecos(contexto), "Huecos");
+  Anadir(new PaginaPuentes(contexto), "Puentes");
+  sumas_ = new QLabel(this);
+  sumas_->setProperty("papel", "nota");
+  layout()->addWidget(sumas_);
+}
+
+void TDefEdificio::Refrescar() {
+  PaginaPestanas::Refrescar();
+}
+
+QString PestanaDe(PaginaProyecto pagina) {
+  switch (pagina) {
+    case PaginaProyecto::Muros:
+      return "Muros";
+    case PaginaProyecto::Cubiertas:
+      return "Cubiertas";
+    case PaginaProyecto::Suelos:
+      return "Suelos";
+    case PaginaProyecto::Huecos:
+      return "Huecos";
+    default:
+      return {};
+  }
+}
+
+}  // namespace novex::gui

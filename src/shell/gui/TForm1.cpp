@@ -1,0 +1,429 @@
+#include "shell/gui/TForm1.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "base/ErrorFichero.h"
+#include "base/NumeroTexto.h"
+#include "compliance/TransmitanciaGlobal.h"
+#include "shell/gui/DialogoExpres.h"
+#include "shell/gui/PaginaAdministrativa.h"
+#include "shell/gui/PaginaHorarios.h"
+#include "shell/gui/PaginaPestanas.h"
+#include "shell/gui/PaginaSitio.h"
+#include "shell/gui/PaginaTablas.h"
+#include "shell/gui/PaginaTitulo.h"
+#include "shell/gui/PaginaUso.h"
+#include "shell/gui/TDefEdificio.h"
+#include "shell/gui/TFDefinicion.h"
+#include "shell/gui/TTEquipos.h"
+#include "shell/gui/TextoQt.h"
+
+namespace novex::gui {
+namespace {
+
+constexpr std::array<const char*, 8> kPestanas = {
+    "Titulo",        "Global",      "Edificio", "Instalaciones",
+    "Certificación", "Comparación", "HE",       "Definición"};
+constexpr int kCopiaMs = 4000;
+constexpr int kRecientes = 10;
+constexpr std::size_t kCasosMaximos = 6;
+constexpr const char* kFiltro = "Proyectos (*.xml *.txt)";
+
+bool EsDeResultados(Destino d) {
+  return d == Destino::Certificacion || d == Destino::Comparacion || d == Destino::HE;
+}
+
+QString Cifra(float valor) {
+  return Q(Fijo(static_cast<double>(valor), 0));
+}
+
+}  // namespace
+
+TForm1::TForm1(SesionProyecto& sesion, MensajesVentana& mensajes,
+               const std::filesystem::path& carpetaRecuperacion)
+    : contexto_(sesion), mensajes_(mensajes), recuperacion_(carpetaRecuperacion) {
+  CrearOrdenes();
+  CrearPaginas();
+  connect(&contexto_, &ContextoGui::Editado, this, &TForm1::AlEditar);
+  connect(&contexto_, &ContextoGui::ProyectoCambiado, this, &TForm1::AlCambiarProyecto);
+  connect(&contexto_, &ContextoGui::Ir, this, &TForm1::IrA);
+  copia_.setSingleShot(true);
+  copia_.setInterval(kCopiaMs);
+  connect(&copia_, &QTimer::timeout, this, &TForm1::GuardarCopia);
+  resize(1280, 720);
+  AlCambiarProyecto();
+}
+
+QAction* TForm1::Orden(QToolBar* barra, const char* icono, const QString& texto,
+                       const QString& ayuda, const QKeySequence& tecla, void (TForm1::*hacer)()) {
+  QAction* orden = barra->addAction(QIcon(QString(":/iconos/%1.svg").arg(icono)), texto);
+  orden->setShortcut(tecla);
+  const QString con =
+      tecla.isEmpty() ? QString() : " (" + tecla.toString(QKeySequence::NativeText) + ")";
+  orden->setToolTip(ayuda + con);
+  connect(orden, &QAction::triggered, this, hacer);
+  return orden;
+}
+
+void TForm1::CrearOrdenes() {
+  auto* barra = addToolBar(tr("Órdenes"));
+  barra->setObjectName("ordenes");
+  barra->setMovable(false);
+  barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  Orden(barra, "nuevo", tr("Nuevo"), tr("Proyecto nuevo, en el mismo sitio"), QKeySequence::New,
+        &TForm1::Nuevo);
+  Orden(barra, "abrir", tr("Abrir"), tr("Abre un proyecto"), QKeySequence::Open,
+        &TForm1::AbrirConDialogo);
+  Orden(barra, "guardar", tr("Guardar"), tr("Guarda el proyecto"), QKeySequence::Save,
+        &TForm1::Guardar);
+  Orden(barra, "guardarcomo", tr("Guardar como"), tr("Guarda con otro nombre"),
+        QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &TForm1::GuardarComo);
+  Orden(barra, "anadir", tr("Añadir"), tr("Añade los casos de otro fichero"), {}, &TForm1::Anadir);
+  barra->addSeparator();
+  duplicar_ = Orden(barra, "duplicar", tr("Duplicar"), tr("Una mejora igual al caso activo"),
+                    QKeySequence(Qt::CTRL | Qt::Key_D), &TForm1::Duplicar);
+  Orden(barra, "borrar", tr("Borrar"), tr("Borra el caso activo"), {}, &TForm1::Borrar);
+  barra->addSeparator();
+  deshacer_ = Orden(barra, "deshacer", tr("Deshacer"), tr("Deshace lo último"), QKeySequence::Undo,
+                    &TForm1::Deshacer);
+  rehacer_ = Orden(barra, "rehacer", tr("Rehacer"), tr("Vuelve a hacer lo deshecho"),
+                   QKeySequence::Redo, &TForm1::Rehacer);
+  barra->addSeparator();
+  Orden(barra, "acerca", tr("Acerca de"), tr("Qué es este programa"), QKeySequence::HelpContents,
+        &TForm1::Acerca);
+}
+
+void TForm1::CrearPaginas() {
+  auto* centro = new QWidget(this);
+  auto* columna = new QVBoxLayout(centro);
+  columna->setContentsMargins(0, 0, 0, 0);
+  columna->setSpacing(0);
+  auto* fila = new QHBoxLayout;
+  pestanas_ = new QTabBar(centro);
+  pestanas_->setDrawBase(false);
+  pestanas_->setExpanding(false);
+  for (const char* nombre : kPestanas) pestanas_->addTab(nombre);
+  fila->addWidget(pestanas_);
+  fila->addStretch(1);
+  fila->addWidget(new QLabel(tr("Caso"), centro));
+  casos_ = new QComboBox(centro);
+  fila->addWidget(casos_);
+  columna->addLayout(fila);
+  pila_ = new QStackedWidget(centro);
+  columna->addWidget(pila_, 1);
+  setCentralWidget(centro);
+
+  titulo_ = new PaginaTitulo(contexto_);
+  auto* global = new PaginaPestanas(contexto_);
+  global->Anadir(new PaginaSitio(contexto_), "Sitio");
+  global->Anadir(new PaginaUso(contexto_), "Uso");
+  global->Anadir(new PaginaHorarios(contexto_), "Horarios");
+  global->Anadir(new PaginaAdministrativa(contexto_), "Datos administrativos");
+  edificio_ = new TDefEdificio(contexto_);
+  paginas_ = {titulo_,
+              global,
+              edificio_,
+              new TTEquipos(contexto_),
+              new PaginaTablas(contexto_, Destino::Certificacion),
+              new PaginaTablas(contexto_, Destino::Comparacion),
+              new PaginaTablas(contexto_, Destino::HE),
+              new TFDefinicion(contexto_)};
+  for (Pagina* pagina : paginas_) pila_->addWidget(pagina);
+  connect(pestanas_, &QTabBar::currentChanged, this,
+          [this](int i) { Mostrar(static_cast<Destino>(i)); });
+  connect(casos_, &QComboBox::activated, this, [this](int i) {
+    contexto_.Sesion().ActivarCaso(
+        GestorEdifActivo::NombreCasoUsuario(static_cast<std::size_t>(i)));
+    emit contexto_.ProyectoCambiado();
+  });
+  connect(titulo_, &PaginaTitulo::PideNuevo, this, &TForm1::Nuevo);
+  connect(titulo_, &PaginaTitulo::PideAbrir, this, &TForm1::AbrirConDialogo);
+  connect(titulo_, &PaginaTitulo::PideFichero, this, [this](const QString& ruta) {
+    if (!ruta.isEmpty()) Abrir(S(ruta));
+  });
+  connect(titulo_, &PaginaTitulo::PideExpres, this,
+          [this] { DialogoExpres(contexto_, this).exec(); });
+
+  panel_ = new PanelVivo(contexto_);
+  auto* muelle = new QDockWidget(tr("Calificación"), this);
+  muelle->setObjectName("calificacion");
+  muelle->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+  muelle->setWidget(panel_);
+  addDockWidget(Qt::RightDockWidgetArea, muelle);
+  resumen_ = new QLabel(this);
+  falta_ = new QLabel(this);
+  falta_->setTextFormat(Qt::RichText);
+  connect(falta_, &QLabel::linkActivated, this, [this] {
+    const auto motivos = TodasLasComprobaciones(contexto_.Caso());
+    if (!motivos.empty()) IrA(motivos.back().pagina);
+  });
+  statusBar()->addWidget(resumen_, 1);
+  statusBar()->addPermanentWidget(falta_);
+}
+
+Pagina* TForm1::PaginaDe(Destino destino) const {
+  return paginas_[static_cast<std::size_t>(destino)];
+}
+
+bool TForm1::PasaAResultados() {
+  const auto avisos = AvisosPrevios(contexto_.Caso());
+  for (const Mensaje& aviso : avisos) mensajes_.Avisar(aviso.titulo, aviso.texto);
+  return avisos.empty();
+}
+
+void TForm1::Mostrar(Destino destino) {
+  // Lo que se está tecleando se guarda antes de salir de la página.
+  if (QWidget* foco = QApplication::focusWidget()) foco->clearFocus();
+  if (EsDeResultados(destino) && !PasaAResultados()) destino = Destino::Titulo;
+  mostrada_ = destino;
+  {
+    const QSignalBlocker callada(pestanas_);
+    pestanas_->setCurrentIndex(static_cast<int>(destino));
+  }
+  pila_->setCurrentWidget(PaginaDe(destino));
+  PaginaDe(destino)->Refrescar();
+}
+
+void TForm1::IrA(PaginaProyecto pagina) {
+  if (pagina == PaginaProyecto::Instalaciones) return Mostrar(Destino::Instalaciones);
+  const QString pestana = PestanaDe(pagina);
+  if (pestana.isEmpty()) return Mostrar(Destino::Global);
+  Mostrar(Destino::Edificio);
+  edificio_->Mostrar(pestana);
+}
+
+void TForm1::AlEditar() {
+  PaginaDe(mostrada_)->Refrescar();
+  PonerTitulo();
+  PonerEstado();
+  panel_->Pedir();
+  copia_.start();
+}
+
+void TForm1::AlCambiarProyecto() {
+  PonerCasos();
+  PonerTitulo();
+  PonerEstado();
+  PaginaDe(mostrada_)->Refrescar();
+  panel_->PedirDeNuevo();
+  if (contexto_.Sesion().Modificado()) copia_.start();
+}
+
+void TForm1::PonerTitulo() {
+  const SesionProyecto& s = contexto_.Sesion();
+  setWindowTitle("NOVEX — " + Q(s.Fichero().filename()) + (s.Modificado() ? "*" : ""));
+  const auto ponerOrden = [](QAction* orden, const QString& verbo, std::string_view que) {
+    orden->setEnabled(!que.empty());
+    orden->setToolTip(que.empty() ? verbo : verbo + ": " + Q(que));
+  };
+  ponerOrden(deshacer_, tr("Deshacer"), s.QueDeshace());
+  ponerOrden(rehacer_, tr("Rehacer"), s.QueRehace());
+}
+
+void TForm1::PonerCasos() {
+  const QSignalBlocker callado(casos_);
+  const GestorEdifActivo& gestor = contexto_.Sesion().Gestor();
+  casos_->clear();
+  for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i) {
+    const std::string_view nombre = GestorEdifActivo::NombreCasoUsuario(i);
+    casos_->addItem(nombre == caso::kViejo ? tr("Base") : Q(nombre).replace('_', ' '));
+    if (gestor.EsCasoActivo(nombre)) casos_->setCurrentIndex(static_cast<int>(i));
+  }
+  const bool varios = gestor.NumeroCasos() > 1;
+  casos_->setEnabled(varios);
+  pestanas_->setTabVisible(static_cast<int>(Destino::Comparacion), varios);
+  duplicar_->setVisible(gestor.NumeroCasos() < kCasosMaximos);
+}
+
+void TForm1::PonerEstado() {
+  const Edificio& e = contexto_.Caso();
+  const Localizacion& lugar = e.GetLocalizacion();
+  const Recinto& r = e.GetRecinto(0);
+  resumen_->setText(Q(lugar.ZonaClimatica) + " " + Q(lugar.Municipio) + " · " +
+                    Cifra(r.Suelo_habitable_m2) + " m² · " + Cifra(r.Volumen_total_m3) + " m³");
+  const auto motivos = TodasLasComprobaciones(e);
+  falta_->setText(motivos.empty()
+                      ? QString()
+                      : "<a href=\"#\">" + Q(motivos.back().texto).toHtmlEscaped() + " →</a>");
+  const auto& vivo = panel_->Calculo().Resumen();
+  if (vivo)
+    titulo_->PonerEtiqueta(Q(vivo->letraPrimaria), Cifra(vivo->primaria), Q(vivo->letraEmisiones),
+                           Cifra(vivo->emisiones));
+}
+
+void TForm1::GuardarCopia() {
+  if (contexto_.Sesion().Modificado())
+    recuperacion_.Guardar(contexto_.Sesion().Gestor(), contexto_.Sesion().Fichero());
+  else
+    recuperacion_.Quitar();
+}
+
+void TForm1::OfrecerRecuperado() {
+  for (const TrabajoPerdido& perdido : recuperacion_.Perdidos()) {
+    const std::string nombre = perdido.original.filename().string();
+    if (mensajes_.Preguntar("Recuperación", "El programa se cerró sin guardar \"" + nombre +
+                                                "\". ¿Quiere recuperarlo?")) {
+      try {
+        contexto_.Sesion().Recuperar(perdido.copia, perdido.original);
+        emit contexto_.ProyectoCambiado();
+        GuardarCopia();
+      } catch (const ErrorFichero& error) {
+        mensajes_.Avisar("AVISO", error.what());
+        continue;
+      }
+      Recuperacion::Quitar(perdido);
+      return;
+    }
+    Recuperacion::Quitar(perdido);
+  }
+}
+
+bool TForm1::PreguntarGuardar() {
+  if (!contexto_.Sesion().Modificado()) return true;
+  QMessageBox caja(QMessageBox::Question, "NOVEX", "¿Quiere guardar el proyecto?",
+                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, this);
+  caja.button(QMessageBox::Yes)->setText(tr("Sí"));
+  caja.button(QMessageBox::No)->setText(tr("No"));
+  caja.button(QMessageBox::Cancel)->setText(tr("Cancelar"));
+  switch (caja.exec()) {
+    case QMessageBox::Yes:
+      Guardar();
+      return !contexto_.Sesion().Modificado();
+    case QMessageBox::No:
+      return true;
+    default:
+      return false;
+  }
+}
+
+void TForm1::Nuevo() {
+  if (!PreguntarGuardar()) return;
+  contexto_.Sesion().Nuevo();
+  recuperacion_.Quitar();
+  emit contexto_.ProyectoCambiado();
+}
+
+bool TForm1::Abrir(const std::filesystem::path& ruta) {
+  if (!PreguntarGuardar()) return false;
+  try {
+    if (!contexto_.Sesion().Abrir(ruta)) return false;
+  } catch (const ErrorFichero&) {
+    // El fichero no se entiende: el programa acaba, y lo abierto queda en su copia.
+    GuardarCopia();
+    throw;
+  }
+  recuperacion_.Quitar();
+  Recordar(contexto_.Sesion().Fichero());
+  emit contexto_.ProyectoCambiado();
+  return true;
+}
+
+void TForm1::AbrirConDialogo() {
+  const QString ruta = QFileDialog::getOpenFileName(
+      this, tr("Abrir"), Q(contexto_.Ficheros().Espacio().Proyectos()), kFiltro);
+  if (!ruta.isEmpty()) Abrir(S(ruta));
+}
+
+bool TForm1::GuardarEn(const std::filesystem::path& ruta) {
+  if (QWidget* foco = QApplication::focusWidget()) foco->clearFocus();
+  try {
+    contexto_.Sesion().Guardar(ruta);
+  } catch (const ErrorFichero& error) {
+    mensajes_.Avisar("AVISO", error.what());
+    return false;
+  }
+  recuperacion_.Quitar();
+  Recordar(contexto_.Sesion().Fichero());
+  PonerTitulo();
+  statusBar()->showMessage(tr("Guardado en %1").arg(Q(contexto_.Sesion().Fichero())), 4000);
+  return true;
+}
+
+void TForm1::Guardar() {
+  if (contexto_.Sesion().TieneFichero())
+    GuardarEn({});
+  else
+    GuardarComo();
+}
+
+void TForm1::GuardarComo() {
+  const SesionProyecto& s = contexto_.Sesion();
+  const auto propuesta =
+      s.TieneFichero() ? s.Fichero() : contexto_.Ficheros().Espacio().Proyectos() / s.Fichero();
+  const QString ruta =
+      QFileDialog::getSaveFileName(this, tr("Guardar como"), Q(propuesta), kFiltro);
+  if (!ruta.isEmpty()) GuardarEn(S(ruta));
+}
+
+void TForm1::Anadir() {
+  const QString ruta = QFileDialog::getOpenFileName(
+      this, tr("Añadir los casos de"), Q(contexto_.Ficheros().Espacio().Proyectos()), kFiltro);
+  if (ruta.isEmpty()) return;
+  try {
+    contexto_.Sesion().Anadir(S(ruta));
+  } catch (const ErrorFichero& error) {
+    mensajes_.Avisar("AVISO", error.what());
+  }
+  emit contexto_.ProyectoCambiado();
+}
+
+void TForm1::Duplicar() {
+  contexto_.Sesion().DuplicarCaso();
+  emit contexto_.ProyectoCambiado();
+}
+
+void TForm1::Borrar() {
+  if (contexto_.Sesion().Gestor().NumeroCasos() == 1) return Nuevo();
+  contexto_.Sesion().BorrarCaso();
+  emit contexto_.ProyectoCambiado();
+}
+
+void TForm1::Deshacer() {
+  contexto_.Sesion().Deshacer();
+  emit contexto_.ProyectoCambiado();
+}
+
+void TForm1::Rehacer() {
+  contexto_.Sesion().Rehacer();
+  emit contexto_.ProyectoCambiado();
+}
+
+void TForm1::Acerca() {
+  QMessageBox::about(
+      this, "NOVEX",
+      tr("<h3>NOVEX 6.1</h3>"
+         "<p><b>\t- Campo de aplicación de Novex 6.1</b><br>Edificios de vivienda y terciarios en "
+         "España: certificación energética, verificación del DB-HE y simulación libre.</p>"
+         "<p><b>\t- Principios básicos de Novex </b><br>Simulación hora a hora de la demanda y de "
+         "los equipos, con el edificio como una sola zona térmica y los equipos tomados en su "
+         "conjunto.</p>"));
+}
+
+void TForm1::Recordar(const std::filesystem::path& ruta) {
+  QStringList recientes = ProyectosRecientes();
+  recientes.removeAll(Q(ruta));
+  recientes.prepend(Q(ruta));
+  while (recientes.size() > kRecientes) recientes.removeLast();
+  QSettings().setValue("recientes", recientes);
+}
+
+void TForm1::closeEvent(QCloseEvent* evento) {
+  if (!PreguntarGuardar()) {
+    evento->ignore();
+    return;
+  }
+  copia_.stop();
+  recuperacion_.Quitar();
+  evento->accept();
+}
+
+}  // namespace novex::gui

@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QMainWindow>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTimer>
+#include <array>
+
+#include "shell/Recuperacion.h"
+#include "shell/gui/ContextoGui.h"
+#include "shell/gui/MensajesVentana.h"
+#include "shell/gui/Pagina.h"
+#include "shell/gui/PanelVivo.h"
+
+namespace novex::gui {
+
+class PaginaTitulo;
+class TDefEdificio;
+
+/// La ventana principal: órdenes, tira de pestañas, selector de casos, páginas y calificación en
+/// vivo.
+class TForm1 : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  TForm1(SesionProyecto& sesion, MensajesVentana& mensajes,
+         const std::filesystem::path& carpetaRecuperacion);
+
+  /// Abre un proyecto, preguntando antes si hay algo sin guardar. \returns si lo ha abierto
+  bool Abrir(const std::filesystem::path& ruta);
+  /// Ofrece lo que dejó a medias un programa que se cayó.
+  void OfrecerRecuperado();
+  /// Enseña una página. A las de resultados solo se llega si el proyecto pasa las comprobaciones.
+  void Mostrar(Destino destino);
+  Destino Mostrada() const { return mostrada_; }
+  Pagina* PaginaDe(Destino destino) const;
+  ContextoGui& Contexto() { return contexto_; }
+  PanelVivo& Panel() { return *panel_; }
+
+ protected:
+  void closeEvent(QCloseEvent* evento) override;
+
+ private:
+  void CrearOrdenes();
+  void CrearPaginas();
+  QAction* Orden(QToolBar* barra, const char* icono, const QString& texto, const QString& ayuda,
+                 const QKeySequence& tecla, void (TForm1::*hacer)());
+  // Las órdenes.
+  void Nuevo();
+  void AbrirConDialogo();
+  void Guardar();
+  void GuardarComo();
+  void Anadir();
+  void Duplicar();
+  void Borrar();
+  void Deshacer();
+  void Rehacer();
+  void Acerca();
+
+  bool PasaAResultados();
+  /// \returns falso si el usuario cancela
+  bool PreguntarGuardar();
+  bool GuardarEn(const std::filesystem::path& ruta);
+  void Recordar(const std::filesystem::path& ruta);
+  void AlEditar();
+  void AlCambiarProyecto();
+  void PonerTitulo();
+  void PonerCasos();
+  void PonerEstado();
+  void GuardarCopia();
+  void IrA(PaginaProyecto pagina);
+
+  ContextoGui contexto_;
+  MensajesVentana& mensajes_;
+  Recuperacion recuperacion_;
+  QTimer copia_;
+  QTabBar* pestanas_;
+  QComboBox* casos_;
+  QStackedWidget* pila_;
+  PanelVivo* panel_;
+  QLabel *resumen_, *falta_;
+  QAction *deshacer_, *rehacer_, *duplicar_;
+  PaginaTitulo* titulo_;
+  TDefEdificio* edificio_;
+  std::array<Pagina*, 8> paginas_{};
+  Destino mostrada_ = Destino::Titulo;
+};
+
+}  // namespace novex::gui

@@ -1,0 +1,37 @@
+#include "gui/VentanaPrueba.h"
+
+#include <algorithm>
+
+namespace novex::gui::pruebas {
+
+VentanaTest::VentanaTest() {
+  ventana = std::make_unique<TForm1>(sesion, mensajes, carpeta / "copias");
+  ventana->resize(1366, 768);
+  ventana->show();
+}
+
+void VentanaTest::EsperarVivo() {
+  for (int i = 0; i < 200 && ventana->Panel().Ocupado(); ++i) QTest::qWait(20);
+}
+
+void VentanaTest::Teclear(QLineEdit* linea, const QString& texto) {
+  linea->setFocus();
+  linea->selectAll();
+  QTest::keyClicks(linea, texto);
+  QTest::keyClick(linea, Qt::Key_Return);
+}
+
+std::filesystem::path Ejemplo(const std::string& nombre) {
+  return std::filesystem::path(NOVEX_RAIZ_DATOS) / "proyectos" / nombre;
+}
+
+std::vector<std::filesystem::path> Ejemplos() {
+  std::vector<std::filesystem::path> rutas;
+  for (const auto& f :
+       std::filesystem::directory_iterator(std::filesystem::path(NOVEX_RAIZ_DATOS) / "proyectos"))
+    rutas.push_back(f.path());
+  std::sort(rutas.begin(), rutas.end());
+  return rutas;
+}
+
+}  // namespace novex::gui::pruebas

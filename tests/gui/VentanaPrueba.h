@@ -1,0 +1,53 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTest>
+#include <memory>
+
+#include "files/CarpetaTemporal.h"
+#include "shell/gui/TForm1.h"
+
+namespace novex::gui::pruebas {
+
+/// Avisos que se apuntan en lugar de enseñarse.
+class MensajesCallados : public MensajesVentana {
+ public:
+  void Avisar(const std::string& titulo, const std::string& texto) override {
+    recibidos.push_back({titulo, texto});
+  }
+  bool Preguntar(const std::string& titulo, const std::string& texto) override {
+    recibidos.push_back({titulo, texto});
+    return respuesta;
+  }
+  std::vector<Mensaje> recibidos;
+  bool respuesta = false;
+};
+
+/// La ventana con un proyecto nuevo, sin pantalla.
+class VentanaTest : public testing::Test {
+ protected:
+  VentanaTest();
+  /// Espera a que acabe la calificación en vivo.
+  void EsperarVivo();
+  /// Un editor de la página que se enseña, por la dirección de su campo; nulo si no está.
+  template <class Editor>
+  Editor* Buscar(const char* direccion) {
+    return ventana->PaginaDe(ventana->Mostrada())->findChild<Editor*>(direccion);
+  }
+  /// Teclea un valor en un editor y sale de él.
+  void Teclear(QLineEdit* linea, const QString& texto);
+
+  MensajesCallados mensajes;
+  novex::pruebas::CarpetaTemporal carpeta;
+  FicherosPrograma ficheros{EspacioTrabajo{NOVEX_PROGRAMA_PRUEBAS}};
+  SesionProyecto sesion{ficheros, mensajes};
+  std::unique_ptr<TForm1> ventana;
+};
+
+/// Un proyecto de ejemplo.
+std::filesystem::path Ejemplo(const std::string& nombre);
+std::vector<std::filesystem::path> Ejemplos();
+
+}  // namespace novex::gui::pruebas

@@ -1,0 +1,61 @@
+#include "gui/VentanaPrueba.h"
+
+#include <QComboBox>
+
+namespace novex::gui::pruebas {
+namespace {
+
+constexpr std::array kTodas = {
+    Destino::Titulo,        Destino::Global,      Destino::Edificio, Destino::Instalaciones,
+    Destino::Certificacion, Destino::Comparacion, Destino::HE,       Destino::Definicion};
+
+TEST_F(VentanaTest, CadaPaginaSeAbreConCadaEjemplo) {
+  for (const auto& ruta : Ejemplos()) {
+    SCOPED_TRACE(ruta.filename().string());
+    ASSERT_TRUE(ventana->Abrir(ruta));
+    for (const Destino destino : kTodas) {
+      ventana->Mostrar(destino);
+      EXPECT_EQ(ventana->Mostrada(), destino);
+      QApplication::processEvents();
+    }
+  }
+  EXPECT_TRUE(mensajes.recibidos.empty());
+}
+
+TEST_F(VentanaTest, LoQueImpideCalcularNoDejaPasar) {
+  ASSERT_TRUE(ventana->Abrir(Ejemplo("vivienda_unifamiliar_D3.xml")));
+  ventana->Contexto().Editar("volumen", [](Edificio& e) { e.GetRecinto(0).Volumen_total_m3 = 1; });
+  ventana->Mostrar(Destino::Certificacion);
+  EXPECT_EQ(ventana->Mostrada(), Destino::Titulo);
+  ASSERT_EQ(mensajes.recibidos.size(), 1U);
+  EXPECT_EQ(mensajes.recibidos[0].titulo, "Valor incorrecto");
+  EsperarVivo();
+  EXPECT_EQ(ventana->Panel().Calculo().EnQue(), CalculoVivo::Estado::Rechazado);
+}
+
+TEST_F(VentanaTest, LaCalificacionSigueALasEdiciones) {
+  ASSERT_TRUE(ventana->Abrir(Ejemplo("vivienda_unifamiliar_D3.xml")));
+  EsperarVivo();
+  ASSERT_EQ(ventana->Panel().Calculo().EnQue(), CalculoVivo::Estado::Hecho);
+  const float antes = ventana->Panel().Calculo().Resumen()->demandaCalefaccion;
+  ventana->Contexto().Editar("U", [](Edificio& e) { e.GetComposicion(ranura::MuroExt1).U = 3; });
+  EXPECT_TRUE(ventana->windowTitle().endsWith("*"));
+  EsperarVivo();
+  EXPECT_GT(ventana->Panel().Calculo().Resumen()->demandaCalefaccion, antes);
+  EXPECT_EQ(sesion.Caso().GetCalculo(), nullptr);  // se ha calculado una copia
+}
+
+TEST_F(VentanaTest, UnCampoTecladoSeGuardaAvisaYSeDeshace) {
+  ventana->Mostrar(Destino::Titulo);
+  auto* tipo = Buscar<QComboBox>("TipoCertificado");
+  ASSERT_NE(tipo, nullptr);
+  tipo->setCurrentIndex(0);
+  emit tipo->activated(0);
+  EXPECT_EQ(sesion.Caso().GetDatosGenerales().Modo_trabajo, "Existente");
+  EXPECT_EQ(sesion.QueDeshace(), "Edificio");
+  sesion.Deshacer();
+  EXPECT_EQ(sesion.Caso().GetDatosGenerales().Modo_trabajo, "Nuevo");
+}
+
+}  // namespace
+}  // namespace novex::gui::pruebas
