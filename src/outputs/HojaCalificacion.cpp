@@ -21,8 +21,6 @@ constexpr std::array<TitulosBase, 2> kTitulos = {
      {"Energia primaria no renovable (kWh/m2 año)", "Energía primaria no renov.(kWh/m2 año)",
       kPrimariaNoRenovable}}};
 
-using Umbrales = std::array<float, 6>;
-
 std::string Cifra(float valor) {
   return Fijo(static_cast<double>(valor), kDecimalesResultado);
 }
@@ -31,12 +29,7 @@ std::string Rotulo(std::size_t banda) {
   return std::string(1, static_cast<char>('A' + static_cast<int>(banda))) + ": ";
 }
 
-// La obra nueva y las filas sin escala completa acaban en "E", como sus letras.
-std::size_t UltimaBanda(bool nuevo, const Umbrales& th) {
-  return nuevo || th.back() == 0.0F ? 4 : kBandas - 1;
-}
-
-std::vector<std::string> TextosEscala(bool nuevo, const Umbrales& th) {
+std::vector<std::string> TextosEscala(bool nuevo, const UmbralesEscala& th) {
   std::vector<std::string> textos(kBandas);
   const std::size_t ultima = UltimaBanda(nuevo, th);
   textos[0] = Rotulo(0) + "< " + Cifra(th[0]);
@@ -46,13 +39,9 @@ std::vector<std::string> TextosEscala(bool nuevo, const Umbrales& th) {
   return textos;
 }
 
-bool HayEscala(const Umbrales& th) {
-  return std::any_of(th.begin(), th.end(), [](float t) { return t != 0.0F; });
-}
-
 FilaCalificacion Fila(Indicador indicador, const char* nombre, const CasoCalculado& caso) {
   const ResultadosCaso& r = caso.resultado->resultados;
-  const Umbrales& th = r.escala.th[static_cast<std::size_t>(indicador)];
+  const UmbralesEscala& th = r.escala.th[static_cast<std::size_t>(indicador)];
   const bool nuevo = caso.edificio->GetDatosGenerales().Modo_trabajo == "Nuevo";
   FilaCalificacion fila;
   fila.indicador = indicador;

@@ -17,9 +17,6 @@ inline constexpr std::array<std::string_view, 2> kTextoBaseCalificacion = {
 
 inline constexpr std::string_view kTituloDemandaSensible = "Demanda sensible (kWh/m2 año)";
 
-/// Bandas de la escala: de "A" a "G".
-inline constexpr std::size_t kBandas = 7;
-
 /// Una fila de la hoja: un indicador con su letra y su escala.
 struct FilaCalificacion {
   Indicador indicador = Indicador::EmisionesTotales;

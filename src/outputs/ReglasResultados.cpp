@@ -87,6 +87,14 @@ std::string LetraMostrada(Indicador indicador, const CasoCalculado& caso) {
   return caso.resultado->resultados.escala.letra[static_cast<std::size_t>(indicador)];
 }
 
+bool HayEscala(const UmbralesEscala& umbrales) {
+  return std::any_of(umbrales.begin(), umbrales.end(), [](float t) { return t != 0.0F; });
+}
+
+std::size_t UltimaBanda(bool nuevo, const UmbralesEscala& umbrales) {
+  return nuevo || umbrales.back() == 0.0F ? 4 : kBandas - 1;
+}
+
 std::optional<double> Ahorro(double base, double valor) {
   if (!(base > 0.0)) return std::nullopt;
   return (base - valor) * 100.0 / base;

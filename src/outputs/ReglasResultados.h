@@ -57,6 +57,17 @@ constexpr bool EsDeIluminacion(Indicador indicador) {
 /// Letra con que se muestra un indicador: "A" a "G" o "( - )"; vacía en una simulación libre.
 std::string LetraMostrada(Indicador indicador, const CasoCalculado& caso);
 
+/// Bandas de la escala: de "A" a "G".
+inline constexpr std::size_t kBandas = 7;
+using UmbralesEscala = std::array<float, kBandas - 1>;
+
+/// ¿Tiene un indicador escala en vigor? No la tiene si todos sus umbrales son 0.
+bool HayEscala(const UmbralesEscala& umbrales);
+
+/// Última banda de una escala, desde 0: "E" en obra nueva y en las escalas sin completar, como sus
+/// letras.
+std::size_t UltimaBanda(bool nuevo, const UmbralesEscala& umbrales);
+
 /// Ahorro de un valor sobre el de la base, %. \returns vacío si la base no es mayor que 0
 std::optional<double> Ahorro(double base, double valor);
 

@@ -1,7 +1,5 @@
 #include "outputs/documentos/VariablesCalificacion.h"
 
-#include "outputs/ReglasResultados.h"
-
 namespace novex {
 namespace {
 
@@ -52,8 +50,12 @@ template <class Nombre>
 void Serie(Indicador indicador, const CasoCalculado& caso, Nombre nombre,
            std::vector<VBLE>& variables) {
   const bool nuevo = caso.edificio->GetDatosGenerales().Modo_trabajo == "Nuevo";
+  // Lo que no se califica no enseña escala aunque la zona la tenga.
+  const bool califica = LetraMostrada(indicador, caso) != kSinLetra;
   const auto textos = TextosBandas(
-      caso.resultado->resultados.escala.th[static_cast<std::size_t>(indicador)], nuevo);
+      califica ? caso.resultado->resultados.escala.th[static_cast<std::size_t>(indicador)]
+               : UmbralesEscala{},
+      nuevo);
   for (std::size_t b = 0; b < textos.size(); ++b)
     variables.push_back({nombre(kBanda[b]), textos[b]});
 }
@@ -86,15 +88,21 @@ std::string CifraDocumento(float valor) {
   return FijoCifras(static_cast<double>(valor), kCifrasDocumento, kDecimalesDocumento);
 }
 
-std::array<std::string, 7> TextosBandas(const std::array<float, 6>& umbrales, bool nuevo) {
-  std::array<std::string, 7> textos;
+std::array<std::string, kBandas> TextosBandas(const UmbralesEscala& umbrales, bool nuevo) {
+  std::array<std::string, kBandas> textos;
+  const bool hastaE = UltimaBanda(nuevo, umbrales) < kBandas - 1;
+  if (!HayEscala(umbrales)) {
+    textos.fill(std::string(kSinLetra));
+    if (nuevo) textos[5] = textos[6] = " ";
+    return textos;
+  }
   const auto t = [&](std::size_t i) { return CifraDocumento(umbrales[i]); };
   const auto entre = [&](std::size_t i) {
     return t(i - 1) + " <= " + std::string(1, kBanda[i]) + " <" + t(i);
   };
   textos[0] = "     A < " + t(0);
   for (std::size_t b = 1; b < 4; ++b) textos[b] = entre(b);
-  if (nuevo) {
+  if (hastaE) {
     textos[4] = "     E >= " + t(3);
     textos[5] = textos[6] = " ";
   } else {
@@ -109,15 +117,15 @@ std::array<std::string, 7> TextosBandas(const std::array<float, 6>& umbrales, bo
 void VariablesIndicadores(const CasoCalculado& caso, std::vector<VBLE>& variables) {
   const ResultadosCaso& r = caso.resultado->resultados;
   const bool residencial = caso.edificio->GetDatosGenerales().EsResidencial();
-  const bool sinFrio = SinRefrigeracionCalificada(*caso.edificio);
+  const bool sinFrio = RefrigeracionFuera(*caso.edificio);
   for (const VariablesDe& v : kIndicadoresDocumento) {
     if (residencial && EsDeIluminacion(v.indicador)) continue;
     const bool fuera = sinFrio && EsDeRefrigeracion(v.indicador);
     // Delante del valor: la marca "_EMI_CAL_CO2_" está también dentro de "_I_EMI_CAL_CO2_".
     if (v.indice != nullptr) variables.push_back({v.indice, Indice(v.indicador, r)});
     if (v.letra != nullptr)
-      variables.push_back({v.letra, fuera ? std::string(kSinLetra)
-                                          : r.escala.letra[static_cast<std::size_t>(v.indicador)]});
+      variables.push_back(
+          {v.letra, fuera ? std::string(kSinLetra) : LetraMostrada(v.indicador, caso)});
     variables.push_back(
         {v.valor, fuera ? std::string(kSinLetra) : CifraDocumento(ValorIndicador(v.indicador, r))});
   }

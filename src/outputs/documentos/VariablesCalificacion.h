@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "outputs/CasoCalculado.h"
+#include "outputs/ReglasResultados.h"
 #include "outputs/documentos/ModeloCertificado.h"
 
 namespace novex {
@@ -12,9 +13,9 @@ namespace novex {
 /// Una cifra de los documentos: cinco cifras significativas y dos decimales.
 std::string CifraDocumento(float valor);
 
-/// Los textos de las bandas de una escala, de "A" a "G", en HTML. \param umbrales th0 a th5 \param
-/// nuevo la obra nueva acaba en "E": las dos últimas son un blanco
-std::array<std::string, 7> TextosBandas(const std::array<float, 6>& umbrales, bool nuevo);
+/// Los textos de las bandas de una escala, de "A" a "G", en HTML; "( - )" si no hay escala en
+/// vigor. La obra nueva y las escalas sin completar acaban en "E": las dos últimas son un blanco.
+std::array<std::string, kBandas> TextosBandas(const UmbralesEscala& umbrales, bool nuevo);
 
 /// Añade las variables de los indicadores: valores, índices frente a la referencia y letras de
 /// emisiones y energía primaria no renovable por servicio, y demandas. La iluminación, solo en

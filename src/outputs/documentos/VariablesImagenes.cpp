@@ -100,7 +100,7 @@ void VariablesImagenes(const CasoCalculado& caso, const ImagenesDocumento& image
   CasillasEdificio(g, i);
   // Una obra nueva guarda la última intervención elegida, que no es suya.
   CasillasIntervencion(g.Modo_trabajo == "Nuevo" ? "" : SinBlancosFinales(g.Reforma), i);
-  const bool sinFrio = SinRefrigeracionCalificada(*caso.edificio);
+  const bool sinFrio = RefrigeracionFuera(*caso.edificio);
   const auto flecha = [&](const char* nombre, Indicador indicador) {
     const bool fuera = sinFrio && indicador == Indicador::DemandaRefrigeracion;
     i.Poner(nombre, FlechaDe(fuera ? std::string() : LetraMostrada(indicador, caso)));

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/Texto.h"
+#include "outputs/ReglasResultados.h"
 #include "outputs/documentos/VariablesCalificacion.h"
 #include "outputs/documentos/VariablesImagenes.h"
 #include "rating/Escala.h"
@@ -65,7 +66,7 @@ class HojaMejora {
   HojaMejora(const CasoCalculado& caso, const ResultadoMedida& base, const ResultadoMedida& medida)
       : base_(base),
         medida_(medida),
-        sinFrio_(SinRefrigeracionCalificada(*caso.edificio)),
+        sinFrio_(RefrigeracionFuera(*caso.edificio)),
         residencial_(caso.edificio->GetDatosGenerales().EsResidencial()) {}
 
   void Cifras() {

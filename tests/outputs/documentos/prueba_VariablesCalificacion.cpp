@@ -32,6 +32,17 @@ TEST(VariablesCalificacion, BandasNuevasYExistentes) {
   const auto existentes = TextosBandas(th, false);
   EXPECT_EQ(existentes[5], "41.00 &lt;= F &lt;46.50");
   EXPECT_EQ(existentes[6], "     G &gt;= 46.50");
+  const auto sinCompletar = TextosBandas({1, 2, 3, 4, 0, 0}, false);
+  EXPECT_EQ(sinCompletar[4], "     E &gt;= 4.00");
+  EXPECT_EQ(sinCompletar[6], " ");
+}
+
+TEST(VariablesCalificacion, SinEscalaEnVigorNoHayBandasDeCero) {
+  for (const std::string& texto : TextosBandas({}, false)) EXPECT_EQ(texto, "( - )");
+  const auto nuevas = TextosBandas({}, true);
+  EXPECT_EQ(nuevas[4], "( - )");
+  EXPECT_EQ(nuevas[5], " ");
+  EXPECT_EQ(nuevas[6], " ");
 }
 
 class Indicadores : public testing::Test {
@@ -71,6 +82,25 @@ TEST_F(Indicadores, ViviendaSinRefrigeracionCalificada) {
     EXPECT_EQ(v.at(nombre), "( - )") << nombre;
   EXPECT_FALSE(v.contains("EMI_ILU_CO2"));
   EXPECT_FALSE(v.contains("W_ILU_REF"));
+}
+
+TEST_F(Indicadores, LaEscalaDelFrioQueNoSeCalificaNoSeEnsena) {
+  caso.Poner(0, "D1", "Existente");
+  const Mapa v = Variables(caso, VariablesEscalas);
+  EXPECT_EQ(v.at("LIM_A_P4"), "( - )");
+  EXPECT_EQ(v.at("MIM_G_M4"), "( - )");
+  EXPECT_EQ(v.at("LIM_A_P3"), "     A &lt; 1.00");
+}
+
+TEST_F(Indicadores, UnaSimulacionLibreNoTieneLetras) {
+  caso.Poner(0, "D1", "Nuevo");
+  DatosGenerales g = caso.edificio->GetDatosGenerales();
+  g.Tiposimulacion = "Simulacion";
+  caso.edificio->SetDatosGenerales(g);
+  const Mapa v = Variables(caso, VariablesIndicadores);
+  for (const char* nombre : {"W_EMI_CAL_CO2", "W__EMI_ACS_CO2", "W_PRIM_CAL", "W_PRIM_REF"})
+    EXPECT_EQ(v.at(nombre), "") << nombre;
+  EXPECT_EQ(v.at("DEMGLREF"), "7.00");  // ni deja el frío fuera
 }
 
 TEST_F(Indicadores, LasSeriesDeEscalasSonDeSuIndicador) {
