@@ -86,7 +86,8 @@ void Envolvente(const ResultadosCaso& r, const VerificacionHE& ve, bool aplica, 
   }
   v.Cifra("QSOLJUL", ve.q.q);
   v.Veredicto("QSOLJULLIM", "QSOLJULCUMPLE", aplica, ve.q.q, ve.q.registro.limite.value_or(0));
-  const bool sinN50 = ve.n50.n50 == 0.0 && ve.n50.limite == 0.0;
+  // Donde no se exige no hay valor que comparar: ni en lo existente ni en los edificios pequeños.
+  const bool sinN50 = !ve.n50.registro.aplica || (ve.n50.n50 == 0.0 && ve.n50.limite == 0.0);
   const auto n50 = [&](double x) {
     return sinN50 ? std::string(kNoAplicable) : CifraDocumento(static_cast<float>(x));
   };

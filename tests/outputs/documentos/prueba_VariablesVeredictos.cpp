@@ -65,6 +65,20 @@ TEST_F(Veredictos, LoQueNoSeExigeNoTieneLimite) {
   EXPECT_EQ(v.at("K"), "0.60");
 }
 
+// Su valor teórico se calcula siempre: solo se compara donde se exige.
+TEST_F(Veredictos, ElCambioDeAireQueNoSeExigeNoIncumple) {
+  verificacion.n50.n50 = 6.2;
+  verificacion.n50.limite = 4.5;
+  auto v = Variables();
+  EXPECT_EQ(v.at("N50"), "6.20");
+  EXPECT_EQ(v.at("N50LIM"), "4.50");
+  EXPECT_EQ(v.at("N50CUMPLE"), "No cumple");
+  verificacion.n50.registro.aplica = false;
+  v = Variables();
+  for (const char* nombre : {"N50", "N50LIM", "N50CUMPLE"})
+    EXPECT_EQ(v.at(nombre), "No aplicable") << nombre;
+}
+
 TEST_F(Veredictos, HorasYDemandasPequenas) {
   auto v = Variables();
   EXPECT_EQ(v.at("HORASFUERACONSIGNA"), "4.00");
