@@ -78,11 +78,14 @@ class Cerramientos {
   void AnadirComposicion(const composicion& c) {
     if (SinNombre(c) && c.capas.empty()) return;
     const std::string nombre = TextoHtml(c.nombre);
-    const auto esLaMisma = [&](const MC_CERRAMIENTO& otra) { return otra.composicion == nombre; };
     auto& lista = modelo_.composiciones;
     MC_CERRAMIENTO fila;
     fila.composicion = nombre;
     for (const material* capa : c.capas) fila.capas.push_back(FilaCapa(*capa));
+    // Dos cerramientos pueden llevar el mismo nombre con capas distintas.
+    const auto esLaMisma = [&](const MC_CERRAMIENTO& otra) {
+      return otra.composicion == nombre && otra.capas == fila.capas;
+    };
     if (std::none_of(lista.begin(), lista.end(), esLaMisma)) lista.push_back(std::move(fila));
   }
 

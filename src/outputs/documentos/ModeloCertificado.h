@@ -19,6 +19,7 @@ struct VBLE {
 /// Una capa de una composición.
 struct MC_CAPA {
   std::string nombre, conductividad, densidad, calorEspecifico, factorVapor, resistencia, espesor;
+  bool operator==(const MC_CAPA&) const = default;
 };
 
 /// Un elemento de la envolvente, o en la lista de capas una composición con las suyas.

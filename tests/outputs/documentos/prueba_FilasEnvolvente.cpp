@@ -66,6 +66,23 @@ TEST_F(FilasEnvolvente, UnCerramientoPorOrientacionYUnaComposicion) {
   EXPECT_TRUE(modelo.composiciones[1].capas.empty());
 }
 
+TEST_F(FilasEnvolvente, DosComposicionesConElMismoNombreNoSonLaMisma) {
+  Edificio& e = *caso.edificio;
+  Recinto& r = e.GetRecinto(0);
+  r = {};
+  for (std::size_t i = 0; i < 3; ++i) {
+    const std::size_t muro = ranura::MuroExt1 + i;
+    r.Muro_ext_m2[i][norte] = 10;
+    e.AnadirMaterial(Capa("Ladrillo", i == 1 ? 0.24F : 0.12F, 0.85F), muro);
+    e.GetComposicion(muro).nombre = "Fachada";
+  }
+  FilasCerramientos(caso.Mostrar(), modelo);
+  EXPECT_EQ(modelo.cerramientos.size(), 3U);
+  ASSERT_EQ(modelo.composiciones.size(), 2U);
+  EXPECT_EQ(modelo.composiciones[0].capas.at(0).espesor, "0.12");
+  EXPECT_EQ(modelo.composiciones[1].capas.at(0).espesor, "0.24");
+}
+
 TEST(ModoDefinicionCerramiento, SinNadaNoEstaDefinido) {
   composicion c;
   EXPECT_EQ(ModoDefinicion(c), "No definido");
