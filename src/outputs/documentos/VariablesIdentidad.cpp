@@ -1,9 +1,8 @@
 #include "outputs/documentos/VariablesIdentidad.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 
+#include "base/NumeroTexto.h"
 #include "demand/CargaInternaMedia.h"
 #include "files/ComunidadAutonoma.h"
 #include "model/Catastro.h"
@@ -14,13 +13,17 @@ namespace {
 
 constexpr std::size_t kVisitas = 3;
 constexpr std::size_t kLineasVisita = 10;
+constexpr int kCifrasSuperficie = 5;
 constexpr std::size_t kMemoPrimeraVisita = 1;
 constexpr const char* kHorasResidencial = "8760";
 constexpr const char* kCargaResidencial = "4.812";  // W/m2
 
-// Forma general con cinco cifras significativas.
-std::string CincoCifrasGeneral(float valor) {
-  return fmt::format("{:.5g}", valor);
+// Con cinco cifras significativas como mucho y sin ceros al final: "130", "98.45", "123460".
+std::string CincoCifras(float valor) {
+  std::string texto = FijoCifras(static_cast<double>(valor), kCifrasSuperficie, kCifrasSuperficie);
+  texto.erase(texto.find_last_not_of('0') + 1);
+  if (texto.ends_with('.')) texto.pop_back();
+  return texto;
 }
 
 // La lista del programa lleva la norma como una clave: "NBE_CT_79".
@@ -83,7 +86,7 @@ void VariablesUso(const CasoCalculado& caso, double compacidad, std::vector<VBLE
     variables.push_back({nombre, std::move(valor)});
   };
   for (const char* nombre : {"SUP", "AUTIL"})
-    poner(nombre, CincoCifrasGeneral(recinto.Suelo_habitable_m2));
+    poner(nombre, CincoCifras(recinto.Suelo_habitable_m2));
   for (const char* nombre : {"VOL", "VOLINF"}) poner(nombre, CifraDocumento(volumen));
   poner("VA", CifraDocumento(static_cast<float>(compacidad)));
   poner("CAUDALVENT", CifraDocumento(volumen * edificio.GetVentilacion().nrenovventilacion));

@@ -59,6 +59,14 @@ TEST(VariablesIdentidad, UsoResidencialYTerciario) {
   variables.clear();
   VariablesUso(caso.Mostrar(), 1.618, variables);
   EXPECT_EQ(Mapa(variables).at("TIEMPOOCUPACION"), "3448.00");
+  const std::pair<float, const char*> superficies[] = {
+      {123456, "123460"}, {130, "130"}, {98.45F, "98.45"}, {0.5F, "0.5"}, {0, "0"}};
+  for (const auto& [superficie, texto] : superficies) {
+    recinto.Suelo_habitable_m2 = superficie;
+    variables.clear();
+    VariablesUso(caso.Mostrar(), 1.618, variables);
+    EXPECT_EQ(Mapa(variables).at("SUP"), texto);
+  }
 }
 
 TEST(VariablesIdentidad, LasVisitasLlevanDiezLineas) {
