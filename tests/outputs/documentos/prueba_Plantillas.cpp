@@ -9,6 +9,7 @@
 #include "outputs/documentos/ConstruirModelo.h"
 #include "outputs/documentos/EscribirDocumento.h"
 #include "outputs/documentos/RellenoPlantilla.h"
+#include "outputs/documentos/VariablesIdentidad.h"
 
 namespace novex {
 namespace {
@@ -110,6 +111,26 @@ TEST(Plantillas, CadaListaTieneSuSitio) {
         "LISTADO_EQUACS", "LISTADO_CONSUMOS", "LISTADO_PRODUCCIONES", "LISTADO_PUENTESTERMICOS",
         "LISTADO_FUNCIONAMIENTO", "MEJORAS", "CONDENSACIONES_MUROS", "CERRAMIENTOS_CAPAS"})
     EXPECT_NE(TextoPlantillas().find(std::string("<!--TAG:") + lista), std::string::npos) << lista;
+}
+
+// La hoja de estilo esconde una visita sin fecha cuyo "data-linea" está vacío.
+TEST(Plantillas, UnaVisitaConSoloSuDecimaLineaSeVe) {
+  DatosGenerales g;
+  g.Memo[2].resize(10);
+  g.Memo[2].back() = "Se midieron los huecos";
+  NOVEX_TO_MODELOCERTIFICADO modelo;
+  VariablesVisitas(g, modelo.variables);
+  for (const bool residencial : {true, false}) {
+    const std::string documento = RellenarPlantilla(
+        LeerFichero(PlantillasDe(kDatos, TipoDocumento::Certi, residencial).documento), modelo, "");
+    const auto visita = [&](const std::string& numero, const std::string& lineas) {
+      return documento.find("data-fecha=\"Visita" + numero + ". Fecha: \" data-linea=\"" + lineas +
+                            "\"") != std::string::npos;
+    };
+    EXPECT_TRUE(visita("1", ""));
+    EXPECT_TRUE(visita("2", "Se midieron los huecos"));
+    EXPECT_TRUE(visita("3", ""));
+  }
 }
 
 // La primera marca de la lista que se encuentra es la que se cambia, aunque sea el final de otra.
