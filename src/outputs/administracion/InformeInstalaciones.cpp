@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "demand/AjustesUso.h"
 #include "outputs/administracion/EscrituraInforme.h"
 #include "outputs/documentos/EquiposServicio.h"
+#include "outputs/documentos/VariablesEspacio.h"
 
 namespace novex {
 namespace {
@@ -69,21 +69,17 @@ const char* SiNo(bool valor) {
 }
 
 void AnadirUnidadDeAire(XMLNode& instalaciones, const Edificio& edificio) {
-  const AjustesUso ajustes = ResolverAjustes(edificio);
-  if (ajustes.aire == SistemaAire::Toma) return;
+  const auto uta = UnidadDeAireDe(edificio);
+  if (!uta) return;
   XMLNode n = instalaciones.appendChild("SistemasSecundariosCalefaccionRefrigeracion")
                   .appendChild("Sistema");
-  AnadirDato(n, "Nombre", ajustes.aire == SistemaAire::UTA ? "UTA" : "UTAprimario");
+  AnadirDato(n, "Nombre", uta->nombre);
   AnadirDato(n, "Tipo", "Unidad de tratamiento de aire");
   AnadirDato(n, "ZonaAsociada", "Unica");
-  AnadirDato(n, "EnfriamientoEvaporativo", SiNo(ajustes.hayHumectador));
-  AnadirDato(n, "RecuperacionEnergia",
-             SiNo(ajustes.recuperador != TipoRecuperador::No &&
-                  ajustes.recuperador != TipoRecuperador::Otro));
-  AnadirDato(n, "EnfriamientoGratuito", SiNo(ajustes.ConEnfriamiento()));
-  AnadirDato(n, "TipoControl",
-             ajustes.PorOcupacion() ? "Ventilacion con sonda CO2"
-                                    : "Ventilacion fijada en coef, operacionales");
+  AnadirDato(n, "EnfriamientoEvaporativo", SiNo(false));
+  AnadirDato(n, "RecuperacionEnergia", SiNo(uta->recuperacion));
+  AnadirDato(n, "EnfriamientoGratuito", SiNo(uta->enfriamientoGratuito));
+  AnadirDato(n, "TipoControl", uta->control);
 }
 
 // Consumo del año de un ventilador o de las bombas de un servicio.

@@ -1,11 +1,11 @@
 #include <algorithm>
 #include <array>
 
-#include "demand/AjustesUso.h"
 #include "outputs/bloques/AuxiliaresSistema.h"
 #include "outputs/bloques/Bloque.h"
 #include "outputs/bloques/BloquesResultados.h"
 #include "outputs/documentos/VariablesEquipos.h"
+#include "outputs/documentos/VariablesEspacio.h"
 #include "systems/ArregloACS.h"
 
 namespace novex {
@@ -103,17 +103,15 @@ float Mayor(const SerieHoraria& serie) {
 
 // La unidad de tratamiento de aire de un terciario.
 void AnadirSecundario(const CasoCalculado& caso, Nodos& nodos) {
-  const AjustesUso ajustes = ResolverAjustes(*caso.edificio);
-  if (ajustes.residencial || ajustes.aire == SistemaAire::Toma) return;
+  const auto uta = UnidadDeAireDe(*caso.edificio);
+  if (!uta) return;
   const SeriesZona& zona = caso.resultado->zona;
-  const bool recupera =
-      ajustes.recuperador != TipoRecuperador::No && ajustes.recuperador != TipoRecuperador::Otro;
   nodos.push_back(Grupo("SistemaSecundario",
-                        {Hoja("Id", "SEC-1"), Hoja("Nombre", "UTAprimario"),
+                        {Hoja("Id", "SEC-1"), Hoja("Nombre", uta->nombre),
                          Hoja("Tipo", caso.edificio->GetDatosGenerales().ManejoVentilacion),
                          Hoja("Zonas", kZonaUnica), Hoja("EnfriamientoEvaporativo", SiNo(false)),
-                         Hoja("RecuperacionEnergia", SiNo(recupera)),
-                         Hoja("EnfriamientoGratuito", SiNo(ajustes.PruebaEnfriamientoGratuito())),
+                         Hoja("RecuperacionEnergia", SiNo(uta->recuperacion)),
+                         Hoja("EnfriamientoGratuito", SiNo(uta->enfriamientoGratuito)),
                          HojaCifra("PotenciaVentilacion", Mayor(zona.CV) * 0.001F),
                          HojaCifra("CaudalImpulsion", Mayor(zona.CUTA))}));
 }

@@ -34,10 +34,9 @@ bool HayRecuperador(TipoRecuperador recuperador) {
   return recuperador != TipoRecuperador::No && recuperador != TipoRecuperador::Otro;
 }
 
-std::string_view ControlAire(const DatosGenerales& g) {
-  if (g.TipoCO2 == "Proporcional al nº personas (sonda CO2)")
-    return "Proporcional al nº personas (sonda CO2)";
-  if (g.TipoCO2 == "SondaCO2 con freecooling") return "Ventilacion con sonda CO2";
+const char* ControlAire(ModulacionAire modulacion) {
+  if (modulacion == ModulacionAire::Sonda) return "Proporcional al nº personas (sonda CO2)";
+  if (modulacion == ModulacionAire::SondaEnfriamiento) return "Ventilacion con sonda CO2";
   return "Ventilacion fijada en coef, operacionales";
 }
 
@@ -52,25 +51,23 @@ void SinUnidadDeAire(const char* motivo, Textos& poner) {
 
 // La unidad no produce calor ni frío: lo recupera. Sus potencias son 0, y su rendimiento, el del
 // recuperador.
-void UnidadDeAire(const DatosGenerales& g, const AjustesUso& ajustes, Textos& poner) {
-  const bool todoAire = ajustes.aire == SistemaAire::UTA;
-  const bool recupera = HayRecuperador(ajustes.recuperador);
+void UnidadDeAire(const UnidadTratamientoAire& uta, float eficiencia, Textos& poner) {
   poner("SISTEMASSECUNDARIOS", "");
-  poner("NOMBRESECUNDARIO", todoAire ? "UTA" : "UTAprimario");
-  poner("TIPOSECUNDARIO", todoAire ? "UTA (Sistema todo aire)" : "UTAprimario (aire exterior)");
+  poner("NOMBRESECUNDARIO", uta.nombre);
+  poner("TIPOSECUNDARIO", uta.todoAire ? "UTA (Sistema todo aire)" : "UTAprimario (aire exterior)");
   poner("ZONASECUNDARIO", "Unica");
   poner("POTCALSEC", 0.0F);
   poner("POTFRIOSEC", 0.0F);
   for (const char* nombre : {"RENDCALSEC", "RENDFRIOSEC"}) {
-    if (recupera)
-      poner(nombre, g.Eficiencia_recuperador);
+    if (uta.recuperacion)
+      poner(nombre, eficiencia);
     else
       poner(nombre, kNada);
   }
-  poner("ENFGRATUITO", SiNo(ajustes.PruebaEnfriamientoGratuito()));
+  poner("ENFGRATUITO", SiNo(uta.enfriamientoGratuito));
   poner("ENFEVAP", SiNo(false));
-  poner("RECEENE", SiNo(recupera));
-  poner("CONTROLSEC", ControlAire(g));
+  poner("RECEENE", SiNo(uta.recuperacion));
+  poner("CONTROLSEC", uta.control);
 }
 
 }  // namespace
@@ -121,13 +118,22 @@ void VariablesAuxiliares(const CasoCalculado& caso, std::vector<VBLE>& variables
   poner("TORREREFRIGERACION", g.EsResidencial() ? kSoloTerciario : kNoExisten);
   for (const char* nombre : {"NOMBRETORRE", "TIPOTORRE", "SERVICIOTORRE", "CONSUMOTORRE"})
     poner(nombre, "");
-  const AjustesUso ajustes = ResolverAjustes(*caso.edificio);
-  if (g.EsResidencial())
-    SinUnidadDeAire(kSoloTerciario, poner);
-  else if (ajustes.aire == SistemaAire::Toma)
-    SinUnidadDeAire(kNoExisten, poner);
+  if (const auto uta = UnidadDeAireDe(*caso.edificio))
+    UnidadDeAire(*uta, g.Eficiencia_recuperador, poner);
   else
-    UnidadDeAire(g, ajustes, poner);
+    SinUnidadDeAire(g.EsResidencial() ? kSoloTerciario : kNoExisten, poner);
+}
+
+std::optional<UnidadTratamientoAire> UnidadDeAireDe(const Edificio& edificio) {
+  const AjustesUso ajustes = ResolverAjustes(edificio);
+  if (ajustes.residencial || ajustes.aire == SistemaAire::Toma) return std::nullopt;
+  UnidadTratamientoAire uta;
+  uta.todoAire = ajustes.aire == SistemaAire::UTA;
+  uta.nombre = uta.todoAire ? "UTA" : "UTAprimario";
+  uta.recuperacion = HayRecuperador(ajustes.recuperador);
+  uta.enfriamientoGratuito = ajustes.PruebaEnfriamientoGratuito();
+  uta.control = ControlAire(ajustes.modulacion);
+  return uta;
 }
 
 }  // namespace novex

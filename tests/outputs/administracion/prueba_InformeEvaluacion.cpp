@@ -187,6 +187,24 @@ TEST_F(Informe, EnTerciarioVanLaReferenciaYLaIluminacion) {
   EXPECT_EQ(Texto(n, "DatosGeneralesyGeometria/VentilacionUsoResidencial"), "(falta)");
 }
 
+// El humectador no enfría, y el primer perfil terciario no prueba el enfriamiento gratuito.
+TEST_F(Informe, LaUnidadDeAireEsLaDelCertificado) {
+  caso.Poner(3, "D3", "Existente");
+  Cambiar([](DatosGenerales& g) {
+    g.ManejoVentilacion = "UTAprimario_Ventilacion_indep.";
+    g.UTAHumectacion = "HumectadorSi";
+    g.TipoCO2 = "SondaCO2 con freecooling";
+  });
+  const char* const kUnidad =
+      "InstalacionesTermicas/SistemasSecundariosCalefaccionRefrigeracion/Sistema/";
+  const auto dice = [&](const char* dato) { return Texto(Leer(), kUnidad + std::string(dato)); };
+  EXPECT_EQ(dice("Nombre"), "UTAprimario");
+  EXPECT_EQ(dice("EnfriamientoEvaporativo"), "No");
+  EXPECT_EQ(dice("EnfriamientoGratuito"), "No");
+  Cambiar([](DatosGenerales& g) { g.TipoCO2 = "Proporcional al nº personas (sonda CO2)"; });
+  EXPECT_EQ(dice("TipoControl"), "Proporcional al nº personas (sonda CO2)");
+}
+
 TEST_F(Informe, ExigenciasDeUnaViviendaQueSeVerifica) {
   Cambiar([](DatosGenerales& g) {
     g.TipoCertificado = "ProyectoReforma";
