@@ -39,6 +39,32 @@ struct InformeHecho {
   DatosDerivados derivados;
 };
 
+// Calcula una mejora del proyecto. Una sin acabar no impide el informe, que es de la base.
+// \returns false si no se ha podido
+bool CalcularMejora(GestorEdifActivo& gestor, const std::string& nombre, Entorno& entorno) {
+  const Edificio& mejora = *gestor.Caso(nombre);
+  if (!AvisosPrevios(mejora).empty()) return false;
+  try {
+    return CalcularCaso(gestor, nombre, entorno) && !mejora.GetCalculo()->resultados.depositoNulo;
+  } catch (const ErrorCalculo& error) {
+    entorno.mensajes.Avisar(kAviso, nombre + ": " + error.what());
+    return false;
+  }
+}
+
+// La base, ya calculada, y las mejoras que se pueden calcular.
+std::vector<CasoCalculado> CasosDelProyecto(GestorEdifActivo& gestor, const CasoCalculado& base,
+                                            Entorno& entorno) {
+  std::vector<CasoCalculado> casos = {base};
+  for (std::size_t i = 1; i < gestor.NumeroCasos(); ++i) {
+    const std::string nombre(GestorEdifActivo::NombreCasoUsuario(i));
+    const Edificio* mejora = gestor.Caso(nombre);
+    if (mejora != nullptr && CalcularMejora(gestor, nombre, entorno))
+      casos.push_back({nombre, mejora, mejora->GetCalculo().get(), {}});
+  }
+  return casos;
+}
+
 std::optional<InformeHecho> HacerInforme(GestorEdifActivo& gestor, Entorno& entorno) {
   Edificio& base = *gestor.Caso(caso::kViejo);
   if (!CalcularCaso(gestor, caso::kViejo, entorno)) return std::nullopt;
@@ -49,7 +75,8 @@ std::optional<InformeHecho> HacerInforme(GestorEdifActivo& gestor, Entorno& ento
   if (!mejoras) return std::nullopt;
   const DocumentosHE documentos = LeerDocumentosHE(entorno.ficheros.Espacio().Datos());
   const CasoCalculado caso = {std::string(caso::kViejo), &base, &resultado, {}};
-  DatosDerivados derivados = DerivadosDeResultados({caso}, documentos);
+  DatosDerivados derivados =
+      DerivadosDeResultados(CasosDelProyecto(gestor, caso, entorno), documentos);
   std::vector<const Edificio*> proyecto;
   for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i)
     if (const Edificio* otro = gestor.Caso(GestorEdifActivo::NombreCasoUsuario(i)))

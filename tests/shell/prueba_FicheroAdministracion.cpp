@@ -256,6 +256,23 @@ TEST_F(FicheroAdministracion, NoRepiteElCalculoYDejaHacerElInformeAOtro) {
   EXPECT_EQ(Base().GetCalculo().get(), antes);
 }
 
+TEST_F(FicheroAdministracion, ElProyectoDiceLasMejorasQueSeHanPodidoCalcular) {
+  Abrir(Ejemplo());
+  gestor.ActivarCaso(caso::kViejo);
+  gestor.AnadirMejora();
+  gestor.AnadirMejora();
+  gestor.Caso("Mejora_2")->GetRecinto(0).Suelo_habitable_m2 = 0;  // sin acabar
+  const auto escritura = Escribir(carpeta / "casa.xml");
+  ASSERT_EQ(escritura.fin, FinAdministracion::Escrito);
+  const XMLNode novex = En(XMLNode::loadFile(escritura.proyecto, "DatosEnergeticosDelEdificio"),
+                           {"DatosPersonalizados", "Novex"});
+  const XMLNode medidas = novex.childNamed("MedidasMejora");
+  EXPECT_EQ(medidas.childNamed("SinPosibilidadMejora").textAt(0), "No");
+  EXPECT_EQ(medidas.childCount(), 3U);  // una medida y la secuencia
+  EXPECT_EQ(Cifra(medidas, {"MedidaMejora", "Indicadores", "Emisiones", "Tot"}),
+            Cifra(novex, {"Indicadores", "Emisiones", "Tot"}));  // es una copia de la base
+}
+
 TEST_F(FicheroAdministracion, LasMedidasMarcadasSonLasDelEstudio) {
   Abrir(Ejemplo());
   Base().SetEstudioModificaciones({{{11, true, "1000", "8", {}}, {15, false, "5", "", {}}}});
