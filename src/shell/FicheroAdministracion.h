@@ -37,6 +37,7 @@ struct EscrituraAdministracion {
 
 /// Hace el fichero para la administración del caso base: comprueba sus datos, lo calcula si no lo
 /// está, mide sus medidas marcadas, guarda el proyecto como siempre y escribe el informe a su lado.
+/// Calcula también los casos de mejora que puede, para que el proyecto guarde lo suyo.
 /// Antes de guardar no se ha escrito nada. De lo que lo impide, y al acabar, avisa.
 /// \throws ErrorFichero si no se puede escribir \throws ErrorCalculo como `CalcularCaso`
 EscrituraAdministracion EscribirFicheroAdministracion(GestorEdifActivo& gestor,
