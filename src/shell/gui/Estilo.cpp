@@ -18,8 +18,11 @@ void PonerEstilo(QApplication& aplicacion) {
     QLabel[papel="aviso"] { color: %2; }
     QLineEdit[distinto="true"], QComboBox[distinto="true"] { border-left: 3px solid %3; }
     QLineEdit { padding: 3px 5px; }
-    QGroupBox { font-weight: 600; margin-top: 12px; }
-    QGroupBox::title { subcontrol-origin: margin; left: 4px; }
+    QGroupBox { font-weight: 600; margin-top: 1.6em; padding-top: 0.5em;
+                border: 1px solid palette(mid); border-radius: 4px; }
+    QGroupBox::title { subcontrol-origin: margin; left: 2px; }
+    QGroupBox QLabel, QGroupBox QComboBox, QGroupBox QCheckBox, QGroupBox QLineEdit,
+    QGroupBox QRadioButton, QGroupBox QPushButton { font-weight: normal; }
     QListWidget { border: none; background: transparent; }
   )")
                                .arg(suave, aviso, distinto));
