@@ -55,4 +55,9 @@ ErrorFichero ErrorLecturaXml(const std::string& ruta, int codigo, PosicionTexto 
   return {ruta, codigo, donde.linea, donde.columna, mensaje};
 }
 
+bool EsDeLecturaXml(const ErrorFichero& error) {
+  return error.codigo != codigoXml::kSinError && error.codigo != codigoXml::kNoSeAbre &&
+         error.codigo != codigoXml::kNoSeEscribe;
+}
+
 }  // namespace novex

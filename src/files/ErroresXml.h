@@ -51,4 +51,7 @@ PosicionTexto PosicionDe(std::string_view texto, std::size_t desplazamiento);
 ErrorFichero ErrorLecturaXml(const std::string& ruta, int codigo, PosicionTexto donde,
                              std::string_view raiz = {}, std::string_view detalle = {});
 
+/// ¿Es de un XML que no se entiende o que falta, y no de abrirlo, escribirlo o de su versión?
+bool EsDeLecturaXml(const ErrorFichero& error);
+
 }  // namespace novex

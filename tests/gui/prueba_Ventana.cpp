@@ -1,6 +1,11 @@
 #include "gui/VentanaPrueba.h"
 
+#include <QAbstractButton>
 #include <QComboBox>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "base/FicheroSeguro.h"
 
 namespace novex::gui::pruebas {
 namespace {
@@ -55,6 +60,34 @@ TEST_F(VentanaTest, UnCampoTecladoSeGuardaAvisaYSeDeshace) {
   EXPECT_EQ(sesion.QueDeshace(), "Edificio");
   sesion.Deshacer();
   EXPECT_EQ(sesion.Caso().GetDatosGenerales().Modo_trabajo, "Nuevo");
+}
+
+TEST_F(VentanaTest, UnFicheroRotoDejaLoAbiertoEnSuCopia) {
+  ASSERT_TRUE(ventana->Abrir(Ejemplo("piso_C2.xml")));
+  ventana->Contexto().Editar("título", [](Edificio& e) {
+    DatosGenerales g = e.GetDatosGenerales();
+    g.Edificio_Titulo = "a medias";
+    e.SetDatosGenerales(g);
+  });
+  const auto roto = carpeta / "roto.xml";
+  EscribirFichero(roto, "<DatosEnergeticosDelEdificio><a></b>");
+  // A la pregunta de si se guarda se contesta que no.
+  QTimer contestar;
+  QObject::connect(&contestar, &QTimer::timeout, &contestar, [&] {
+    auto* caja = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (caja == nullptr) return;
+    contestar.stop();
+    caja->button(QMessageBox::No)->click();
+  });
+  contestar.start(10);
+  EXPECT_FALSE(ventana->Abrir(roto));
+  ASSERT_EQ(mensajes.recibidos.size(), 1U);
+  EXPECT_NE(mensajes.recibidos[0].texto.find("XML Parsing error"), std::string::npos);
+  EXPECT_EQ(sesion.Caso().GetDatosGenerales().Edificio_Titulo, "a medias");
+  SesionProyecto otra(ficheros, mensajes);
+  ASSERT_TRUE(otra.Abrir(Recuperacion(carpeta / "copias").Fichero()));
+  EXPECT_EQ(otra.Caso().GetDatosGenerales().Edificio_Titulo, "a medias");
+  EXPECT_EQ(QApplication::exec(), kXmlErroneo);
 }
 
 }  // namespace

@@ -54,11 +54,6 @@ int Fallar(const std::string& texto, int codigo) {
   return codigo;
 }
 
-bool EsDeLecturaXml(const ErrorFichero& error) {
-  return error.codigo != codigoXml::kSinError && error.codigo != codigoXml::kNoSeAbre &&
-         error.codigo != codigoXml::kNoSeEscribe;
-}
-
 int Ejecutar(int argc, char** argv) {
   CLI::App programa("Demanda, consumo y calificación energética de edificios", "novex-cli");
   Espanol(programa);

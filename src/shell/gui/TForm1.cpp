@@ -13,7 +13,7 @@
 
 #include "base/ErrorFichero.h"
 #include "base/NumeroTexto.h"
-#include "compliance/TransmitanciaGlobal.h"
+#include "files/ErroresXml.h"
 #include "shell/gui/DialogoExpres.h"
 #include "shell/gui/PaginaAdministrativa.h"
 #include "shell/gui/PaginaHorarios.h"
@@ -316,15 +316,22 @@ bool TForm1::Abrir(const std::filesystem::path& ruta) {
   if (!PreguntarGuardar()) return false;
   try {
     if (!contexto_.Sesion().Abrir(ruta)) return false;
-  } catch (const ErrorFichero&) {
-    // El fichero no se entiende: el programa acaba, y lo abierto queda en su copia.
-    GuardarCopia();
-    throw;
+  } catch (const ErrorFichero& error) {
+    AvisarDeFichero(error);
+    return false;
   }
   recuperacion_.Quitar();
   Recordar(contexto_.Sesion().Fichero());
   emit contexto_.ProyectoCambiado();
   return true;
+}
+
+// Con un XML que no se entiende el programa acaba; lo abierto queda en su copia de recuperación. La
+// salida espera a que vuelva el hilo: Qt no deja pasar excepciones.
+void TForm1::AvisarDeFichero(const ErrorFichero& error) {
+  GuardarCopia();
+  mensajes_.Avisar("AVISO", error.what());
+  if (EsDeLecturaXml(error)) QTimer::singleShot(0, qApp, [] { QApplication::exit(kXmlErroneo); });
 }
 
 void TForm1::AbrirConDialogo() {
@@ -371,7 +378,7 @@ void TForm1::Anadir() {
   try {
     contexto_.Sesion().Anadir(S(ruta));
   } catch (const ErrorFichero& error) {
-    mensajes_.Avisar("AVISO", error.what());
+    AvisarDeFichero(error);
   }
   emit contexto_.ProyectoCambiado();
 }

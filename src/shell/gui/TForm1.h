@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <array>
 
+#include "base/ErrorFichero.h"
 #include "shell/Recuperacion.h"
 #include "shell/gui/ContextoGui.h"
 #include "shell/gui/MensajesVentana.h"
@@ -15,6 +16,9 @@
 #include "shell/gui/PanelVivo.h"
 
 namespace novex::gui {
+
+/// Código de salida con un fichero XML que no se entiende.
+inline constexpr int kXmlErroneo = 255;
 
 class PaginaTitulo;
 class TDefEdificio;
@@ -63,6 +67,7 @@ class TForm1 : public QMainWindow {
   /// \returns falso si el usuario cancela
   bool PreguntarGuardar();
   bool GuardarEn(const std::filesystem::path& ruta);
+  void AvisarDeFichero(const ErrorFichero& error);
   void Recordar(const std::filesystem::path& ruta);
   void AlEditar();
   void AlCambiarProyecto();

@@ -13,8 +13,6 @@ namespace {
 
 using namespace novex;
 
-constexpr int kXmlErroneo = 255;
-
 std::filesystem::path CarpetaPrograma() {
   return BuscarCarpetaPrograma(
       std::filesystem::path(QCoreApplication::applicationFilePath().toStdString()));
@@ -33,7 +31,9 @@ int Ejecutar(const std::optional<QString>& proyecto, gui::MensajesVentana& mensa
   ventana.showMaximized();
   ventana.OfrecerRecuperado();
   if (proyecto) ventana.Abrir(proyecto->toStdString());
-  return QApplication::exec();
+  const int salida = QApplication::exec();
+  mensajes.PonerPadre(nullptr);
+  return salida;
 }
 
 }  // namespace
@@ -52,8 +52,9 @@ int main(int argc, char** argv) {
   try {
     return Ejecutar(argumentos.size() == 2 ? std::optional(argumentos[1]) : std::nullopt, mensajes);
   } catch (const ErrorFichero& error) {
-    // El proyecto abierto queda en su copia de recuperación.
+    // Un fichero de la carpeta de programa: sin él no hay ventana.
+    mensajes.PonerPadre(nullptr);
     mensajes.Avisar("AVISO", error.what());
-    return kXmlErroneo;
+    return gui::kXmlErroneo;
   }
 }
