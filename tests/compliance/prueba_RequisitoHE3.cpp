@@ -43,21 +43,22 @@ TEST(HE3, EnElLimiteCumple) {
                   "El VEIIlím es 3.00", "El VEII de la instalación es = 3.00", "Cumple"));
 }
 
-TEST(HE3, BastaConQueFalleUno) {
-  const RequisitoHE3 potencia = ComprobarHE3(Oficina(599, 10.01F, 3, 3));
-  EXPECT_FALSE(potencia.pasa);
-  EXPECT_EQ(potencia.lineas[3], "No cumple");
-  EXPECT_EQ(potencia.lineas[6], "Cumple");
-  const RequisitoHE3 eficiencia = ComprobarHE3(Oficina(599, 10, 3.01F, 3));
-  EXPECT_FALSE(eficiencia.pasa);
-  EXPECT_EQ(eficiencia.lineas[3], "Cumple");
-  EXPECT_EQ(eficiencia.lineas[6], "No cumple");
-}
-
-TEST(HE3, Con600LuxLaPotenciaMaximaEs25) {
-  const RequisitoHE3 r = ComprobarHE3(Oficina(600, 25, 2, 2.5F));
-  EXPECT_TRUE(r.pasa);
-  EXPECT_EQ(r.veredictos[0].limite, 25);
+TEST(HE3, CadaLimitePorSuLadoYConSuPotenciaMaxima) {
+  struct Caso {
+    float lux, potencia, VEII;
+    const char *dePotencia, *deVEII;
+    double maxima;
+  };
+  const Caso casos[] = {{599, 10.01F, 3, "No cumple", "Cumple", 10},
+                        {599, 10, 3.01F, "Cumple", "No cumple", 10},
+                        {600, 25, 3, "Cumple", "Cumple", 25}};
+  for (const Caso& c : casos) {
+    const RequisitoHE3 r = ComprobarHE3(Oficina(c.lux, c.potencia, c.VEII, 3));
+    EXPECT_EQ(r.lineas[3], c.dePotencia);
+    EXPECT_EQ(r.lineas[6], c.deVEII);
+    EXPECT_EQ(r.pasa, r.lineas[3] == r.lineas[6]);
+    EXPECT_EQ(r.veredictos[0].limite, c.maxima);
+  }
 }
 
 }  // namespace
