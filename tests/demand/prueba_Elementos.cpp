@@ -61,17 +61,6 @@ TEST_F(Elementos, ElMuroReparteSuSombraEntreSuOrientacionYElNorte) {
   EXPECT_NEAR(Valor("0-Muro2S", 8000), esperado, 1e-2);
 }
 
-TEST_F(Elementos, LosSuelosSiguenALaTemperaturaDeLaZona) {
-  r.Suelo_ext_m2[1] = 10;
-  caso->clima.SUELOEXT[5] = -12;
-  ElementosOpacos opacos(edificio, Ajustes(0), *caso);
-  // 10 × 0,9 × 0,5 × -12 por 0,5 hasta 20 °C, 1,5 desde 25 y lineal en medio.
-  EXPECT_NEAR(opacos.Ganancias(5, 1, 15), -27, 1e-3);
-  EXPECT_NEAR(opacos.Ganancias(5, 1, 22.5F), -54, 1e-3);
-  EXPECT_NEAR(opacos.Ganancias(5, 1, 25), -81, 1e-3);
-  EXPECT_NEAR(Valor("0-SueloExt2", 5), -81, 1e-3);
-}
-
 TEST_F(Elementos, CubiertasYEspaciosNoAcondicionados) {
   r.Cubierta_horiz_sol_m2[0] = 50;
   r.Cubierta_horiz_sombra_m2[0] = 20;
@@ -91,21 +80,6 @@ TEST_F(Elementos, CubiertasYEspaciosNoAcondicionados) {
   EXPECT_NEAR(Valor("0-MuroLocalNoHabL_N2", 1), 12 * 0.9 * 0.5 * 0.5 * -5, 1e-3);
   EXPECT_EQ(caso->valores.size(), 4U);
   EXPECT_NEAR(suma, 90 + 72 - 9.45 - 13.5, 1e-2);
-}
-
-// Un hueco al sur de 2 m2 con un pulso de 500 W/m2 a las 12 h del 1 de enero.
-TEST_F(Elementos, ElSolDeLaVentanaSeRetrasaDiezHoras) {
-  edificio.GetHuecos(0).columnas[sur].Anadir(1);
-  caso->clima.CENITS[12] = 60;
-  caso->clima.IRAD[sur][12] = 500;
-  ElementosHuecos huecos(edificio, Ajustes(4), *caso);
-  float total = 0;
-  for (int h = 1; h <= 40; ++h) total += huecos.Ganancias(h, 1);
-  EXPECT_NEAR(Valor("0-S-G-1", 12), 0.769 * 800, 1e-2);
-  EXPECT_NEAR(Valor("0-S-G-1", 13), 0.33 * 0.17 * 800, 1e-2);
-  EXPECT_NEAR(Valor("0-S-G-1", 22), 0.33 * 0.03 * 800, 1e-2);
-  EXPECT_EQ(Valor("0-S-G-1", 23), 0.0F);
-  EXPECT_NEAR(total, 0.9967 * 800, 1e-2);
 }
 
 TEST_F(Elementos, LaParteEnSombraRecibeLoQueElNorte) {

@@ -61,14 +61,9 @@ TEST(CoeficientesMuroTerreno, PorSuProfundidad) {
   Esperar(CoeficientesMuroTerreno(0.8F, 30, 0), 16.33138, 13.08539, 9.282485);
 }
 
-TEST(FlujoTerreno, SumaLaMediaYLasDosOndas) {
-  const CoeficientesTerreno c{10, 20, 5};
-  // Febrero: -((22 - 15) 10 - cos 30° 3 20 + cos 0° 8 5).
-  EXPECT_NEAR(FlujoTerreno(c, 2, 15, 8), -58.0385, 1e-3);
-  // Enero: -(70 - 60 + cos(-30°) 40).
-  EXPECT_NEAR(FlujoTerreno(c, 1, 15, 8), -44.6410, 1e-3);
-  // Agosto: la onda exterior, al revés que en febrero.
-  EXPECT_NEAR(FlujoTerreno(c, 8, 15, 8), -81.9615, 1e-2);
+TEST(DimensionCaracteristica, DobleDelAreaEntreElPerimetro) {
+  EXPECT_FLOAT_EQ(DimensionCaracteristica(100, 40), 5);
+  EXPECT_FLOAT_EQ(DimensionCaracteristica(100, 0), 20);
 }
 
 // Celdas de las tablas publicadas, y puntos medios entre ellas.
@@ -110,11 +105,6 @@ TEST(TransmitanciaTerreno, SoleraProfundaPorIntervalosDeProfundidad) {
   EXPECT_NEAR(USoleraProfunda(5, 0, 8), 0.35, 1e-5);
   EXPECT_NEAR(USoleraProfunda(11, 0.75F, 0.6F), (0.34 + 0.30 + 0.30 + 0.27) / 4, 1e-4);
   EXPECT_NEAR(USoleraProfunda(90, 9, 9), 0.14, 1e-5);
-}
-
-TEST(DimensionCaracteristica, DobleDelAreaEntreElPerimetro) {
-  EXPECT_FLOAT_EQ(DimensionCaracteristica(100, 40), 5);
-  EXPECT_FLOAT_EQ(DimensionCaracteristica(100, 0), 20);
 }
 
 }  // namespace

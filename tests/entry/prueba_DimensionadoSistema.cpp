@@ -31,14 +31,14 @@ void ExpectCerca(double valor, double esperado) {
 }
 
 TEST(PuntasZona, LetraYNumero) {
-  EXPECT_EQ(PuntaCalefaccionZona("alfa1c"), 10);
-  EXPECT_EQ(PuntaCalefaccionZona("A3c"), 35);
-  EXPECT_EQ(PuntaCalefaccionZona("B4"), 45);
-  EXPECT_EQ(PuntaCalefaccionZona("C1"), 50);
-  EXPECT_EQ(PuntaCalefaccionZona("E1"), 60);
-  EXPECT_EQ(PuntaRefrigeracionZona("alfa1c"), 40);
-  EXPECT_EQ(PuntaRefrigeracionZona("C2"), 40);
-  EXPECT_EQ(PuntaRefrigeracionZona("B4c"), 60);
+  for (const auto& [zona, calor, frio] : {std::tuple{"alfa1c", 10, 40},
+                                          {"A3c", 35, 50},
+                                          {"B4", 45, 60},
+                                          {"C1", 50, 40},
+                                          {"E1", 60, 40}}) {
+    EXPECT_EQ(PuntaCalefaccionZona(zona), calor) << zona;
+    EXPECT_EQ(PuntaRefrigeracionZona(zona), frio) << zona;
+  }
 }
 
 // 100 m2 y 112 l: 5,5 kW de calor, 5 de frío (7,142857 totales) y 112 × 0,026125 = 2,926 de agua.

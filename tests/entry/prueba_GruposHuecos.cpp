@@ -74,15 +74,6 @@ TEST(GruposHuecos, NumeroDeHuecosDeUnaColumna) {
   EXPECT_EQ(m.recibidos.size(), 2U);
 }
 
-TEST(GruposHuecos, RotulosYBotones) {
-  EXPECT_EQ(RotulosColumnasHuecos(kLucernario)[sur_este], "Inclinada SE..");
-  for (const int tipo : {kVentana, kPuerta, kEscaparate})
-    EXPECT_EQ(RotulosColumnasHuecos(tipo)[oeste], "Ventana O...");
-  EXPECT_EQ(TextoBotonAsignar("Simplificado"), "Asignar/Sombra");
-  EXPECT_EQ(TextoBotonAsignar("Completo"), "Asignar");
-  EXPECT_EQ(TituloCopiaPropiedades(1), "Copiar las propiedades térmicas de los huecos grupo 2 a:");
-}
-
 TEST(CopiarPropiedades, TodasMenosNombreTipoYMedidas) {
   Edificio e;
   e.GetHuecos(0) = Distinto();

@@ -32,18 +32,5 @@ TEST(ListasSistemas, LaAlimentacionEsLaDelArreglo) {
     }
 }
 
-TEST(ListasSistemas, ClasesPorServicioYTipologia) {
-  EXPECT_EQ(ClasesOfrecidas("Calefaccion", kIndividual).back(), "Rend. estacional");
-  EXPECT_EQ(ClasesOfrecidas("Calefaccion", kCentralizada).back(),
-            "Rend. estacional (refrigerante)");
-  EXPECT_EQ(ClasesOfrecidas("ACS", kIndividual).front(), "1 Calentador");
-  EXPECT_EQ(ClasesOfrecidas("Calefaccion+Refrigeracion", kIndividual).size(), 9U);
-  EXPECT_FALSE(EstaEn(ClasesOfrecidas("Calefaccion+Refrigeracion", kIndividual),
-                      "Enfriadora agua cond.aire"));
-  EXPECT_TRUE(ClasesOfrecidas("ACS", "").empty());
-  EXPECT_TRUE(ClasesOfrecidas("", kIndividual).empty());
-  EXPECT_TRUE(EmisoresOfrecidos("ACS", "1 Caldera").empty());
-}
-
 }  // namespace
 }  // namespace novex

@@ -25,22 +25,6 @@ struct CasoMinimo {
   const char* texto;  // nulo si no cambia
 };
 
-class PotenciasMinimas : public testing::TestWithParam<CasoMinimo> {};
-
-TEST_P(PotenciasMinimas, SubenConSuAviso) {
-  const CasoMinimo& c = GetParam();
-  auto edificio = EdificioD3(c.perfilUso, 100, 112);
-  pruebas::PonerViviendas(*edificio, 1, 0, c.banyos);
-  SistemaResidencial s = Nuevo(*edificio, c.tipo, c.clase);
-  s.instalaciones[0].*c.campo = c.antes;
-  RegistroMensajes mensajes;
-  RellenarSistema(*edificio, s, mensajes);
-  EXPECT_EQ(s.instalaciones[0].*c.campo, c.despues);
-  const std::vector<Mensaje> esperados =
-      c.texto == nullptr ? std::vector<Mensaje>{} : std::vector<Mensaje>{{"AVISO", c.texto}};
-  EXPECT_EQ(mensajes.recibidos, esperados);
-}
-
 using I = Instalaciones;
 const char* const kDiez =
     "En viviendas con 1 baño se considera una potencia mínima de calentador de 10 kW";
@@ -49,20 +33,32 @@ const char* const kDieciseis =
 const char* const kResistencia =
     "Se obliga como mínimo a que la potencia de la resistencia eléctrica seade 1 kW";
 
-INSTANTIATE_TEST_SUITE_P(
-    Sistema, PotenciasMinimas,
-    testing::Values(
-        CasoMinimo{"ACS", "1 Calentador", 0, 2, &I::QcalorCaldera1, 9.9F, 10, kDiez},
-        CasoMinimo{"ACS", "1 Calentador", 0, 2, &I::QcalorCaldera1, 10, 10, nullptr},
-        CasoMinimo{"ACS", "1 Calentador", 2, 3, &I::QcalorCaldera1, 10, 16, kDieciseis},
-        CasoMinimo{"ACS", "1 Calentador", 4, 1, &I::QcalorCaldera1, 5, 5, nullptr},
-        CasoMinimo{"ACS", "1 Caldera", 0, 1, &I::QcalorCaldera1, 5, 5, nullptr},
-        CasoMinimo{"ACS", "1 Termo electrico", 4, 1, &I::QApoyoEquipo, 0.5F, 1, kResistencia},
-        CasoMinimo{"ACS", "1 Interacumulador electrico", 0, 1, &I::QApoyoEquipo, 0, 1,
-                   kResistencia},
-        CasoMinimo{"ACS", "1 BC aire-agua", 0, 1, &I::QApoyoTermo, 0.9F, 1, kResistencia},
-        CasoMinimo{"ACS", "1 BC aire-agua", 0, 1, &I::QApoyoEquipo, 0, 0, nullptr},
-        CasoMinimo{"Calefaccion", "1 BC aire-agua", 0, 1, &I::QApoyoTermo, 0, 0, nullptr}));
+TEST(RellenarSistema, LasPotenciasMinimasSubenConSuAviso) {
+  const CasoMinimo casos[] = {
+      {"ACS", "1 Calentador", 0, 2, &I::QcalorCaldera1, 9.9F, 10, kDiez},
+      {"ACS", "1 Calentador", 0, 2, &I::QcalorCaldera1, 10, 10, nullptr},
+      {"ACS", "1 Calentador", 2, 3, &I::QcalorCaldera1, 10, 16, kDieciseis},
+      {"ACS", "1 Calentador", 4, 1, &I::QcalorCaldera1, 5, 5, nullptr},
+      {"ACS", "1 Caldera", 0, 1, &I::QcalorCaldera1, 5, 5, nullptr},
+      {"ACS", "1 Termo electrico", 4, 1, &I::QApoyoEquipo, 0.5F, 1, kResistencia},
+      {"ACS", "1 Interacumulador electrico", 0, 1, &I::QApoyoEquipo, 0, 1, kResistencia},
+      {"ACS", "1 BC aire-agua", 0, 1, &I::QApoyoTermo, 0.9F, 1, kResistencia},
+      {"ACS", "1 BC aire-agua", 0, 1, &I::QApoyoEquipo, 0, 0, nullptr},
+      {"Calefaccion", "1 BC aire-agua", 0, 1, &I::QApoyoTermo, 0, 0, nullptr}};
+  for (const CasoMinimo& c : casos) {
+    SCOPED_TRACE(std::string(c.clase) + " " + std::to_string(c.antes));
+    auto edificio = EdificioD3(c.perfilUso, 100, 112);
+    pruebas::PonerViviendas(*edificio, 1, 0, c.banyos);
+    SistemaResidencial s = Nuevo(*edificio, c.tipo, c.clase);
+    s.instalaciones[0].*c.campo = c.antes;
+    RegistroMensajes mensajes;
+    RellenarSistema(*edificio, s, mensajes);
+    EXPECT_EQ(s.instalaciones[0].*c.campo, c.despues);
+    std::vector<Mensaje> avisos;
+    if (c.texto != nullptr) avisos = {{"AVISO", c.texto}};
+    EXPECT_EQ(mensajes.recibidos, avisos);
+  }
+}
 
 // 20,9 kW y 5 °C son 3600 l/h.
 TEST(RellenarSistema, CaudalesDeLaPotenciaActual) {

@@ -61,19 +61,13 @@ TEST_F(UsoPorDefecto, Residencial) {
   EXPECT_EQ(edificio.GetLocalizacion().mesmax, 9);
   EXPECT_EQ(edificio.GetLocalizacion().ZonaClimatica, "C1");
 
-  EXPECT_FLOAT_EQ(Hora(C1, 0, 7), 2.15F);
-  EXPECT_FLOAT_EQ(Hora(C1, 0, 8), 0.54F);
-  EXPECT_FLOAT_EQ(Hora(C1, 0, 16), 1.08F);
-  EXPECT_FLOAT_EQ(Hora(C1, 0, 24), 2.15F);
-  EXPECT_FLOAT_EQ(Hora(C1, 1, 12), 2.15F);
-  EXPECT_FLOAT_EQ(Hora(C2, 0, 1), 1.36F);
-  EXPECT_FLOAT_EQ(Hora(CIlu, 0, 20), 4.4F);
-  EXPECT_FLOAT_EQ(Hora(CEq, 2, 19), 2.2F);
-  EXPECT_FLOAT_EQ(Hora(CTCh, 0, 7), 17);
-  EXPECT_FLOAT_EQ(Hora(CTCh, 0, 8), 20);
-  EXPECT_FLOAT_EQ(Hora(CTRh, 0, 7), 27);
-  EXPECT_FLOAT_EQ(Hora(CTRh, 0, 8), 0);
-  EXPECT_FLOAT_EQ(Hora(CTRh, 0, 16), 25);
+  const std::tuple<Familia, std::size_t, std::size_t, float> horas[] = {
+      {C1, 0, 7, 2.15F},  {C1, 0, 8, 0.54F}, {C1, 0, 16, 1.08F},  {C1, 0, 24, 2.15F},
+      {C1, 1, 12, 2.15F}, {C2, 0, 1, 1.36F}, {CIlu, 0, 20, 4.4F}, {CEq, 2, 19, 2.2F},
+      {CTCh, 0, 7, 17},   {CTCh, 0, 8, 20},  {CTRh, 0, 7, 27},    {CTRh, 0, 8, 0},
+      {CTRh, 0, 16, 25}};
+  for (const auto& [familia, clase, h, valor] : horas)
+    EXPECT_FLOAT_EQ(Hora(familia, clase, h), valor) << familia << " hora " << h;
   for (std::size_t familia = 0; familia < kFamilias; ++familia)
     for (const PerfilDiario& perfil : perfiles().tabla[familia]) EXPECT_EQ(perfil[0], 0);
 
@@ -103,19 +97,20 @@ TEST_F(UsoPorDefecto, TerciarioTomaSusPicosYSuHorario) {
   const float horas8 = Suma(perfiles().tabla[C1][0]);
   ASSERT_TRUE(AplicarUsoPorDefecto(raiz, "24hA", edificio, mensajes));
   const DatosGenerales& g = edificio.GetDatosGenerales();
-  EXPECT_EQ(g.Tipo, "24hA");
-  EXPECT_FLOAT_EQ(g.Sensibleocupantes, 10);
-  EXPECT_FLOAT_EQ(g.Latenteocupantes, 6.31F);
-  EXPECT_FLOAT_EQ(g.Iluminacion, 10);
-  EXPECT_FLOAT_EQ(g.Equipos, 7.5F);
+  EXPECT_EQ(std::tuple(g.Tipo, g.Sensibleocupantes, g.Latenteocupantes, g.Iluminacion, g.Equipos),
+            std::tuple("24hA", 10, 6.31F, 10, 7.5F));
   EXPECT_FLOAT_EQ(horas8, 800);  // 8 h al 100 %
   EXPECT_FLOAT_EQ(Suma(perfiles().tabla[C1][0]), 2400);
 }
 
 TEST_F(UsoPorDefecto, TodaPosicionDePerfilUsoTieneDatosCoherentes) {
+  const char* claves[] = {"Residencial", "Residencial", "Residencial", "8hB",  "8hM",  "8hA",
+                          "12hB",        "12hM",        "12hA",        "16hB", "16hM", "16hA",
+                          "24hB",        "24hM",        "24hA",        "12hM"};
   const XMLNode raiz = Catalogo(LeerCatalogo());
   for (int perfil = 0; perfil <= 15; ++perfil) {
     const std::string_view clave = ClaveUsoPorDefecto(perfil);
+    EXPECT_EQ(clave, claves[perfil]);
     ASSERT_TRUE(AplicarUsoPorDefecto(raiz, clave, edificio, mensajes)) << clave;
     // El agua caliente se reparte en % del día y las consignas no se cruzan.
     EXPECT_NEAR(Suma(perfiles().tabla[CCAC][0]), 100, 0.6) << clave;
@@ -125,13 +120,6 @@ TEST_F(UsoPorDefecto, TodaPosicionDePerfilUsoTieneDatosCoherentes) {
         EXPECT_TRUE(frio == 0 || frio > Hora(CTCh, clase, h)) << clave << " hora " << h;
       }
   }
-}
-
-TEST(ClaveUsoPorDefecto, PorPosicion) {
-  const char* claves[] = {"Residencial", "Residencial", "Residencial", "8hB",  "8hM",  "8hA",
-                          "12hB",        "12hM",        "12hA",        "16hB", "16hM", "16hA",
-                          "24hB",        "24hM",        "24hA",        "12hM"};
-  for (int i = 0; i < 16; ++i) EXPECT_EQ(ClaveUsoPorDefecto(i), claves[i]) << i;
   EXPECT_EQ(ClaveUsoPorDefecto(-1), "Residencial");
   EXPECT_EQ(ClaveUsoPorDefecto(16), "12hM");
 }
@@ -140,6 +128,7 @@ TEST_F(UsoPorDefecto, UnCatalogoConFaltasNoCargaNadaYDiceCual) {
   const std::string bueno = LeerCatalogo();
   struct Falta {
     std::string antes, despues, culpable;
+    std::string_view clave = "8hM";
   };
   const Falta faltas[] = {
       {"Clave=\"8hM\"", "Clave=\"8hm\"", "Perfil \"8hM\""},
@@ -150,31 +139,24 @@ TEST_F(UsoPorDefecto, UnCatalogoConFaltasNoCargaNadaYDiceCual) {
        "mesmin"},
       {"Sensibleocupantes=\"6.00\"", "Sensibleocupantes=\"muchos\"", "Sensibleocupantes"},
       {"Sensibleocupantes=\"6.00\"", "Sensibleocupantes=\"-6\"", "Sensibleocupantes"},
+      {"<CCACE6 ", "<CCACE7 ", "CCACE6", "Residencial"},
       {"<Enero C1=\"3\"", "<Enero C1=\"10\"", "Enero C1"},
       {"<Febrero C1=\"1\"", "<Febrero C01=\"1\"", "Febrero C1"},
       {"<Calendario>", "<Calendario><Nada/>", "doce meses"}};
+  EXPECT_FALSE(AplicarUsoPorDefecto(XMLNode{}, "Residencial", edificio, mensajes));
   DatosGenerales previo;
   previo.Tipo = "previo";
   edificio.SetDatosGenerales(previo);
   for (const Falta& falta : faltas) {
     mensajes.recibidos.clear();
     const XMLNode raiz = Catalogo(Cambiar(bueno, falta.antes, falta.despues));
-    EXPECT_FALSE(AplicarUsoPorDefecto(raiz, "8hM", edificio, mensajes)) << falta.despues;
+    EXPECT_FALSE(AplicarUsoPorDefecto(raiz, falta.clave, edificio, mensajes)) << falta.despues;
     ASSERT_EQ(mensajes.recibidos.size(), 1U) << falta.despues;
     EXPECT_NE(mensajes.recibidos[0].texto.find(falta.culpable), std::string::npos)
         << mensajes.recibidos[0].texto;
     EXPECT_EQ(edificio.GetDatosGenerales(), previo);
     EXPECT_EQ(edificio.GetLocalizacion(), Localizacion{});
   }
-}
-
-TEST_F(UsoPorDefecto, SinCatalogoOSinTablas) {
-  EXPECT_FALSE(AplicarUsoPorDefecto(XMLNode{}, "Residencial", edificio, mensajes));
-  const std::string bueno = LeerCatalogo();
-  const XMLNode sinTabla = Catalogo(Cambiar(bueno, "<CCACE6 ", "<CCACE7 "));
-  EXPECT_FALSE(AplicarUsoPorDefecto(sinTabla, "Residencial", edificio, mensajes));
-  ASSERT_EQ(mensajes.recibidos.size(), 2U);
-  EXPECT_NE(mensajes.recibidos[1].texto.find("CCACE6"), std::string::npos);
 }
 
 }  // namespace

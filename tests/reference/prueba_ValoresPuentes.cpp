@@ -24,31 +24,70 @@ void ExpectPuente(const Construccion& c, Puente puente, float u, float fi) {
   EXPECT_FLOAT_EQ(c.fi_Puentes[puente], fi) << "puente " << puente;
 }
 
-TEST(PuentesPorTabla, ForjadoSinAislarEnD3) {
-  const Construccion c = PuentesPorTabla(Marcada(0), "D3");
-  ExpectPuente(c, puente_ventanas, 0.11F, 0.74F);
-  ExpectPuente(c, puente_forjados, 0.41F, 0.76F);
-  ExpectPuente(c, puente_cubiertas, 0.38F, 0.72F);
-  ExpectPuente(c, puente_suelo_exterior, 0.33F, 0.65F);
-  ExpectPuente(c, puente_esquina_saliente, 0.08F, 0.84F);
-  ExpectPuente(c, puente_pilares, 0.77F, 0.64F);
-  ExpectPuente(c, puente_suelo_terreno, 0.12F, 0.72F);
-}
-
-TEST(PuentesPorTabla, AisladoYContinuoConSusPilaresYVentanas) {
-  const Construccion aislado = PuentesPorTabla(Marcada(1, 2, 2), "E1");
-  ExpectPuente(aislado, puente_forjados, 0.21F, 0.83F);
-  ExpectPuente(aislado, puente_cubiertas, 0.34F, 0.67F);
-  ExpectPuente(aislado, puente_pilares, 0.08F, 0.89F);
-  ExpectPuente(aislado, puente_ventanas, 0.41F, 0.70F);
-
-  const Construccion continuo = PuentesPorTabla(Marcada(2, 1, 1), "A2c");
-  ExpectPuente(continuo, puente_forjados, -0.05F, 0.85F);
-  ExpectPuente(continuo, puente_suelo_exterior, 0.19F, 0.81F);
-  ExpectPuente(continuo, puente_esquina_saliente, 0.16F, 0.76F);
-  ExpectPuente(continuo, puente_pilares, 0.04F, 0.84F);
-  ExpectPuente(continuo, puente_ventanas, 0.02F, 0.88F);
-  ExpectPuente(continuo, puente_suelo_terreno, 0.12F, 0.66F);
+TEST(PuentesPorTabla, CadaModoConSusPilaresYVentanas) {
+  struct Caso {
+    int modo, pilares, ventanas;
+    const char* zona;
+    std::vector<std::tuple<Puente, float, float>> esperados;
+  };
+  const Caso casos[] = {
+      {0,
+       0,
+       0,
+       "D3",
+       {{puente_ventanas, 0.11F, 0.74F},
+        {puente_forjados, 0.41F, 0.76F},
+        {puente_cubiertas, 0.38F, 0.72F},
+        {puente_suelo_exterior, 0.33F, 0.65F},
+        {puente_esquina_saliente, 0.08F, 0.84F},
+        {puente_pilares, 0.77F, 0.64F},
+        {puente_suelo_terreno, 0.12F, 0.72F}}},
+      {1,
+       2,
+       2,
+       "E1",
+       {{puente_forjados, 0.21F, 0.83F},
+        {puente_cubiertas, 0.34F, 0.67F},
+        {puente_pilares, 0.08F, 0.89F},
+        {puente_ventanas, 0.41F, 0.70F}}},
+      {2,
+       1,
+       1,
+       "A2c",
+       {{puente_forjados, -0.05F, 0.85F},
+        {puente_suelo_exterior, 0.19F, 0.81F},
+        {puente_esquina_saliente, 0.16F, 0.76F},
+        {puente_pilares, 0.04F, 0.84F},
+        {puente_ventanas, 0.02F, 0.88F},
+        {puente_suelo_terreno, 0.12F, 0.66F}}},
+      // Los valores por defecto tienen sus propios grupos, sin mirar pilares ni ventanas.
+      {5,
+       3,
+       2,
+       "D1",
+       {{puente_ventanas, 0.27F, 0.64F},
+        {puente_forjados, 0.41F, 0.76F},
+        {puente_cubiertas, 0.46F, 0.74F},
+        {puente_suelo_exterior, 0.43F, 0.74F},
+        {puente_esquina_saliente, 0.16F, 0.81F},
+        {puente_pilares, 0.77F, 0.644F},
+        {puente_suelo_terreno, 0.13F, 0.75F}}},
+      {5, 0, 0, "D2", {{puente_ventanas, 0.27F, 0.65F}, {puente_pilares, 0.77F, 0.65F}}},
+      {5, 0, 0, "A3c", {{puente_ventanas, 0.22F, 0.63F}, {puente_cubiertas, 0.42F, 0.68F}}},
+      {5, 0, 0, "B3c", {{puente_suelo_terreno, 0.13F, 0.73F}}},
+      {5, 0, 0, "C4", {{puente_pilares, 0.80F, 0.62F}}},
+      {5, 0, 0, "E1", {{puente_ventanas, 0.29F, 0.67F}}},
+      // Una posición que no existe deja solo ese puente.
+      {0,
+       4,
+       -1,
+       "C1",
+       {{puente_pilares, 9, 8}, {puente_ventanas, 9, 8}, {puente_forjados, 0.41F, 0.75F}}}};
+  for (const Caso& caso : casos) {
+    SCOPED_TRACE(std::to_string(caso.modo) + " " + caso.zona);
+    const auto c = PuentesPorTabla(Marcada(caso.modo, caso.pilares, caso.ventanas), caso.zona);
+    for (const auto& [puente, u, fi] : caso.esperados) ExpectPuente(c, puente, u, fi);
+  }
 }
 
 TEST(PuentesPorTabla, ElForjadoDaLaLetraDeCadaZona) {
@@ -69,28 +108,6 @@ TEST(PuentesPorTabla, SinPilaresSonNulosConFactor100) {
       ExpectPuente(PuentesPorTabla(Marcada(modo, 3), zona), puente_pilares, 0, 100);
 }
 
-TEST(PuentesPorTabla, LosValoresPorDefectoTienenSusPropiosGrupos) {
-  const Construccion d1 = PuentesPorTabla(Marcada(5, 3, 2), "D1");
-  ExpectPuente(d1, puente_ventanas, 0.27F, 0.64F);
-  ExpectPuente(d1, puente_forjados, 0.41F, 0.76F);
-  ExpectPuente(d1, puente_cubiertas, 0.46F, 0.74F);
-  ExpectPuente(d1, puente_suelo_exterior, 0.43F, 0.74F);
-  ExpectPuente(d1, puente_esquina_saliente, 0.16F, 0.81F);
-  ExpectPuente(d1, puente_pilares, 0.77F, 0.644F);
-  ExpectPuente(d1, puente_suelo_terreno, 0.13F, 0.75F);
-
-  const Construccion d2 = PuentesPorTabla(Marcada(5), "D2");
-  ExpectPuente(d2, puente_ventanas, 0.27F, 0.65F);
-  ExpectPuente(d2, puente_pilares, 0.77F, 0.65F);
-
-  const Construccion a = PuentesPorTabla(Marcada(5), "A3c");
-  ExpectPuente(a, puente_ventanas, 0.22F, 0.63F);
-  ExpectPuente(a, puente_cubiertas, 0.42F, 0.68F);
-  ExpectPuente(PuentesPorTabla(Marcada(5), "B3c"), puente_suelo_terreno, 0.13F, 0.73F);
-  ExpectPuente(PuentesPorTabla(Marcada(5), "C4"), puente_pilares, 0.80F, 0.62F);
-  ExpectPuente(PuentesPorTabla(Marcada(5), "E1"), puente_ventanas, 0.29F, 0.67F);
-}
-
 TEST(PuentesPorTabla, UnaZonaFueraDeLaTablaDejaLosCampos) {
   for (const int modo : {0, 1, 2})
     for (const char* zona : {"A3c", "B3c", "alfa1c", "D1c", "E1c", "", "d3", "D3 "})
@@ -101,15 +118,7 @@ TEST(PuentesPorTabla, UnaZonaFueraDeLaTablaDejaLosCampos) {
 
 TEST(PuentesPorTabla, LosValoresDadosYLosModosSinTablaNoSeTocan) {
   for (const int modo : {4, 3, 6, -1})
-    for (const char* zona : {"A3", "D3", "E1"})
-      EXPECT_EQ(PuentesPorTabla(Marcada(modo), zona), Marcada(modo)) << modo;
-}
-
-TEST(PuentesPorTabla, UnaPosicionQueNoExisteDejaSoloEsePuente) {
-  const Construccion c = PuentesPorTabla(Marcada(0, 4, -1), "C1");
-  ExpectPuente(c, puente_pilares, 9, 8);
-  ExpectPuente(c, puente_ventanas, 9, 8);
-  ExpectPuente(c, puente_forjados, 0.41F, 0.75F);
+    EXPECT_EQ(PuentesPorTabla(Marcada(modo), "D3"), Marcada(modo)) << modo;
 }
 
 }  // namespace

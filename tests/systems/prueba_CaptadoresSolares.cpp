@@ -56,23 +56,5 @@ TEST(CaptadoresSolares, ElSaltoMinimoJustoLaPara) {
   EXPECT_NEAR(c.Potencia(40, 1047, 20), 4188, 1e-6);
 }
 
-// 50 m de tubo a 0,2 W/mK, la mitad en cada sentido: 100 W de ida; el agua entra a 39,9522, sale a
-// 42,0554 y pierde 110,28 W de vuelta.
-TEST(CaptadoresSolares, TuberiasDeIdaYVuelta) {
-  DatosGenerales g = Campo(4, 1800, 0.5F, 0);
-  g.Long_Tub_ST = 50;
-  g.PerdCalor_Tub_ST = 0.2F;
-  const MinutoCaptadores m = RecorrerCaptadores(CaptadoresSolares(g), 40, 1100, 20);
-  EXPECT_NEAR(m.potencia, 4400, 1e-6);
-  EXPECT_NEAR(m.perdida, 210.277, 1e-3);
-  EXPECT_NEAR(m.neto, 4189.723, 1e-3);
-  EXPECT_NEAR(m.temperatura, 42.00274, 1e-4);
-  // Parados, las tuberías enfrían el agua.
-  const MinutoCaptadores noche = RecorrerCaptadores(CaptadoresSolares(g), 40, 100, 20);
-  EXPECT_EQ(noche.potencia, 0);
-  EXPECT_LT(noche.neto, 0);
-  EXPECT_LT(noche.temperatura, 40);
-}
-
 }  // namespace
 }  // namespace novex

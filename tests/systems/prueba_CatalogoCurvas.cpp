@@ -17,8 +17,7 @@ namespace novex {
 namespace {
 
 constexpr float kNominal = 0.02F;  // desvío admitido del 1 en el punto nominal
-constexpr float kMinimo = 0.3F, kMaximo = 1.6F;
-constexpr float kPaso = 0.5F;  // °C entre puntos
+constexpr float kPaso = 0.5F;      // °C entre puntos
 constexpr float kBulboNominal = 6.0F, kBulboMinimo = -15.0F, kBulboMaximo = 20.0F;
 constexpr float kExteriorNominal = 35.0F, kExteriorMinimo = 15.0F, kExteriorMaximo = 45.0F;
 constexpr float kConsignaCalor = 20.0F, kAguaCaliente = 45.0F, kAguaFria = 7.0F;
@@ -32,6 +31,10 @@ struct Entrada {
   std::string_view fabricante, familia, tipo;
   ModeloEquipo modelo;
 };
+
+auto Entre(float minimo, float maximo) {
+  return testing::AllOf(testing::Gt(minimo), testing::Lt(maximo));
+}
 
 class CatalogoEntregado : public testing::Test {
  protected:
@@ -72,8 +75,7 @@ void Comprobar(const std::string& nombre, const std::function<float(float)>& coc
   SCOPED_TRACE(nombre);
   EXPECT_NEAR(cociente(nominal), 1.0F, kNominal);
   for (float t = desde; t <= hasta; t += kPaso) {
-    EXPECT_GT(cociente(t), kMinimo) << "a " << t << " °C";
-    EXPECT_LT(cociente(t), kMaximo) << "a " << t << " °C";
+    EXPECT_THAT(cociente(t), Entre(0.3F, 1.6F)) << "a " << t << " °C";
     if (signo == 0 || t + kPaso > hasta) continue;
     EXPECT_GT(static_cast<float>(signo) * (cociente(t + kPaso) - cociente(t)), 0.0F)
         << "a " << t << " °C";
@@ -129,17 +131,16 @@ TEST_F(CatalogoEntregado, FrioBajaConLaTemperaturaExterior) {
     SCOPED_TRACE(e.modelo.modelo);
     const CurvasEquipo& c = e.modelo.curvas;
     const float x = e.familia == kAireAire ? kHumedoInterior : kAguaFria;
-    Comprobar(
-        "capacidad", [&](float t) { return curvas::Bicuadratica(c.aR, x, t); }, kExteriorNominal,
-        kExteriorMinimo, kExteriorMaximo, -1);
-    Comprobar(
-        "consumo", [&](float t) { return curvas::Bicuadratica(c.bR, x, t); }, kExteriorNominal,
-        kExteriorMinimo, kExteriorMaximo, 1);
+    const auto comprobar = [](const char* nombre, const std::function<float(float)>& f, int signo) {
+      Comprobar(nombre, f, kExteriorNominal, kExteriorMinimo, kExteriorMaximo, signo);
+    };
+    comprobar(
+        "capacidad", [&](float t) { return curvas::Bicuadratica(c.aR, x, t); }, -1);
+    comprobar(
+        "consumo", [&](float t) { return curvas::Bicuadratica(c.bR, x, t); }, 1);
     if (e.familia != kAireAire) continue;
-    Comprobar(
-        "capacidad sensible",
-        [&](float t) { return curvas::SieteTerminos(c.eR, x, kSecoInterior, t); }, kExteriorNominal,
-        kExteriorMinimo, kExteriorMaximo, -1);
+    comprobar(
+        "sensible", [&](float t) { return curvas::SieteTerminos(c.eR, x, kSecoInterior, t); }, -1);
   }
   EXPECT_GT(comprobados, 0);
 }
@@ -169,10 +170,8 @@ TEST_F(CatalogoEntregado, CalderasConRendimientoCercaDelNominal) {
     SCOPED_TRACE(e.modelo.modelo);
     const CurvasEquipo& c = e.modelo.curvas;
     EXPECT_NEAR(curvas::RendimientoCaldera(c, 1.0F, 0.0F), 1.0F, kNominal);
-    for (float p = 0.0F; p <= 8.0F; p += 0.05F) {
-      EXPECT_GT(curvas::RendimientoCaldera(c, p, 0.0F), 0.8F) << p;
-      EXPECT_LT(curvas::RendimientoCaldera(c, p, 0.0F), 1.1F) << p;
-    }
+    for (float p = 0.0F; p <= 8.0F; p += 0.05F)
+      EXPECT_THAT(curvas::RendimientoCaldera(c, p, 0.0F), Entre(0.8F, 1.1F)) << p;
     // El agua más caliente nunca mejora el rendimiento, ni lo hunde.
     for (float t = 5.0F; t <= 80.0F; t += 5.0F)
       EXPECT_LE(curvas::RendimientoCaldera(c, 1.0F, t),
@@ -193,21 +192,17 @@ TEST_F(CatalogoEntregado, PotenciasComercialesCreibles) {
         catalogo.Modelos(kFabricanteDefecto, e.familia, e.tipo);
     EXPECT_TRUE(std::any_of(genericos.begin(), genericos.end(), mismasCurvas));
     if (e.familia == "Generadores") {
-      EXPECT_GT(m.COP(), 0.85F);  // rendimiento sobre PCI
-      EXPECT_LT(m.COP(), 1.05F);
+      EXPECT_THAT(m.COP(), Entre(0.85F, 1.05F));  // rendimiento sobre PCI
       continue;
     }
     if (m.PotTotRef > 0.0F) {
-      EXPECT_GT(m.EER(), 2.4F);
-      EXPECT_LT(m.EER(), 4.2F);
+      EXPECT_THAT(m.EER(), Entre(2.4F, 4.2F));
     }
     if (e.tipo != kEnfriadora) {
-      EXPECT_GT(m.COP(), 2.6F);
-      EXPECT_LT(m.COP(), 4.6F);
+      EXPECT_THAT(m.COP(), Entre(2.6F, 4.6F));
     }
     if (e.familia == kAireAire && e.tipo != "Caudal_refrigerante_variable") {
-      EXPECT_GT(m.PotSenRef / m.PotTotRef, 0.65F);
-      EXPECT_LT(m.PotSenRef / m.PotTotRef, 0.85F);
+      EXPECT_THAT(m.PotSenRef / m.PotTotRef, Entre(0.65F, 0.85F));
     }
   }
 }

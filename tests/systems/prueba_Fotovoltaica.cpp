@@ -31,6 +31,9 @@ TEST_F(Campos, UnaHoraAMano) {
   EXPECT_TRUE(HayFotovoltaica(g, 0));
   EXPECT_NEAR(Potencia(), 1.23, 1e-4);
   EXPECT_NEAR(Potencia(1), 1.64, 1e-4);
+  clima->TSE[12] = -10;  // con frío, 0,4 (15 + 25 + 10) = 20 % y queda el 70 %
+  EXPECT_NEAR(Potencia(), 3 * 0.5 * 0.7, 1e-4);
+  clima->TSE[12] = 20;
   // Otro campo de 1 kW de cara al sol: 800 + 93,30 + 6,70 W/m2, y su célula pierde 12,8 %.
   g.PotPico_FV[2] = 1;
   g.Incli_FV[2] = 60;
@@ -50,12 +53,6 @@ TEST_F(Campos, AUnPisoLeTocaSuParte) {
   EXPECT_NEAR(Potencia(), 1.23 / 4, 1e-4);
   g.PerfilUso = 1;
   EXPECT_NEAR(Potencia(), 1.23, 1e-4);
-}
-
-TEST_F(Campos, ElFrioMejoraLaCelula) {
-  g.PotPico_FV[0] = 1;
-  clima->TSE[12] = -10;  // 0,4 (15 + 25 + 10) = 20 %
-  EXPECT_NEAR(Potencia(), 0.5 * 0.70, 1e-4);
 }
 
 }  // namespace

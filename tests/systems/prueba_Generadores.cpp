@@ -139,24 +139,16 @@ class UnaHora : public testing::Test {
   float yaContada = 0;
 };
 
-// cC(0,5) = 0,925 y gC(0) = 0,95 dan un rendimiento de 0,790875; con p = 1,5, cC no se limita y es
-// 1,025, y el rendimiento 0,876375.
-TEST_F(UnaHora, CalderaConCurvas) {
+// Con p = 1,5, cC no se limita y es 1,025: con gC(0) = 0,95 el rendimiento es 0,876375.
+TEST_F(UnaHora, CalderaDeBiomasaConCurvas) {
   i.curvas.cC = {0.8F, 0.3F, -0.1F, 0};
   i.curvas.gC = {0.95F, 0.001F, 0, 0};
-  RespuestaHora r = Correr("ACS+Calefaccion", 2, 8);
-  EsperaPar(r.consumo1, 2.528845, 10.115378);
-  EXPECT_EQ(r.calorBiomasa, 0.0F);
   i.TipoGenerador1 = "Biomasa";
-  r = Correr("ACS+Calefaccion", 5, 25);
+  const RespuestaHora r = Correr("ACS+Calefaccion", 5, 25);
   EsperaPar(r.dado, 5, 15);
-  EsperaPar(r.noDado, 0, 10);
   EsperaPar(r.consumo1, 5.705320, 17.115961);
   EXPECT_NEAR(r.calorBiomasa, 5, 1e-4);
   EXPECT_EQ(c.Preparar("ACS", i).vector1, VectorEnergetico::Biomasa_Pellet);
-  r = Correr("ACS+Calefaccion", 26, 4);
-  EsperaPar(r.dado, 20, 0);
-  EsperaPar(r.noDado, 6, 4);
 }
 
 TEST_F(UnaHora, SinRendimientoOSinPotenciaNadaSeDaNiSeConsume) {
@@ -298,77 +290,51 @@ TEST_F(UnaHora, ViviendaDeBloque) {
   EsperaPar(Correr("Calefaccion", 0, 100).dado, 0, 20);
 }
 
-// aR = 1,03 y bR = 0,93; a media carga cR = 0,55. Se consume 4·0,93·cR lo que la carga.
-TEST_F(UnaHora, EnfriadoraACargaParcial) {
+// La primera hora no sabe del aire y es el 70 % sensible; con aire más seco que la batería lo es
+// todo, y con el muy húmedo no baja de ahí. El estacional de agua reparte igual.
+TEST_F(UnaHora, ParteSensibleDelFrioPorAgua) {
   i = BloqueCompleto("Enfriadora agua cond.aire");
   i.QFrioTot1 = 10;
-  i.WeFrio1 = 4;
-  i.curvas.aR = {0.9F, 0.01F, 0, 0.002F, 0, 0};
-  i.curvas.bR = {0.8F, 0.01F, 0, 0.002F, 0, 0};
-  i.curvas.cR = {0.2F, 0.6F, 0.2F, 0};
-  hora.TSE = 30;
-  hora.h = 1;  // la primera hora no sabe del aire: 70 % sensible
-  RespuestaHora r = Correr("Refrigeracion", 0, 0, 3.605F);
-  EXPECT_NEAR(r.frioTotal, 5.15, 1e-4);
-  EXPECT_NEAR(r.consumo1[kRefrigeracion], 4 * 0.93 * 0.55, 1e-4);
-  r = Correr("Refrigeracion", 0, 0, 10);
-  EXPECT_NEAR(r.dado[kRefrigeracion], 7.21, 1e-4);
-  EXPECT_NEAR(r.frioTotal, 10.3, 1e-4);
-  EXPECT_NEAR(r.consumo1[kRefrigeracion], 4 * 0.93, 1e-4);
-  EXPECT_NEAR(r.noDado[kRefrigeracion], 2.79, 1e-4);
-  EXPECT_EQ(r.ambiente[kRefrigeracion], 0.0F);
-  i.TipoBC1 = "Partida";
+  const auto sensible = [&](int h, float W) {
+    hora.h = h;
+    hora.Wanterior = W;
+    const RespuestaHora r = Correr("Refrigeracion", 0, 0, 20);
+    EXPECT_NEAR(r.frioTotal, 10, 1e-4);
+    return r.dado[kRefrigeracion];
+  };
+  EXPECT_NEAR(sensible(1, 0.004F), 7, 1e-4);
+  EXPECT_NEAR(sensible(2, 0.004F), 10, 1e-4);
+  EXPECT_NEAR(sensible(2, 0.02F), 7, 1e-4);
+  i.TipoBC1 = "Partida";  // la línea quita de la nominal
   i.Distanciaext_int = 10;
   i.Perdida_m_tub_ext_int = 1;
-  EXPECT_NEAR(Correr("Refrigeracion", 0, 0, 10).dado[kRefrigeracion], 6.21, 1e-4);
-  // Aire más seco que la batería: todo es sensible. Muy húmedo: no baja de 0,7.
-  i.TipoBC1 = "Monoblock";
-  hora.h = 2;
-  hora.Wanterior = 0.004F;
-  r = Correr("Refrigeracion", 0, 0, 20);
-  EXPECT_NEAR(r.dado[kRefrigeracion], 10.3, 1e-4);
-  EXPECT_NEAR(r.frioTotal, 10.3, 1e-4);
-  hora.Wanterior = 0.02F;
-  EXPECT_NEAR(Correr("Refrigeracion", 0, 0, 20).dado[kRefrigeracion], 7.21, 1e-4);
-  // El estacional de agua reparte igual: 2,5 de frío total por kWh.
+  EXPECT_NEAR(Correr("Refrigeracion", 0, 0, 20).dado[kRefrigeracion], 7 - 1, 1e-4);
   i.Seleccion = "Rend. estacional (agua)";
-  r = Correr("Refrigeracion", 0, 0, 7);
+  const RespuestaHora r = Correr("Refrigeracion", 0, 0, 7);
   EXPECT_NEAR(r.frioTotal, 10, 1e-4);
   EXPECT_NEAR(r.consumo1[kRefrigeracion], 4, 1e-4);
 }
 
-// Con las curvas genéricas la razón sensible es un polinomio; con las de un fabricante, la batería:
-// en las condiciones nominales da la nominal, y con aire a 25 °C y 17 °C de bulbo y 30 °C fuera,
-// 1,0417 (calculado aparte).
+// Con las curvas de un fabricante la razón sensible es la de la batería: en las condiciones
+// nominales la nominal, y con aire a 25 °C y 17 °C de bulbo y 30 °C fuera, 1,0417 (calculado
+// aparte). Con las genéricas, un polinomio.
 TEST_F(UnaHora, AireAAireEnFrio) {
   i = BloqueCompleto("Equipo Split");
   i.QFrioSen1 = 7;
   i.QFrioTot1 = 10;
-  i.WeFrio1 = 4;
   i.curvas.eR = {0.1F, 0.01F, 0.001F, 0.002F, 0.0001F, 0.003F, 0.0002F};
-  i.curvas.bR = {0.5F, 0.01F, 0, 0.01F, 0, 0};
-  i.curvas.aR = {0.9F, 0.01F, 0, 0, 0, 0};
   hora.humedoInterior = 17;
   hora.consigna = 25;
   hora.TSE = 30;
   // 0,1 + 0,17 + 0,289 + 0,05 + 0,0625 + 0,09 + 0,18 = 0,9415.
-  RespuestaHora r = Correr("Refrigeracion", 0, 0, 100);
-  EXPECT_NEAR(r.dado[kRefrigeracion], 7 * 0.9415, 1e-3);
-  EXPECT_NEAR(r.consumo1[kRefrigeracion], 4 * 0.97, 1e-4);
-  EXPECT_NEAR(r.frioTotal, 10 * 1.07, 1e-4);
-  r = Correr("Refrigeracion", 0, 0, 7 * 0.9415F * 0.5F);
-  EXPECT_NEAR(r.consumo1[kRefrigeracion], 4 * 0.97 * 0.5, 1e-3);
-  EXPECT_NEAR(r.frioTotal, 10 * 1.07 * 0.5, 1e-3);
-  // La línea quita de la sensible nominal, salvo al de ventana.
+  EXPECT_NEAR(Correr("Refrigeracion", 0, 0, 100).dado[kRefrigeracion], 7 * 0.9415, 1e-3);
   i.Distanciaext_int = 10;
   i.Perdida_m_tub_ext_int = 1;
-  r = Correr("Refrigeracion", 0, 0, 100);
-  EXPECT_NEAR(r.dado[kRefrigeracion], 7 * 0.8415, 1e-3);
-  EXPECT_NEAR(r.frioTotal, 10 * 1.07 * 0.9, 1e-4);
-  i.Seleccion = "Equipo de Ventana";
-  EXPECT_NEAR(Correr("Refrigeracion", 0, 0, 100).dado[kRefrigeracion], 7 * 0.9415, 1e-3);
-
+  const RespuestaHora conLinea = Correr("Refrigeracion", 0, 0, 100);
+  EXPECT_NEAR(conLinea.dado[kRefrigeracion], 7 * 0.8415, 1e-3);
+  EXPECT_NEAR(conLinea.frioTotal, 10 * 0.9, 1e-4);
   i.Distanciaext_int = 0;
+
   for (const bool variable : {false, true}) {
     i.Seleccion = variable ? "Caudal refrigerante variable" : "Equipo Split";
     i.Fabricante = variable ? kFabricanteDefecto : "Otro";
