@@ -39,49 +39,6 @@ class Elementos : public testing::Test {
   std::unique_ptr<calculo> caso = std::make_unique<calculo>();
 };
 
-TEST_F(Elementos, ElMuroReparteSuSombraEntreSuOrientacionYElNorte) {
-  r.Muro_ext_m2[1][sur] = 20;
-  r.Muro_ext_Var_m2[1][sur] = 4;
-  ObstaculosRemotos o;
-  o.Sur_Altura = 10;
-  o.Sur_Distancia = 12;
-  edificio.SetObstaculosRemotos(o);
-  caso->clima.MLIGERO[sur][8000] = -4;
-  caso->clima.MLIGERO[norte][8000] = -10;
-  ElementosOpacos opacos(edificio, Ajustes(0), *caso);
-  opacos.RefrescarMes(12);
-  const Valores& muro = caso->valores.at("0-Muro2S");
-  EXPECT_FLOAT_EQ(muro.areaBruta, 18);
-  // Diciembre: 0,222441 de los 14,4 m2 en su plano y los 3,6 de fuera.
-  EXPECT_NEAR(muro.areaSombra, 6.80315, 1e-3);
-  EXPECT_EQ(muro.grupo, "Muros");
-  EXPECT_EQ(muro.orientacion, "SUR");
-  const double esperado = (11.19685 * -4 + 6.80315 * -10) * 0.5;
-  EXPECT_NEAR(opacos.Ganancias(8000, 12, 20), esperado, 1e-2);
-  EXPECT_NEAR(Valor("0-Muro2S", 8000), esperado, 1e-2);
-}
-
-TEST_F(Elementos, CubiertasYEspaciosNoAcondicionados) {
-  r.Cubierta_horiz_sol_m2[0] = 50;
-  r.Cubierta_horiz_sombra_m2[0] = 20;
-  r.Cubierta_techo_ventilado_m2[0] = 40;
-  r.Cubierta_buhardilla_ext_m2[0] = 40;
-  r.Suelo_vacio_sanitario_m2[0] = 30;
-  r.Muro_otro_local_m2[1] = 12;
-  r.Muro_otro_local_ext_m2[1] = 12;
-  caso->clima.CLIGEROH[1] = 8;
-  caso->clima.SUELOEXT[1] = -2;
-  for (const Sector s : {norte, sur, este, oeste}) caso->clima.MLIGERO[s][1] = -5;
-  ElementosOpacos opacos(edificio, Ajustes(0), *caso);
-  const float suma = opacos.Ganancias(1, 1, 20);
-  EXPECT_NEAR(Valor("0-CubHzExt", 1), (30 * 8 - 20 * 2) * 0.9 * 0.5, 1e-3);
-  EXPECT_NEAR(Valor("0-CubAbuarL_B", 1), 40 * 0.9 * 0.5 * 0.5 * 8, 1e-3);
-  EXPECT_NEAR(Valor("0-SueloVacioSanitario", 1), 30 * 0.9 * 0.35 * 0.5 * -2, 1e-3);
-  EXPECT_NEAR(Valor("0-MuroLocalNoHabL_N2", 1), 12 * 0.9 * 0.5 * 0.5 * -5, 1e-3);
-  EXPECT_EQ(caso->valores.size(), 4U);
-  EXPECT_NEAR(suma, 90 + 72 - 9.45 - 13.5, 1e-2);
-}
-
 TEST_F(Elementos, LaParteEnSombraRecibeLoQueElNorte) {
   Huecos& g = edificio.GetHuecos(0);
   g.columnas[sur].Anadir(2);

@@ -18,15 +18,6 @@ void Esperar(const CoeficientesTerreno& c, double Hg, double Hpi, double Hpe) {
 }
 
 // ISO 13370 a mano: U = 1 en 100 m2 con 40 m de perímetro da dt = 2,38 y B' = 5.
-TEST(CoeficientesSolera, SinAislarYAisladaEntera) {
-  Esperar(CoeficientesSolera(1, 100, 40, Suelo("SinAislamiento")), 44.85069, 46.86264, 25.04358);
-  Esperar(CoeficientesSolera(1, 100, 40, Suelo("Continuo")), 44.85069, 46.86264, 25.04358);
-  // Sin perímetro se toma el de un cuadrado, que aquí es el mismo.
-  Esperar(CoeficientesSolera(1, 100, 0, Suelo("Continuo")), 44.85069, 46.86264, 25.04358);
-  // Muy aislada y estrecha: dt = 8,38 pasa de B' = 3,08.
-  Esperar(CoeficientesSolera(0.25F, 40, 26, Suelo("Continuo")), 8.174815, 7.930007, 6.167087);
-}
-
 TEST(CoeficientesSolera, BandaPerimetral) {
   Esperar(CoeficientesSolera(1, 100, 40, Suelo("Periferico", 0, 1, 1.5F)), 37.49792, 46.86264,
           19.82864);
@@ -35,7 +26,11 @@ TEST(CoeficientesSolera, BandaPerimetral) {
           25.04358);
 }
 
-TEST(CoeficientesSolera, ProfundaDesdeMedioMetro) {
+TEST(CoeficientesSolera, ProfundaDesdeMedioMetroYMuyAislada) {
+  // Sin perímetro se toma el de un cuadrado, que aquí es el mismo.
+  Esperar(CoeficientesSolera(1, 100, 0, Suelo("Continuo")), 44.85069, 46.86264, 25.04358);
+  // Muy aislada y estrecha: dt = 8,38 pasa de B' = 3,08.
+  Esperar(CoeficientesSolera(0.25F, 40, 26, Suelo("Continuo")), 8.174815, 7.930007, 6.167087);
   Esperar(CoeficientesSolera(1, 100, 40, Suelo("Continuo", 0.5F)), 44.85069, 46.86264, 25.04358);
   Esperar(CoeficientesSolera(1, 100, 40, Suelo("Continuo", 2)), 36.27796, 46.86264, 13.31653);
   // La banda sigue contando en la parte estacionaria, no en la periódica exterior.

@@ -7,15 +7,14 @@ namespace {
 
 TEST(CosteMejora, ListasYSinElegir) {
   Edificio e;
-  EXPECT_EQ(NombreMejora(e.GetDatosGenerales()), "Mejora");
-  PonerCosteMejora(e, 6);
-  PonerPlazoMejora(e, 0);
-  EXPECT_EQ(TextoCosteEstimado(e.GetDatosGenerales()), ">100000");
-  EXPECT_EQ(TextoPlazoRecuperacion(e.GetDatosGenerales()), "<5");
-  PonerCosteMejora(e, -1);
-  PonerPlazoMejora(e, 4);
-  EXPECT_EQ(TextoCosteEstimado(e.GetDatosGenerales()), "");
-  EXPECT_EQ(TextoPlazoRecuperacion(e.GetDatosGenerales()), "");
+  const auto textos = [&](int coste, int plazo) {
+    PonerCosteMejora(e, coste);
+    PonerPlazoMejora(e, plazo);
+    return std::string(TextoCosteEstimado(e.GetDatosGenerales())) + "|" +
+           std::string(TextoPlazoRecuperacion(e.GetDatosGenerales()));
+  };
+  EXPECT_EQ(textos(6, 0), ">100000|<5");
+  EXPECT_EQ(textos(-1, 4), "|");
 }
 
 TEST(CifrasEstudio, SeCompruebanYSeBorranAlDesmarcar) {

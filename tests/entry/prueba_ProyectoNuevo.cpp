@@ -22,13 +22,11 @@ class Proyecto : public testing::Test {
 
 TEST_F(Proyecto, EmpiezaConSusValoresYConservaElSitio) {
   const DatosGenerales& d = E().GetDatosGenerales();
-  EXPECT_EQ(d.Tiposimulacion, "CertificacionSolo");
-  EXPECT_EQ(d.Modo_trabajo, "Nuevo");
-  EXPECT_EQ(d.Reforma, "Reforma >25% envolvente + Clima + ACS");
-  EXPECT_EQ(d.Uso, "Otro");
-  EXPECT_EQ(d.AnoConstruccion + d.NormativaInstalaciones, "POST-2018RITE_2021");
+  EXPECT_EQ(std::tuple(d.Tiposimulacion, d.Modo_trabajo, d.Reforma, d.Uso, d.AnoConstruccion,
+                       d.NormativaInstalaciones, d.Tipo),
+            std::tuple("CertificacionSolo", "Nuevo", "Reforma >25% envolvente + Clima + ACS",
+                       "Otro", "POST-2018", "RITE_2021", "Residencial"));
   EXPECT_EQ(d.Incli_FV[2], 40);
-  EXPECT_EQ(d.Tipo, "Residencial");
   EXPECT_GT(d.perfiles.tabla[CEq][0][20], 0.0F);
   const Localizacion& sitio = E().GetLocalizacion();
   EXPECT_EQ(sitio.Provincia + sitio.Municipio + sitio.ZonaClimatica, "Valencia/ValènciaValenciaB3");

@@ -77,6 +77,11 @@ TEST_F(Catalogos, UnNuevoEspesorEntraPorOrden) {
   EXPECT_EQ(camara->capa.rterm, 0.17F);
   EXPECT_EQ(camara->capa.k, 0.118F);
   EXPECT_TRUE(mensajes_.recibidos.empty());
+  // Se mueve cambiando con su vecino, y en los extremos nada.
+  const auto lana = catalogo.Materiales(kVerticalCte, "Aislantes")[5];
+  EXPECT_FALSE(catalogo.Mover(lana, Sentido::Abajo, mensajes_));
+  EXPECT_TRUE(catalogo.Mover(lana, Sentido::Arriba, mensajes_));
+  EXPECT_EQ(Fichero("Aislantes").substr(52), "Lana 0.040;Corcho 0.100;");
   // Los bloques oficiales no admiten otro espesor, y nada se pierde de lo que no se conoce.
   EXPECT_FALSE(catalogo.NuevoEspesor(
       catalogo.Materiales(kVerticalCte, "Fábricas de bloque de hormigón aligerado")[0], "0.3",
@@ -112,14 +117,6 @@ TEST_F(Catalogos, LosMaterialesDelUsuario) {
   EXPECT_EQ(Fichero(kTodosLosGrupos, nocte), "Tapial 0.500;");
   EXPECT_EQ(CatalogoMateriales::EspesorAdmitido("1 pie LM métrico o catalán 40 mm < G < 50 mm"),
             "Espesor entre 0,24 y 0,28 m)");
-}
-
-TEST_F(Catalogos, MoverCambiaConElVecinoYEnLosExtremosNada) {
-  CatalogoMateriales catalogo(materiales_);
-  const auto lana = catalogo.Materiales(kVerticalCte, "Aislantes")[2];
-  EXPECT_FALSE(catalogo.Mover(lana, Sentido::Abajo, mensajes_));
-  EXPECT_TRUE(catalogo.Mover(lana, Sentido::Arriba, mensajes_));
-  EXPECT_EQ(Fichero("Aislantes"), "Corcho 0.020;Lana 0.040;Corcho 0.050;");
 }
 
 // Contesta a todo lo mismo.

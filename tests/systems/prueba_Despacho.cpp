@@ -202,16 +202,6 @@ class Reparto : public testing::Test {
   std::vector<CargasHora> dado;
 };
 
-TEST_F(Reparto, SinSistemasTodoVaAlEquipoPorDefecto) {
-  c.Cargas(kHora, 5, 3);
-  const ResultadoDespacho r = Hora();
-  EXPECT_NEAR(r.defecto[kCalefaccion], 5, 1e-4);
-  EXPECT_NEAR(r.defecto[kRefrigeracion], 3, 1e-4);
-  EXPECT_NEAR(r.defecto[kACS], c.caso->zona.DACS[kHora], 1e-5);
-  EXPECT_EQ(r.sinCubrir[kCalefaccion], 0.0F);
-  EXPECT_EQ(r.frioLatente, 0.0F);
-}
-
 // 30 y 10 kW sirven tres cuartos y un cuarto. La primera, a media capacidad en la hora, da 15 de 18
 // y la segunda recoge los 3 que faltan; con 40 pedidos la segunda llega a sus 10.
 TEST_F(Reparto, LaSegundaRecogeLoQueLaPrimeraNoAlcanza) {
