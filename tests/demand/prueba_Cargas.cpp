@@ -123,6 +123,18 @@ TEST_F(Horarios, VentanasAbiertasLasNochesDeVerano) {
   EXPECT_EQ(Generar(0).NRR[Hora(152, 1)], Valor(CNR, 0, 1));
 }
 
+TEST_F(Horarios, LaAccionDelMesQuitaConsignas) {
+  const SeriesCarga carga = Generar(0);
+  // Enero, solo calefacción; febrero, las dos; julio, solo refrigeración; octubre, ninguna.
+  const std::tuple<int, bool, bool> dias[] = {{31, true, false},   {32, true, true},
+                                              {183, false, true},  {274, false, false},
+                                              {304, false, false}, {305, true, true}};
+  for (const auto& [dia, cale, refri] : dias) {
+    EXPECT_EQ(carga.TCR[Hora(dia, 12)], cale ? Valor(CTCh, 0, 12) : 0.0F) << dia;
+    EXPECT_EQ(carga.TRR[Hora(dia, 12)], refri ? Valor(CTRh, 0, 12) : 0.0F) << dia;
+  }
+}
+
 TEST_F(Horarios, UnDiaSinClaseConservaLosValoresDePartida) {
   EXPECT_FALSE(NecesitaUsoBase(g));
   g.perfiles.calendario[365] = 77;  // no es un día del año
