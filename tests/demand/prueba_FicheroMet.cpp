@@ -14,6 +14,7 @@
 #include "demand/ClimaOficial.h"
 #include "demand/InstalarClima.h"
 #include "demand/PosicionSolar.h"
+#include "files/CarpetaTemporal.h"
 
 namespace novex {
 namespace {
@@ -62,24 +63,16 @@ TEST(LeerMet, CuentaLasColumnasDesdeElFinalConTabuladoresOBlancos) {
   const FicheroMet fichero = LeerMet(Unir(lineas));
   EXPECT_EQ(fichero.titulo, "Título");
   EXPECT_TRUE(fichero.hayCabecera);
-  EXPECT_FLOAT_EQ(fichero.latitud, 40.5F);
-  EXPECT_FLOAT_EQ(fichero.longitud, -4.0F);
-  EXPECT_FLOAT_EQ(fichero.altitud, 667.0F);
-  EXPECT_FLOAT_EQ(fichero.meridiano, 15.0F);
+  EXPECT_EQ(std::tuple(fichero.latitud, fichero.longitud, fichero.altitud, fichero.meridiano),
+            std::tuple(40.5F, -4.0F, 667.0F, 15.0F));
   ASSERT_EQ(fichero.horas.size(), 8760U);
-  const RegistroMet& primera = fichero.horas.front();
-  EXPECT_EQ(primera.seca, -3.25F);
-  EXPECT_EQ(primera.cielo, -10.5F);
-  EXPECT_EQ(primera.directaHorizontal, 12.0F);
-  EXPECT_EQ(primera.difusa, 34.0F);
-  EXPECT_EQ(primera.humedadAbsoluta, 0.00572F);
-  EXPECT_EQ(primera.humedadRelativa, 75.0F);
-  EXPECT_EQ(primera.acimut, -58.1F);
-  EXPECT_EQ(primera.cenit, 89.3F);
+  const RegistroMet& r = fichero.horas.front();
+  EXPECT_EQ(std::tuple(r.seca, r.cielo, r.directaHorizontal, r.difusa, r.humedadAbsoluta,
+                       r.humedadRelativa, r.acimut, r.cenit),
+            std::tuple(-3.25F, -10.5F, 12.0F, 34.0F, 0.00572F, 75.0F, -58.1F, 89.3F));
   // El viento no se lee, así que puede no ser un número.
-  EXPECT_EQ(fichero.horas.back().seca, 7.5F);
-  EXPECT_EQ(fichero.horas.back().cielo, 2.0F);
-  EXPECT_EQ(fichero.horas.back().humedadAbsoluta, 0.004F);
+  const RegistroMet& u = fichero.horas.back();
+  EXPECT_EQ(std::tuple(u.seca, u.cielo, u.humedadAbsoluta), std::tuple(7.5F, 2.0F, 0.004F));
 }
 
 TEST(LeerMet, CabeceraCortaNoDaLugarYElTituloPuedeVenirEnOtraCodificacion) {
@@ -93,33 +86,25 @@ TEST(LeerMet, CabeceraCortaNoDaLugarYElTituloPuedeVenirEnOtraCodificacion) {
 }
 
 TEST(LeerMet, LasFaltasDicenSuLinea) {
-  const auto buenas = LineasDeManual();
+  auto lineas = LineasDeManual();
+  const auto conLinea = [&](std::size_t i, const std::string& texto) {
+    auto cambiadas = lineas;
+    cambiadas[i] = texto;
+    return LineaDelError(Unir(cambiadas));
+  };
   EXPECT_EQ(LineaDelError(""), 3);
-
-  auto lineas = buenas;
-  lineas.resize(8761);
-  EXPECT_EQ(LineaDelError(Unir(lineas)), 8762);
-
-  lineas = buenas;
-  lineas[99] = "1 2 3 4 5 6 7 8 9";
-  EXPECT_EQ(LineaDelError(Unir(lineas)), 100);
-  lineas[99] = "";
-  EXPECT_EQ(LineaDelError(Unir(lineas)), 100);
-
-  for (const char* mala : {"doce", "nan", "inf", "1e99", "1.2.3", "-", "12x", "1,5,2"}) {
-    lineas = buenas;
-    lineas[500] = std::string("1 1 1 ") + mala + " 0 0 0 0.005 50 1 1 0 90";
-    EXPECT_EQ(LineaDelError(Unir(lineas)), 501) << mala;
-  }
-
-  lineas = buenas;
-  lineas[1] = "norte -4 667 15";
-  EXPECT_EQ(LineaDelError(Unir(lineas)), 2);
-
-  // La última línea puede acabar sin fin de línea.
-  std::string texto = Unir(buenas);
+  EXPECT_EQ(conLinea(99, "1 2 3 4 5 6 7 8 9"), 100);
+  EXPECT_EQ(conLinea(99, ""), 100);
+  EXPECT_EQ(conLinea(1, "norte -4 667 15"), 2);
+  for (const char* mala : {"doce", "nan", "inf", "1e99", "1.2.3", "-", "12x", "1,5,2"})
+    EXPECT_EQ(conLinea(500, std::string("1 1 1 ") + mala + " 0 0 0 0.005 50 1 1 0 90"), 501)
+        << mala;
+  // La última línea puede acabar sin fin de línea, y no puede faltar.
+  std::string texto = Unir(lineas);
   texto.resize(texto.size() - 2);
   EXPECT_EQ(LeerMet(texto).horas.size(), 8760U);
+  lineas.resize(8761);
+  EXPECT_EQ(LineaDelError(Unir(lineas)), 8762);
 }
 
 TEST(ComprobarMet, AceptaUnFicheroCorrectoYDiceCadaFalta) {
@@ -141,18 +126,17 @@ TEST(ComprobarMet, AceptaUnFicheroCorrectoYDiceCadaFalta) {
 }
 
 TEST(ComprobarMet, DescubreHoraOSentidoDelSolDistintos) {
+  const auto buenas = LineasDeManual();
+  for (const auto& [cabecera, falta] :
+       {std::pair{"28\t-16\t30\t0", "el cenit no es"}, {"40.5\t-4", "línea 2"}}) {
+    auto lineas = buenas;
+    lineas[1] = cabecera;
+    EXPECT_THAT(ComprobarMet(Unir(lineas)), Contains(HasSubstr(falta)));
+  }
   // Todo el año una hora tarde, como en hora oficial.
-  auto lineas = LineasDeManual();
+  auto lineas = buenas;
   std::rotate(lineas.begin() + 2, lineas.end() - 1, lineas.end());
   EXPECT_THAT(ComprobarMet(Unir(lineas)), Contains(HasSubstr("el cenit no es")));
-
-  lineas = LineasDeManual();
-  lineas[1] = "28\t-16\t30\t0";
-  EXPECT_THAT(ComprobarMet(Unir(lineas)), Contains(HasSubstr("el cenit no es")));
-
-  lineas = LineasDeManual();
-  lineas[1] = "40.5\t-4";
-  EXPECT_THAT(ComprobarMet(Unir(lineas)), Contains(HasSubstr("línea 2")));
 }
 
 TEST(ResumirMet, MediasYSumasDeMesYAno) {
@@ -194,26 +178,17 @@ TEST(PosicionSolar, SolsticiosYEquinoccio) {
   }
 }
 
-class PruebaInstalarClima : public ::testing::Test {
- protected:
-  void SetUp() override {
-    carpeta_ = std::filesystem::path(::testing::TempDir()) / "novex_prueba_instalar_clima";
-    std::filesystem::remove_all(carpeta_);
-    std::filesystem::create_directories(carpeta_ / "origen");
-  }
-  void TearDown() override { std::filesystem::remove_all(carpeta_); }
-
-  std::filesystem::path carpeta_;
-};
-
-TEST_F(PruebaInstalarClima, InstalaLosBuenosYExplicaLosDemas) {
+TEST(InstalarClima, InstalaLosBuenosYExplicaLosDemas) {
+  const pruebas::CarpetaTemporal carpeta;
+  const auto origen = carpeta / "origen", destino = carpeta / "databaseCTE";
+  std::filesystem::create_directories(origen);
   const std::string bueno = Unir(LineasDeManual());
-  std::ofstream(carpeta_ / "origen" / "zonaD3.met", std::ios::binary) << bueno;
-  std::ofstream(carpeta_ / "origen" / "ZONAALFA3C.MET", std::ios::binary) << bueno;
-  std::ofstream(carpeta_ / "origen" / "zonaC1.met", std::ios::binary) << "a medias\n";
-  std::ofstream(carpeta_ / "origen" / "zonaZ9.met", std::ios::binary) << bueno;
+  std::ofstream(origen / "zonaD3.met", std::ios::binary) << bueno;
+  std::ofstream(origen / "ZONAALFA3C.MET", std::ios::binary) << bueno;
+  std::ofstream(origen / "zonaC1.met", std::ios::binary) << "a medias\n";
+  std::ofstream(origen / "zonaZ9.met", std::ios::binary) << bueno;
 
-  const auto resultados = InstalarClima(carpeta_ / "origen", carpeta_ / "databaseCTE");
+  const auto resultados = InstalarClima(origen, destino);
   ASSERT_EQ(resultados.size(), kZonasMet.size());
   std::vector<std::string> instaladas;
   for (const ClimaInstalado& r : resultados) {
@@ -227,16 +202,17 @@ TEST_F(PruebaInstalarClima, InstalaLosBuenosYExplicaLosDemas) {
     }
   }
   EXPECT_THAT(instaladas, ::testing::ElementsAre("D3", "alfa3c"));
-  EXPECT_EQ(LeerFichero(carpeta_ / "databaseCTE" / "ZonaD3.met"), bueno);
-  EXPECT_TRUE(std::filesystem::exists(carpeta_ / "databaseCTE" / "Zonaalfa3c.met"));
-  EXPECT_FALSE(std::filesystem::exists(carpeta_ / "databaseCTE" / "ZonaC1.met"));
-  EXPECT_THROW(InstalarClima(carpeta_ / "no_existe", carpeta_ / "databaseCTE"), ErrorFichero);
+  EXPECT_EQ(LeerFichero(destino / "ZonaD3.met"), bueno);
+  EXPECT_TRUE(std::filesystem::exists(destino / "Zonaalfa3c.met"));
+  EXPECT_FALSE(std::filesystem::exists(destino / "ZonaC1.met"));
+  EXPECT_THROW(InstalarClima(carpeta / "no_existe", destino), ErrorFichero);
 }
 
-TEST_F(PruebaInstalarClima, TomaLosFicherosOficiales) {
+TEST(InstalarClima, TomaLosFicherosOficiales) {
+  const pruebas::CarpetaTemporal carpeta;
   const pruebas::ClimaOficial clima;
   if (!clima.Carpeta()) GTEST_SKIP() << "sin los climas oficiales (NOVEX_DATOS_PRUEBA)";
-  for (const ClimaInstalado& r : InstalarClima(*clima.Carpeta(), carpeta_ / "databaseCTE"))
+  for (const ClimaInstalado& r : InstalarClima(*clima.Carpeta(), carpeta / "databaseCTE"))
     EXPECT_TRUE(r.instalado) << r.zona << ": " << r.faltas.front();
 }
 

@@ -13,6 +13,7 @@
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
 #include "demand/PosicionSolar.h"
+#include "files/CarpetaTemporal.h"
 
 namespace novex {
 namespace {
@@ -234,13 +235,9 @@ TEST(GenerarMet, LosOtrosConjuntosSonElMismoTiempoConSuTendencia) {
 
 class PruebaEstadisticas : public ::testing::Test {
  protected:
-  void SetUp() override {
-    carpeta_ = std::filesystem::path(::testing::TempDir()) / "novex_prueba_estadisticas";
-    std::filesystem::remove_all(carpeta_);
-    std::filesystem::copy(std::filesystem::path(NOVEX_RAIZ_DATOS) / "clima", carpeta_);
+  PruebaEstadisticas() {
+    std::filesystem::copy(std::filesystem::path(NOVEX_RAIZ_DATOS) / "clima", carpeta_ / "");
   }
-  void TearDown() override { std::filesystem::remove_all(carpeta_); }
-
   // Cambia un trozo de un fichero y devuelve el mensaje del fallo al leer.
   std::string FalloAlCambiar(const char* nombre, const std::string& viejo,
                              const std::string& nuevo) {
@@ -253,7 +250,7 @@ class PruebaEstadisticas : public ::testing::Test {
     std::ofstream(carpeta_ / nombre, std::ios::binary) << cambiado;
     std::string mensaje;
     try {
-      LeerEstadisticasClima(carpeta_);
+      LeerEstadisticasClima(carpeta_ / "");
     } catch (const ErrorFichero& error) {
       mensaje = error.what();
     }
@@ -261,7 +258,7 @@ class PruebaEstadisticas : public ::testing::Test {
     return mensaje;
   }
 
-  std::filesystem::path carpeta_;
+  pruebas::CarpetaTemporal carpeta_;
 };
 
 TEST_F(PruebaEstadisticas, LosFicherosMalosDanSuFallo) {

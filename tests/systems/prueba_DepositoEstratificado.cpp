@@ -26,28 +26,6 @@ Nodos Uniforme(double T) {
   return {T, T, T, T, T};
 }
 
-// Sin caudales la media sigue a T = Ta + (T0 - Ta) exp(-UA t / M cp): tras 24 h, exp(-0,52518).
-TEST(DepositoEstratificado, SeEnfriaHaciaElAmbiente) {
-  const GeometriaDeposito g(200, 5, 2);
-  MinutoDeposito m;
-  m.ambiente = 20;
-  Nodos T = Uniforme(60);
-  double perdidas = 0;
-  const double inicio = Almacenada(g, T);
-  for (int minuto = 1; minuto <= 1440; ++minuto) {
-    const Nodos antes = T;
-    perdidas += AvanzarDeposito(g, m, T).perdidas;
-    ASSERT_LT(Media(T), Media(antes));
-    ASSERT_TRUE(EnOrden(T)) << minuto;
-  }
-  EXPECT_NEAR(Media(T), 20 + 40 * std::exp(-5.0 * 86400 / (5 * 164514.9)), 0.15);
-  EXPECT_NEAR(perdidas, Almacenada(g, T) - inicio, 1e-3 * std::fabs(perdidas));
-  // Y un depósito frío se calienta.
-  T = Uniforme(5);
-  AvanzarDeposito(g, m, T);
-  EXPECT_GT(Media(T), 5);
-}
-
 TEST(DepositoEstratificado, ElUnicoNodoQueNadaTocaNoCambia) {
   const GeometriaDeposito g(200, 0, 2);
   Nodos T = Uniforme(50);

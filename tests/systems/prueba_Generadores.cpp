@@ -381,6 +381,9 @@ TEST_F(UnaHora, BombasYVentiladores) {
   EXPECT_NEAR(r.ventiladores[kCalefaccion], 20, 1e-4);
   r = Correr("ACS+Calefaccion", 10, 40);  // se da la cuarta parte de lo pedido
   EXPECT_NEAR(r.bombas[kCalefaccion], bomba + parcial(0.25), 1e-3);
+  i.Seleccion = "1 BC aire-agua";  // y con la bomba de calor, de su capacidad
+  EXPECT_NEAR(Correr("Calefaccion", 0, 5).bombas[kCalefaccion], bomba + parcial(0.25), 1e-3);
+  i.Seleccion = "1 Caldera";
   yaContada = 30;  // lo que el depósito ya ha contado de la bomba 1
   EXPECT_NEAR(Correr("ACS+Calefaccion", 10, 40).bombas[kCalefaccion], bomba - 30 + parcial(0.25),
               1e-3);
