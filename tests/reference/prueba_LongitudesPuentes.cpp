@@ -69,9 +69,9 @@ TEST(LongitudesPuentes, LosPerimetrosSeCortanSinRedondear) {
   Edificio e;
   PonerModo(e, "Estimados");
   Recinto& r = e.GetRecinto(0);
-  r.Suelo_al_terreno_m2[1] = 50;   // 28,28
-  r.Suelo_ext_m2[0] = 22;          // 18,76
-  r.Cubierta_horiz_sol_m2[2] = 8;  // 11,31
+  r.Suelo_al_terreno_m2[1] = 52;      // 28,84
+  r.Suelo_ext_m2[0] = 22;             // 18,76
+  r.Cubierta_horiz_sol_m2[2] = 8.5F;  // 11,66
   const Construccion c = LongitudesEstimadas(e);
   EXPECT_EQ(c.Perimetro_suelo_terreno, 28);
   EXPECT_EQ(c.Perimetro_suelo_ext, 18);

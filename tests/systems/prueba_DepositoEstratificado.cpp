@@ -10,10 +10,6 @@
 namespace novex {
 namespace {
 
-double Media(const Nodos& T) {
-  return std::accumulate(T.begin(), T.end(), 0.0) / static_cast<double>(kNodos);
-}
-
 double Almacenada(const GeometriaDeposito& g, const Nodos& T) {
   return g.masaCp * std::accumulate(T.begin(), T.end(), 0.0);
 }
@@ -64,24 +60,6 @@ TEST(DepositoEstratificado, LaExtraccionDejaElOrdenYVaciaDesdeAbajo) {
   for (int i = 0; i < 3000; ++i) e = AvanzarDeposito(aislado, m, T);
   EXPECT_NEAR(T[0], 10 + 23.90, 0.05);
   EXPECT_NEAR(e.extraccion, -5000 * 60, 1500);
-}
-
-TEST(DepositoEstratificado, ElCalorDeAbajoSeMezclaHaciaArriba) {
-  const GeometriaDeposito g(200, 0, 2);
-  MinutoDeposito m;
-  m.auxiliar = 3000;
-  m.nodoAuxiliar = 4;
-  Nodos T = Uniforme(40);
-  for (int i = 0; i < 60; ++i) AvanzarDeposito(g, m, T);
-  EXPECT_NEAR(Media(T), 40 + 3000.0 * 3600 / (5 * 164514.9), 0.02);
-  EXPECT_TRUE(EnOrden(T));
-  EXPECT_NEAR(T[0], T[4], 0.5);
-  // El de arriba se queda con lo suyo.
-  m.nodoAuxiliar = 0;
-  T = Uniforme(40);
-  for (int i = 0; i < 60; ++i) AvanzarDeposito(g, m, T);
-  EXPECT_GT(T[0], 70);
-  EXPECT_LT(T[4], 45);
 }
 
 // Un día con todo a la vez: lo que entra y sale es lo que queda dentro, al 0,1 %.
