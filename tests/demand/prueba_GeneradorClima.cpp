@@ -12,8 +12,8 @@
 
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
+#include "demand/ClimaOficial.h"
 #include "demand/PosicionSolar.h"
-#include "files/CarpetaTemporal.h"
 
 namespace novex {
 namespace {
@@ -233,11 +233,33 @@ TEST(GenerarMet, LosOtrosConjuntosSonElMismoTiempoConSuTendencia) {
   EXPECT_THROW(GenerarMet(Clima(), "D3", "1850"), std::out_of_range);
 }
 
+TEST(SecuenciaDias, LaCurvaEstacionalConservaLasMediasYNoDaSaltos) {
+  const std::array<double, 12> medias = {5, 6, 8, 11, 14, 21, 24, 24.5, 22, 14, 8, 5};
+  const SerieDiaria curva = CurvaEstacional(medias);
+  for (std::size_t m = 0; m < 12; ++m)
+    EXPECT_NEAR(Media(&curva[PrimerDia(m)], DiasDe(m)), medias[m], 1e-3);
+  for (std::size_t d = 0; d < kDiasAno; ++d)
+    EXPECT_LT(std::fabs(curva[(d + 1) % kDiasAno] - curva[d]), 0.6) << d;
+}
+
+TEST(SecuenciaDias, LasNormalesPropiasTienenMediaCeroYDesviacionUno) {
+  Azar azar(1);
+  std::vector<double> z(20000);
+  for (double& x : z) x = azar.Normal();
+  EXPECT_NEAR(MediaDe(z), 0, 0.03);
+  EXPECT_NEAR(Covarianza(z, z), 1, 0.04);
+  EXPECT_NEAR(AutocorrelacionDe(z), 0, 0.03);
+}
+
 class PruebaEstadisticas : public ::testing::Test {
  protected:
-  PruebaEstadisticas() {
-    std::filesystem::copy(std::filesystem::path(NOVEX_RAIZ_DATOS) / "clima", carpeta_ / "");
+  void SetUp() override {
+    carpeta_ = std::filesystem::path(::testing::TempDir()) / "novex_prueba_estadisticas";
+    std::filesystem::remove_all(carpeta_);
+    std::filesystem::copy(std::filesystem::path(NOVEX_RAIZ_DATOS) / "clima", carpeta_);
   }
+  void TearDown() override { std::filesystem::remove_all(carpeta_); }
+
   // Cambia un trozo de un fichero y devuelve el mensaje del fallo al leer.
   std::string FalloAlCambiar(const char* nombre, const std::string& viejo,
                              const std::string& nuevo) {
@@ -250,7 +272,7 @@ class PruebaEstadisticas : public ::testing::Test {
     std::ofstream(carpeta_ / nombre, std::ios::binary) << cambiado;
     std::string mensaje;
     try {
-      LeerEstadisticasClima(carpeta_ / "");
+      LeerEstadisticasClima(carpeta_);
     } catch (const ErrorFichero& error) {
       mensaje = error.what();
     }
@@ -258,22 +280,55 @@ class PruebaEstadisticas : public ::testing::Test {
     return mensaje;
   }
 
-  pruebas::CarpetaTemporal carpeta_;
+  std::filesystem::path carpeta_;
 };
 
 TEST_F(PruebaEstadisticas, LosFicherosMalosDanSuFallo) {
-  const char* const casos[][4] = {
-      {"mensual.csv", "zona;mes", "zone;mes", "línea 1: la cabecera"},
-      {"mensual.csv", "alfa1c;2;", "alfa1c;1;", "línea 3: mes repetido"},
-      {"mensual.csv", "alfa1c;2;", "omega;2;", "la zona no existe"},
-      {"mensual.csv", "alfa1c;2;", "alfa1c;13;", "línea 3"},
-      {"mensual.csv", "alfa1c;2;28.3250;", "alfa1c;2;norte;", "norte"},
-      {"perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;directa", "perfil repetido"},
-      {"perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;otra", "variable desconocida"},
-      {"tendencia.csv", "1992;3;", "1992;4;", "fuera de orden"}};
-  for (const auto& [fichero, viejo, nuevo, fallo] : casos)
-    EXPECT_THAT(FalloAlCambiar(fichero, viejo, nuevo), ::testing::HasSubstr(fallo));
+  using ::testing::HasSubstr;
+  EXPECT_THAT(FalloAlCambiar("mensual.csv", "zona;mes", "zone;mes"),
+              HasSubstr("línea 1: la cabecera"));
+  EXPECT_THAT(FalloAlCambiar("mensual.csv", "alfa1c;2;", "alfa1c;1;"),
+              HasSubstr("línea 3: mes repetido"));
+  EXPECT_THAT(FalloAlCambiar("mensual.csv", "alfa1c;2;", "omega;2;"),
+              HasSubstr("la zona no existe"));
+  EXPECT_THAT(FalloAlCambiar("mensual.csv", "alfa1c;2;", "alfa1c;13;"), HasSubstr("línea 3"));
+  EXPECT_THAT(FalloAlCambiar("mensual.csv", "alfa1c;2;28.3250;", "alfa1c;2;norte;"),
+              HasSubstr("norte"));
+  EXPECT_THAT(FalloAlCambiar("perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;directa"),
+              HasSubstr("perfil repetido"));
+  EXPECT_THAT(FalloAlCambiar("perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;otra"),
+              HasSubstr("variable desconocida"));
+  EXPECT_THAT(FalloAlCambiar("tendencia.csv", "1992;3;", "1992;4;"), HasSubstr("fuera de orden"));
   EXPECT_THROW(LeerEstadisticasClima(carpeta_ / "no_existe"), ErrorFichero);
+}
+
+// Los climas oficiales no se distribuyen: la comparación se hace donde están.
+TEST(GeneradorClima, FrenteAlOficialElGeneradoTieneSuDispersionHorariaYSuCursoDiario) {
+  const pruebas::ClimaOficial clima;
+  if (!clima.Carpeta()) GTEST_SKIP() << "sin los climas oficiales (NOVEX_DATOS_PRUEBA)";
+  for (const char* zona : {"A3", "A4", "B3", "C1", "C2", "D1", "D2", "D3", "E1"}) {
+    const auto ruta = *clima.Carpeta() / (std::string("zona") + zona + ".met");
+    const FicheroMet oficial = LeerMet(LeerFichero(ruta), ruta.string());
+    const FicheroMet& generado = Generado(zona);
+    double sumaCenit = 0;
+    for (std::size_t i = 0; i < oficial.horas.size(); ++i)
+      sumaCenit += std::fabs(static_cast<double>(oficial.horas[i].cenit - generado.horas[i].cenit));
+    EXPECT_LT(sumaCenit / 8760, 0.3) << zona;
+    for (std::size_t m = 0; m < kMeses; ++m) {
+      SCOPED_TRACE(std::string(zona) + " mes " + std::to_string(m + 1));
+      std::vector<double> horasOficial;
+      std::vector<double> horasGenerado;
+      for (std::size_t i = PrimerDia(m) * 24; i < (PrimerDia(m) + DiasDe(m)) * 24; ++i) {
+        horasOficial.push_back(static_cast<double>(oficial.horas[i].seca));
+        horasGenerado.push_back(static_cast<double>(generado.horas[i].seca));
+      }
+      const double desviacion = DesviacionDe(horasOficial);
+      EXPECT_NEAR(DesviacionDe(horasGenerado), desviacion, 0.05 * desviacion);
+      const CursoDiario a = CursoMedio(oficial, m, &RegistroMet::directaHorizontal);
+      const CursoDiario b = CursoMedio(generado, m, &RegistroMet::directaHorizontal);
+      for (std::size_t h = 0; h < 24; ++h) EXPECT_NEAR(b[h], a[h], 0.03 * a[h] + 1.5);
+    }
+  }
 }
 
 }  // namespace
