@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "entry/DescripcionExpres.h"
 #include "entry/ProyectoNuevo.h"
 #include "entry/SupuestosExpres.h"
 #include "model/PropiedadesHueco.h"
@@ -193,6 +194,40 @@ TEST_F(Expres, TerciarioTomaElAireDeSuClase) {
   EXPECT_EQ(edificio.GetVentilacion().Calcular_Renov_h_segun_HS3, "Si");
   EXPECT_EQ(edificio.GetDatosGenerales().PotPico_FV[0], 3.5F);
   EXPECT_EQ(edificio.GetDatosGenerales().Incli_FV[0], 30);
+}
+
+TEST_F(Expres, LaFraseCuentaLoQueSeHaConstruido) {
+  entrada.fachada[norte] = "60";
+  entrada.fachada[sur] = "40";
+  // Tres ventanas de 4 m2 y una puerta de 2 m2: 14 de 100 m2.
+  GrupoExpres ventana;
+  ventana.ancho = ventana.alto = "2";
+  ventana.unidades[norte] = "2";
+  ventana.unidades[sur] = "1";
+  entrada.vidrios = {ventana};
+  entrada.anchoPuerta = "1";
+  entrada.altoPuerta = "2";
+  entrada.puertas[sur] = "1";
+  entrada.medianeras = "30,5";
+  entrada.suelo = "80";
+  entrada.tipoSuelo = SueloExpres::VacioSanitario;
+  entrada.fotovoltaica = "2,5";
+  Definir();
+  // Tres dormitorios son cuatro personas a 28 l/día (CTE DB-HE4, anejo F).
+  EXPECT_EQ(DescribirExpres(edificio),
+            "Edificio de 100 m² y 270 m³ en D3, fachada 100 m² con 14 % de huecos (U 1,1), "
+            "medianeras 30,5 m² (U 1,2), cubierta al exterior 100 m² (U 1,4), suelo sobre vacío "
+            "sanitario 80 m² (U 1,9), ventilación de 0,63 renovaciones por hora, agua caliente con "
+            "1 Calentador para 112 l/día, fotovoltaica de 2,5 kW.");
+  entrada = {};
+  entrada.cubierta = entrada.suelo = "";
+  PonerUso(4);
+  Definir();
+  const std::string frase = DescribirExpres(edificio);
+  EXPECT_NE(frase.find("sin fachada"), std::string::npos);
+  EXPECT_EQ(frase.find("cubierta"), std::string::npos);
+  // Sin potencia tecleada el caso conserva la que tenía.
+  EXPECT_NE(frase.find("fotovoltaica de 2,5 kW"), std::string::npos);
 }
 
 TEST(SupuestosExpres, LoQueNoSeDaSaleDeLaForma) {
