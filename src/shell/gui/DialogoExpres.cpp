@@ -3,7 +3,6 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -48,6 +47,22 @@ Enum Eleccion(const QComboBox* lista) {
   return static_cast<Enum>(std::max(0, lista->currentIndex()));
 }
 
+// Un apartado: su título y, debajo, lo que lleve dentro.
+QWidget* Apartado(const QString& titulo, QWidget* dentro, QWidget* padre) {
+  auto* caja = new QWidget(padre);
+  auto* columna = new QVBoxLayout(caja);
+  columna->setContentsMargins(0, 0, 18, 0);
+  columna->setSpacing(4);
+  auto* etiqueta = new QLabel(titulo, caja);
+  etiqueta->setProperty("papel", "seccion");
+  columna->addWidget(etiqueta);
+  dentro->setParent(caja);
+  dentro->layout()->setContentsMargins(0, 0, 0, 0);
+  columna->addWidget(dentro);
+  columna->addStretch(1);
+  return caja;
+}
+
 UnidadesPorSector Textos(const std::array<QLineEdit*, kSectores>& lineas) {
   UnidadesPorSector textos;
   for (std::size_t s = 0; s < kSectores; ++s) textos[s] = S(lineas[s]->text().trimmed());
@@ -85,7 +100,7 @@ DialogoExpres::DialogoExpres(ContextoGui& contexto, QWidget* padre)
   connect(&espera_, &QTimer::timeout, this, &DialogoExpres::Previsualizar);
   LlenarInstalaciones();
   Previsualizar();
-  resize(980, 660);
+  resize(1000, 640);
 }
 
 DialogoExpres::~DialogoExpres() = default;
@@ -113,7 +128,7 @@ QComboBox* DialogoExpres::Lista(const QString& nombre, std::span<const std::stri
 }
 
 QWidget* DialogoExpres::CajaEdificio() {
-  auto* caja = new QGroupBox(tr("Edificio"), this);
+  auto* caja = new QWidget(this);
   auto* formulario = new QFormLayout(caja);
   superficie_ = Linea("superficie", "100", "Area");
   formulario->addRow(tr("Suelo habitable (m2)"), superficie_);
@@ -127,7 +142,7 @@ QWidget* DialogoExpres::CajaEdificio() {
     aire_->setCurrentText("IDA2");
     aire_->setToolTip(tr("Calidad del aire interior (RITE, IT 1.1.4.2.2)"));
     formulario->addRow(tr("Calidad del aire"), aire_);
-    return caja;
+    return Apartado(tr("Edificio"), caja, this);
   }
   if (perfil_ != kUnifamiliar) {
     viviendas_ = Linea("viviendas", "10", "Entero1");
@@ -139,11 +154,11 @@ QWidget* DialogoExpres::CajaEdificio() {
   formulario->addRow(tr("nº cuartos baño/vivienda "), banos_);
   ventilacion_ = Linea("ventilacion", "0,63", "Renov");
   formulario->addRow(tr("Ventilación (renov/h)"), ventilacion_);
-  return caja;
+  return Apartado(tr("Edificio"), caja, this);
 }
 
 QWidget* DialogoExpres::CajaHorizontales() {
-  auto* caja = new QGroupBox(tr("Opacos horizontales"), this);
+  auto* caja = new QWidget(this);
   auto* formulario = new QFormLayout(caja);
   const auto conTipo = [&](const QString& rotulo, QLineEdit* area, QComboBox* tipo) {
     auto* fila = new QHBoxLayout;
@@ -165,11 +180,11 @@ QWidget* DialogoExpres::CajaHorizontales() {
   formulario->addRow(tr("Medianeras"), medianeras_);
   local_ = Linea("localNoAcondicionado", {}, "Area");
   formulario->addRow(tr("A local no acond."), local_);
-  return caja;
+  return Apartado(tr("Opacos horizontales"), caja, this);
 }
 
 QWidget* DialogoExpres::CajaInstalacion() {
-  auto* caja = new QGroupBox(tr("Agua caliente"), this);
+  auto* caja = new QWidget(this);
   auto* formulario = new QFormLayout(caja);
   if (perfil_ != kUnifamiliar) {
     reparto_ = Lista("reparto", kRepartos);
@@ -188,7 +203,7 @@ QWidget* DialogoExpres::CajaInstalacion() {
   nota->setProperty("papel", "nota");
   nota->setWordWrap(true);
   formulario->addRow(nota);
-  return caja;
+  return Apartado(tr("Agua caliente"), caja, this);
 }
 
 DialogoExpres::Unidades DialogoExpres::FilaSectores(QGridLayout* rejilla, int fila,
@@ -214,7 +229,7 @@ DialogoExpres::LineaHuecos DialogoExpres::FilaHuecos(QGridLayout* rejilla, int f
 }
 
 QWidget* DialogoExpres::CajaFachadas() {
-  auto* caja = new QGroupBox(tr("Fachadas y huecos"), this);
+  auto* caja = new QWidget(this);
   auto* rejilla = new QGridLayout(caja);
   rejilla->setHorizontalSpacing(4);
   rejilla->setVerticalSpacing(3);
@@ -267,7 +282,7 @@ QWidget* DialogoExpres::CajaFachadas() {
   ayuda->addStretch(1);
   rejilla->addLayout(ayuda, fila + 1, 0, 1, 11);
   rejilla->setColumnStretch(11, 1);
-  return caja;
+  return Apartado(tr("Fachadas y huecos"), caja, this);
 }
 
 QWidget* DialogoExpres::CajaResultado() {
@@ -282,6 +297,7 @@ QWidget* DialogoExpres::CajaResultado() {
     columna->addWidget(texto);
     return texto;
   };
+  etiqueta("seccion", "resulta")->setText(tr("Lo que resulta"));
   frase_ = etiqueta("resultado", "frase");
   avisos_ = etiqueta("aviso", "avisos");
   supuestos_ = etiqueta("nota", "supuestos");

@@ -9,8 +9,9 @@
 #include "entry/Horarios.h"
 #include "shell/gui/Pagina.h"
 
-class QRadioButton;
+class QCheckBox;
 class QTabBar;
+class QToolButton;
 
 namespace novex::gui {
 
@@ -60,8 +61,8 @@ class PaginaHorarios : public Pagina {
   RejillaHorarios* rejilla_;
   GraficoHorario* grafico_;
   QLabel *avisos_, *notas_, *verano_;
-  class QToolButton* copiar_;
-  class QCheckBox* todas_;
+  QToolButton* copiar_;
+  QCheckBox* todas_;
   CalendarioUso* calendario_;
   QButtonGroup* clases_;
   std::array<QComboBox*, 13> acciones_{};

@@ -1,11 +1,9 @@
 #include "shell/gui/PaginaTitulo.h"
 
 #include <QFileInfo>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSettings>
 #include <QVBoxLayout>
 
 #include "entry/CambioUso.h"
@@ -46,6 +44,11 @@ const std::vector<std::string> kReformas = {"Reforma >25% envolvente + Clima + A
                                             "Ampliación",
                                             "Cambio de uso"};
 
+constexpr int kAnchoMaximo = 1180;
+constexpr int kAltoEtiqueta = 220;
+constexpr int kAltoListaMinimo = 120;
+constexpr int kAltoLista = 320;
+
 QLabel* Titulo(const QString& texto, QWidget* padre) {
   auto* titulo = new QLabel(texto, padre);
   titulo->setProperty("papel", "titulo");
@@ -54,37 +57,57 @@ QLabel* Titulo(const QString& texto, QWidget* padre) {
 
 }  // namespace
 
-QStringList ProyectosRecientes() {
-  return QSettings().value("recientes").toStringList();
-}
-
 PaginaTitulo::PaginaTitulo(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, padre) {
-  auto* columna = new QVBoxLayout(this);
-  columna->setContentsMargins(24, 20, 24, 20);
+  auto* fuera = new QVBoxLayout(this);
+  auto* dentro = new QWidget(this);
+  dentro->setMaximumWidth(kAnchoMaximo);
+  fuera->addStretch(1);
+  auto* medio = new QHBoxLayout;
+  medio->addStretch(1);
+  medio->addWidget(dentro, 100);
+  medio->addStretch(1);
+  fuera->addLayout(medio, 12);
+  fuera->addStretch(2);
+  auto* columna = new QVBoxLayout(dentro);
+  columna->setContentsMargins(16, 8, 16, 8);
+  columna->setSpacing(24);
   auto* arriba = new QHBoxLayout;
-  arriba->addWidget(CajaEmpezar(), 1);
-  const auto lista = [&](const QString& titulo, QListWidget*& widget) {
-    auto* caja = new QVBoxLayout;
-    caja->addWidget(Titulo(titulo, this));
-    widget = new QListWidget(this);
-    widget->setMaximumHeight(230);
-    caja->addWidget(widget);
-    arriba->addLayout(caja, 2);
-    connect(widget, &QListWidget::itemActivated, this, [this](const QListWidgetItem* entrada) {
-      emit PideFichero(entrada->data(Qt::UserRole).toString());
-    });
-  };
-  lista(tr("Recientes"), recientes_);
-  lista(tr("Ejemplos"), ejemplos_);
-  columna->addLayout(arriba);
+  arriba->setSpacing(32);
+  arriba->addWidget(CajaEmpezar(), 2);
+  arriba->addWidget(CajaLista(tr("Recientes"), recientes_), 4);
+  arriba->addWidget(CajaLista(tr("Ejemplos"), ejemplos_), 4);
+  columna->addLayout(arriba, 1);
   auto* abajo = new QHBoxLayout;
-  abajo->addWidget(CajaTrabajo(), 3);
+  abajo->setSpacing(32);
+  abajo->addWidget(CajaTrabajo(), 4);
   primaria_ = new EtiquetaEnergetica(tr("Energía primaria no renovable"), this);
   emisiones_ = new EtiquetaEnergetica(tr("Emisiones de CO2"), this);
-  abajo->addWidget(primaria_, 2);
-  abajo->addWidget(emisiones_, 2);
+  for (EtiquetaEnergetica* etiqueta : {primaria_, emisiones_}) {
+    etiqueta->setMaximumHeight(kAltoEtiqueta);
+    abajo->addWidget(etiqueta, 3);
+  }
   columna->addLayout(abajo);
-  columna->addStretch(1);
+}
+
+QWidget* PaginaTitulo::CajaLista(const QString& titulo, QListWidget*& lista) {
+  auto* caja = new QWidget(this);
+  auto* columna = new QVBoxLayout(caja);
+  columna->setContentsMargins(0, 0, 0, 0);
+  columna->addWidget(Titulo(titulo, caja));
+  lista = new QListWidget(caja);
+  lista->setObjectName(titulo.toLower());
+  lista->setAccessibleName(titulo);
+  lista->setItemDelegate(new DelegadoProyecto(lista));
+  lista->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  lista->setMinimumHeight(kAltoListaMinimo);
+  lista->setMaximumHeight(kAltoLista);
+  lista->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  columna->addWidget(lista);
+  columna->addStretch(0);
+  connect(lista, &QListWidget::itemActivated, this, [this](const QListWidgetItem* entrada) {
+    emit PideFichero(entrada->data(kRutaProyecto).toString());
+  });
+  return caja;
 }
 
 QWidget* PaginaTitulo::CajaEmpezar() {
@@ -109,8 +132,13 @@ QWidget* PaginaTitulo::CajaEmpezar() {
 }
 
 QWidget* PaginaTitulo::CajaTrabajo() {
-  auto* caja = new QGroupBox(tr("Trabajo"), this);
-  auto* formulario = new QFormLayout(caja);
+  auto* caja = new QWidget(this);
+  auto* columna = new QVBoxLayout(caja);
+  columna->setContentsMargins(0, 0, 0, 0);
+  columna->addWidget(Titulo(tr("Trabajo"), caja));
+  auto* formulario = new QFormLayout;
+  columna->addLayout(formulario);
+  columna->addStretch(1);
   std::vector<std::string> valores, rotulos;
   for (const Objetivo& o : kObjetivos) {
     valores.emplace_back(o.valor);
@@ -144,28 +172,46 @@ QWidget* PaginaTitulo::CajaTrabajo() {
   return caja;
 }
 
-void PaginaTitulo::LlenarListas() {
+void PaginaTitulo::LlenarRecientes() {
   recientes_->clear();
+  const QDateTime ahora = QDateTime::currentDateTime();
   for (const QString& ruta : ProyectosRecientes()) {
-    if (!QFileInfo::exists(ruta)) continue;
-    auto* entrada = new QListWidgetItem(QFileInfo(ruta).fileName(), recientes_);
-    entrada->setData(Qt::UserRole, ruta);
+    const QFileInfo fichero(ruta);
+    if (!fichero.exists()) continue;
+    auto* entrada = new QListWidgetItem(fichero.fileName(), recientes_);
+    entrada->setData(kRutaProyecto, ruta);
+    entrada->setData(kFechaProyecto, FechaRelativa(fichero.lastModified(), ahora));
+    entrada->setData(kLetraProyecto, LetraDe(ruta));
     entrada->setToolTip(ruta);
   }
-  if (recientes_->count() == 0)
-    new QListWidgetItem(tr("Aquí saldrán los proyectos que abra"), recientes_);
-  if (ejemplos_->count() > 0) return;
-  std::error_code fallo;
-  std::vector<std::filesystem::path> rutas;
-  for (const auto& f :
-       std::filesystem::directory_iterator(contexto_.Ficheros().Espacio().Proyectos(), fallo))
-    if (f.path().extension() == ".xml") rutas.push_back(f.path());
-  std::sort(rutas.begin(), rutas.end());
-  for (const auto& ruta : rutas) {
-    QString nombre = Q(ruta.stem());
-    auto* entrada = new QListWidgetItem(nombre.replace('_', ' '), ejemplos_);
-    entrada->setData(Qt::UserRole, Q(ruta));
+  if (recientes_->count() > 0) return;
+  auto* vacia = new QListWidgetItem(tr("Aquí saldrán los proyectos que abra"), recientes_);
+  vacia->setFlags(Qt::NoItemFlags);
+}
+
+void PaginaTitulo::LlenarEjemplos() {
+  if (ejemplos_->count() == 0) {
+    std::error_code fallo;
+    std::vector<std::filesystem::path> rutas;
+    for (const auto& f :
+         std::filesystem::directory_iterator(contexto_.Ficheros().Espacio().Proyectos(), fallo))
+      if (f.path().extension() == ".xml") rutas.push_back(std::filesystem::absolute(f.path()));
+    std::sort(rutas.begin(), rutas.end());
+    for (const auto& ruta : rutas) {
+      QString nombre = Q(ruta.stem());
+      auto* entrada = new QListWidgetItem(nombre.replace('_', ' '), ejemplos_);
+      entrada->setData(kRutaProyecto, Q(ruta));
+    }
   }
+  for (int i = 0; i < ejemplos_->count(); ++i) {
+    QListWidgetItem* entrada = ejemplos_->item(i);
+    entrada->setData(kLetraProyecto, LetraDe(entrada->data(kRutaProyecto).toString()));
+  }
+}
+
+void PaginaTitulo::LlenarListas() {
+  LlenarRecientes();
+  LlenarEjemplos();
 }
 
 void PaginaTitulo::Refrescar() {
@@ -179,6 +225,15 @@ void PaginaTitulo::PonerEtiqueta(const QString& letraPrimaria, const QString& pr
                                  const QString& letraEmisiones, const QString& emisiones) {
   primaria_->Poner(letraPrimaria, primaria);
   emisiones_->Poner(letraEmisiones, emisiones);
+  // Lo calculado es lo que hay en el fichero si no se ha tocado y es su caso base.
+  const SesionProyecto& sesion = contexto_.Sesion();
+  if (letraPrimaria.isEmpty() || !sesion.TieneFichero() || sesion.Modificado() ||
+      !sesion.Gestor().EsCasoActivo(caso::kViejo))
+    return;
+  const QString ruta = Q(sesion.Fichero());
+  if (LetraDe(ruta) == letraPrimaria) return;
+  RecordarLetra(ruta, letraPrimaria);
+  LlenarListas();
 }
 
 }  // namespace novex::gui

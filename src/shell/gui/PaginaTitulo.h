@@ -4,6 +4,7 @@
 
 #include "shell/gui/EtiquetaEnergetica.h"
 #include "shell/gui/Pagina.h"
+#include "shell/gui/ProyectosConocidos.h"
 
 namespace novex::gui {
 
@@ -26,14 +27,14 @@ class PaginaTitulo : public Pagina {
 
  private:
   void LlenarListas();
+  void LlenarRecientes();
+  void LlenarEjemplos();
   QWidget* CajaEmpezar();
+  QWidget* CajaLista(const QString& titulo, QListWidget*& lista);
   QWidget* CajaTrabajo();
 
   QListWidget *recientes_, *ejemplos_;
   EtiquetaEnergetica *primaria_, *emisiones_;
 };
-
-/// Los proyectos abiertos últimamente, del más nuevo al más viejo.
-QStringList ProyectosRecientes();
 
 }  // namespace novex::gui

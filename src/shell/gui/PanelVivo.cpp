@@ -131,6 +131,7 @@ void PanelVivo::Paso() {
   if (vivo_.Avanzar(kRato)) return;
   reloj_.stop();
   Ensenar();
+  if (vivo_.EnQue() == CalculoVivo::Estado::Hecho) emit Calculado();
 }
 
 void PanelVivo::EnsenarCambio() {

@@ -26,6 +26,10 @@ class PanelVivo : public QWidget {
   /// ¿Queda algo por calcular?
   bool Ocupado() const { return espera_.isActive() || reloj_.isActive(); }
 
+ signals:
+  /// Hay un resumen nuevo.
+  void Calculado();
+
  private:
   void Empezar();
   void Paso();

@@ -154,6 +154,7 @@ void TForm1::CrearPaginas() {
           [this] { DialogoExpres(contexto_, this).exec(); });
 
   panel_ = new PanelVivo(contexto_);
+  connect(panel_, &PanelVivo::Calculado, this, &TForm1::PonerEstado);
   auto* muelle = new QDockWidget(tr("Calificación"), this);
   muelle->setObjectName("calificacion");
   muelle->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
@@ -212,9 +213,10 @@ void TForm1::AlEditar() {
 void TForm1::AlCambiarProyecto() {
   PonerCasos();
   PonerTitulo();
+  // Antes que el estado, que enseña lo último calculado.
+  panel_->PedirDeNuevo();
   PonerEstado();
   PaginaDe(mostrada_)->Refrescar();
-  panel_->PedirDeNuevo();
   if (contexto_.Sesion().Modificado()) copia_.start();
 }
 
@@ -255,7 +257,9 @@ void TForm1::PonerEstado() {
                       ? QString()
                       : "<a href=\"#\">" + Q(motivos.back().texto).toHtmlEscaped() + " →</a>");
   const auto& vivo = panel_->Calculo().Resumen();
-  if (vivo)
+  if (!vivo)
+    titulo_->PonerEtiqueta({}, {}, {}, {});
+  else
     titulo_->PonerEtiqueta(Q(vivo->letraPrimaria), Cifra(vivo->primaria), Q(vivo->letraEmisiones),
                            Cifra(vivo->emisiones));
 }
