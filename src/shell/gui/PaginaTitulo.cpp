@@ -102,8 +102,7 @@ QWidget* PaginaTitulo::CajaLista(const QString& titulo, QListWidget*& lista) {
   lista->setMinimumHeight(kAltoListaMinimo);
   lista->setMaximumHeight(kAltoLista);
   lista->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-  columna->addWidget(lista);
-  columna->addStretch(0);
+  columna->addWidget(lista, 1);
   connect(lista, &QListWidget::itemActivated, this, [this](const QListWidgetItem* entrada) {
     emit PideFichero(entrada->data(kRutaProyecto).toString());
   });
