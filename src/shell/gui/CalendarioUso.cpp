@@ -157,10 +157,10 @@ void CalendarioUso::PintarDia(QPainter& p, int mes, int dia) const {
   const int codigo = trazo_.count(*posicion) > 0 ? pincel_ : calendario_.at(*posicion);
   const QRectF celda = Celda(mes, dia).adjusted(1, 1, -1, -1);
   p.setPen(Qt::NoPen);
-  p.setBrush(ColorDia(codigo, palette()));
+  p.setBrush(ColorDia(codigo));
   p.drawRoundedRect(celda, 2, 2);
   // La cifra de la clase, para quien no distingue los colores.
-  QColor cifra = TextoSobreDia(codigo, palette());
+  QColor cifra = TextoSobreDia(codigo);
   cifra.setAlpha(170);
   p.setPen(cifra);
   p.drawText(celda, Qt::AlignCenter, QString::number(codigo));

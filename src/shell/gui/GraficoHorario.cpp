@@ -87,7 +87,7 @@ void GraficoHorario::paintEvent(QPaintEvent*) {
   for (std::size_t c = 0; c < kClasesDia; ++c)
     if (usadas_[c]) mayor = std::max(mayor, Maximo(tablas_[c]));
   const double maximo = FinDeEje(static_cast<double>(mayor));
-  const QColor suave = palette().color(QPalette::Mid);
+  const QColor suave = ColorReja(palette());
   const QColor texto = palette().color(QPalette::PlaceholderText);
 
   for (const double parte : {0.0, 0.5, 1.0}) {
@@ -107,10 +107,10 @@ void GraficoHorario::paintEvent(QPaintEvent*) {
   p.setBrush(Qt::NoBrush);
   for (std::size_t c = 0; c < kClasesDia; ++c) {
     if (!usadas_[c] || c == elegida_) continue;
-    p.setPen(QPen(ColorDia(static_cast<int>(c) + 1, palette()), 1));
+    p.setPen(QPen(ColorDia(static_cast<int>(c) + 1), 1));
     p.drawPath(Escalones(tablas_[c], zona, maximo));
   }
-  const QColor color = ColorDia(static_cast<int>(elegida_) + 1, palette());
+  const QColor color = ColorDia(static_cast<int>(elegida_) + 1);
   const QPainterPath linea = Escalones(tablas_[elegida_], zona, maximo);
   PintarRelleno(p, linea, zona, color);
   p.setPen(QPen(color, 2.5));

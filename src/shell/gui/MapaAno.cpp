@@ -8,6 +8,7 @@
 #include "base/Calendario.h"
 #include "entry/Horarios.h"
 #include "outputs/PeriodoSerie.h"
+#include "shell/gui/ColoresDia.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -104,7 +105,7 @@ void MapaAno::paintEvent(QPaintEvent*) {
   QPainter p(this);
   const QRectF zona = Zona();
   p.drawImage(zona, imagen_);
-  p.setPen(palette().color(QPalette::Mid));
+  p.setPen(ColorReja(palette()));
   p.setBrush(Qt::NoBrush);
   p.drawRect(zona);
   QFont pequena = font();
@@ -114,7 +115,7 @@ void MapaAno::paintEvent(QPaintEvent*) {
   for (std::size_t m = 1; m <= kMeses; ++m) {
     const double x = zona.left() + zona.width() * kUltimaHoraMes.at(m - 1) / kHorasAno;
     const double ancho = zona.width() * kDiasMes.at(m) / kDias;
-    p.setPen(palette().color(QPalette::Mid));
+    p.setPen(ColorReja(palette()));
     if (m > 1) p.drawLine(QPointF(x, zona.bottom()), QPointF(x, zona.bottom() + 4));
     p.setPen(texto);
     p.drawText(QRectF(x, zona.bottom() + 2, ancho, kAbajo), Qt::AlignHCenter | Qt::AlignTop,

@@ -226,7 +226,7 @@ QWidget* PaginaHorarios::CajaClases() {
     auto* boton = new QRadioButton(caja);
     boton->setObjectName(QString("clase%1").arg(codigo));
     QPixmap muestra(14, 14);
-    muestra.fill(ColorDia(codigo, palette()));
+    muestra.fill(ColorDia(codigo));
     boton->setIcon(muestra);
     clases_->addButton(boton, codigo);
     columna->addWidget(boton);
@@ -324,7 +324,7 @@ void PaginaHorarios::RefrescarHorarios() {
   const DatosGenerales& g = caso.GetDatosGenerales();
   const auto dias = DiasPorCodigo(g.perfiles);
   const std::size_t clase = ClaseElegida();
-  const QColor color = ColorDia(static_cast<int>(clase) + 1, palette());
+  const QColor color = ColorDia(static_cast<int>(clase) + 1);
   for (std::size_t f = 0; f < kFamilias; ++f)
     botones_.at(f)->Poner(Q(DatosDeFamilia(static_cast<Familia>(f), g.EsResidencial()).rotulo),
                           g.perfiles.tabla.at(f).at(clase), color);

@@ -79,7 +79,7 @@ void RejillaHorarios::Poner(const std::array<PerfilDiario, kClasesDia>& tablas,
                       (cuantos > 0 ? tr(" · %1 d").arg(cuantos) : QString()));
     cabecera->setToolTip(cuantos > 0 ? tr("%1 días del año").arg(cuantos)
                                      : tr("Ningún día del año es de esta clase"));
-    cabecera->setIcon(Muestra(ColorDia(fila + 1, palette())));
+    cabecera->setIcon(Muestra(ColorDia(fila + 1)));
     for (int h = 0; h < kHoras; ++h) {
       const QString texto = Q(TextoHora(tablas[c][static_cast<std::size_t>(h) + 1]));
       QTableWidgetItem* celda = item(fila, h);
