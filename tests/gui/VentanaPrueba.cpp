@@ -11,7 +11,7 @@ VentanaTest::VentanaTest() {
 }
 
 void VentanaTest::EsperarVivo() {
-  for (int i = 0; i < 200 && ventana->Panel().Ocupado(); ++i) QTest::qWait(20);
+  for (int i = 0; i < 1000 && ventana->Panel().Ocupado(); ++i) QTest::qWait(20);
 }
 
 void VentanaTest::Teclear(QLineEdit* linea, const QString& texto) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include "shell/gui/Estilo.h"
 
@@ -25,7 +26,9 @@ int main(int argc, char** argv) {
   QApplication aplicacion(argc, argv);
   QApplication::setOrganizationName("novex");
   QApplication::setApplicationName("novex-pruebas");
-  QSettings().clear();
+  // Dos pruebas a la vez no se pisan los ajustes.
+  const QTemporaryDir ajustes;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ajustes.path());
   novex::gui::PonerEstilo(aplicacion);
   qInstallMessageHandler(Apuntar);
   return RUN_ALL_TESTS();
