@@ -51,6 +51,13 @@ bool CambiarPerfilUso(Edificio& edificio, int perfil, const XMLNode& perfilesUso
   return true;
 }
 
+bool PerfilBorraSistemas(const Edificio& edificio, int perfil) {
+  DatosGenerales nuevo;
+  nuevo.PerfilUso = perfil;
+  return edificio.NumeroSistemas() > 0 &&
+         nuevo.EsResidencial() != edificio.GetDatosGenerales().EsResidencial();
+}
+
 bool CambiarTipoCertificado(Edificio& edificio, std::string_view tipo) {
   const auto tipos = TextosDeCampo("TipoCertificado");
   if (std::find(tipos.begin(), tipos.end(), tipo) == tipos.end()) return false;

@@ -21,6 +21,10 @@ bool CambiarObjetivo(GestorEdifActivo& gestor, std::string_view objetivo,
 bool CambiarPerfilUso(Edificio& edificio, int perfil, const XMLNode& perfilesUso,
                       Mensajes& mensajes);
 
+/// ¿Borra los sistemas de un caso pasar a un perfil? Solo si cruza de residencial a terciario o al
+/// revés y tiene alguno.
+bool PerfilBorraSistemas(const Edificio& edificio, int perfil);
+
 /// Cambia el tipo de certificado y el modo de trabajo que sigue de él.
 /// \returns false, sin cambiar nada, si no es uno de los siete
 bool CambiarTipoCertificado(Edificio& edificio, std::string_view tipo);

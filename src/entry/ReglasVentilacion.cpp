@@ -3,7 +3,9 @@
 #include <algorithm>
 
 #include "base/NumeroTexto.h"
+#include "entry/CambiarGenerales.h"
 #include "model/CatalogoCampos.h"
+#include "model/ClavesCampos.h"
 
 namespace novex {
 namespace {
@@ -98,6 +100,21 @@ void PonerSegunHS3(Edificio& edificio, bool segunHS3, Mensajes& mensajes) {
   ventilacion.Calcular_Renov_h_segun_HS3 = segunHS3 ? kSi : kNo;
   edificio.SetVentilacion(std::move(ventilacion));
   ActualizarRenovacionesHS3(edificio, mensajes);
+}
+
+bool PonerModulacionAire(Edificio& edificio, std::string_view texto, Mensajes& mensajes) {
+  const auto textos = TextosDeCampo("TipoCO2");
+  if (std::find(textos.begin(), textos.end(), texto) == textos.end()) return false;
+  const bool conSonda =
+      texto == "Proporcional al nº personas (sonda CO2)" || texto == "SondaCO2 con freecooling";
+  if (conSonda && edificio.GetDatosGenerales().Sensibleocupantes <= 0.0F) {
+    mensajes.Avisar("AVISO",
+                    "La sonda de CO2 necesita la ocupación: defina antes el calor sensible de los "
+                    "ocupantes");
+    return false;
+  }
+  CambiarGenerales(edificio, [&](DatosGenerales& g) { g.TipoCO2 = texto; });
+  return true;
 }
 
 AireClase CalcularClaseAire(const Edificio& edificio, ClaseAire clase) {

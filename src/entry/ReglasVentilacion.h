@@ -33,6 +33,11 @@ bool ActualizarRenovacionesHS3(Edificio& edificio, Mensajes& mensajes);
 /// Marca si las renovaciones se calculan según DB-HS3 y, si es así en una vivienda, las pone.
 void PonerSegunHS3(Edificio& edificio, bool segunHS3, Mensajes& mensajes);
 
+/// Elige la modulación del aire exterior de un uso terciario. Una sonda de CO2 necesita la
+/// ocupación: sin calor sensible de ocupantes se avisa y no cambia nada.
+/// \returns si la ha puesto; falso también si el texto no es de la lista
+bool PonerModulacionAire(Edificio& edificio, std::string_view texto, Mensajes& mensajes);
+
 /// Clases de calidad del aire interior de los usos terciarios (RITE, IT 1.1.4.2.2).
 enum class ClaseAire : std::size_t { IDA1, IDA2, IDA3 };
 

@@ -7,6 +7,7 @@
 
 #include "base/NumeroTexto.h"
 #include "demand/FicheroMet.h"
+#include "entry/CambiarGenerales.h"
 #include "model/CatalogoCampos.h"
 #include "reference/ValoresPuentes.h"
 
@@ -105,6 +106,10 @@ void PonerZona(Localizacion& sitio, std::string_view zona) {
   if (!ZonaFijada(sitio) && !zona.empty()) sitio.ZonaClimatica = zona;
 }
 
+std::string MarcaDe(std::string_view juego) {
+  return "-" + std::string(juego);
+}
+
 void Guardar(Edificio& edificio, Localizacion sitio) {
   edificio.SetConstruccion(PuentesPorTabla(edificio.GetConstruccion(), sitio.ZonaClimatica));
   edificio.SetLocalizacion(std::move(sitio));
@@ -171,6 +176,22 @@ void SoltarZona(Edificio& edificio, const CatalogoMunicipios& municipios,
   if (fila == nullptr || fila->altitud != sitio.asnm)
     PonerZona(sitio, ZonaDeAltitud(sitio, capitales));
   Guardar(edificio, std::move(sitio));
+}
+
+std::string_view JuegoClima(const DatosGenerales& generales) {
+  for (const std::string_view juego : kJuegosClima)
+    if (generales.CodigoPostal == MarcaDe(juego)) return juego;
+  return kJuegosClima.front();
+}
+
+bool PonerJuegoClima(Edificio& edificio, std::string_view juego) {
+  if (std::find(kJuegosClima.begin(), kJuegosClima.end(), juego) == kJuegosClima.end())
+    return false;
+  if (JuegoClima(edificio.GetDatosGenerales()) == juego) return true;
+  CambiarGenerales(edificio, [&](DatosGenerales& g) {
+    g.CodigoPostal = juego == kJuegosClima.front() ? std::string() : MarcaDe(juego);
+  });
+  return true;
 }
 
 }  // namespace novex

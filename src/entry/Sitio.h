@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -40,5 +41,15 @@ bool FijarZona(Edificio& edificio, std::string_view zona);
 
 /// Deja de fijar la zona: vuelve a ser la de su municipio, o la de su altitud si no es la de él.
 void SoltarZona(Edificio& edificio, const CatalogoMunicipios& municipios, const XMLNode& capitales);
+
+/// Juegos de clima que se pueden elegir; el primero es el que no lleva marca.
+inline constexpr std::array<std::string_view, 5> kJuegosClima = {"Oficial", "1992", "2002", "2012",
+                                                                 "2022"};
+/// Juego de clima de un caso, uno de `kJuegosClima`: lo dice la marca de `CodigoPostal`.
+std::string_view JuegoClima(const DatosGenerales& generales);
+
+/// Elige el juego de clima. La marca ocupa el código postal, que se pierde; al volver al oficial se
+/// quita la marca. \returns false, sin cambiar nada, si no es de la lista
+bool PonerJuegoClima(Edificio& edificio, std::string_view juego);
 
 }  // namespace novex

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace novex {
@@ -10,6 +12,10 @@ struct ReferenciaCatastral {
   std::string Parcela, Inmueble, Parte;
   bool operator==(const ReferenciaCatastral&) const = default;
 };
+
+/// Clases de elemento que la protección del edificio no deja cambiar.
+inline constexpr std::array<std::string_view, 7> kClasesInalterables = {
+    "Ninguno", "Fachada", "Cubierta", "Portal", "Escaleras", "Patio", "Otro"};
 
 struct ElementoInalterable {
   std::string Tipo, Descripcion;

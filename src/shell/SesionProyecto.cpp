@@ -92,17 +92,27 @@ bool SesionProyecto::EditarSinRecalcular(std::string_view nombre, const CambioCa
   return Editar(nombre, cambio, false);
 }
 
-bool SesionProyecto::EditarProyecto(std::string_view nombre, const CambioProyecto& cambio) {
+bool SesionProyecto::EditarProyecto(std::string_view nombre, const CambioProyecto& cambio,
+                                    bool quitarResultados) {
   Instantanea foto = Fotografiar(nombre, true);
   cambio(gestor_);
   bool iguales = gestor_.NumeroCasos() == foto.casos.size();
   for (std::size_t i = 0; iguales && i < foto.casos.size(); ++i)
     iguales = MismosRegistros(*gestor_.Caso(foto.casos[i].first), *foto.casos[i].second);
   if (iguales) return false;
-  for (std::size_t i = 0; i < gestor_.NumeroCasos(); ++i)
+  for (std::size_t i = 0; quitarResultados && i < gestor_.NumeroCasos(); ++i)
     QuitarResultados(GestorEdifActivo::NombreCasoUsuario(i));
   Apuntar(std::move(foto));
   return true;
+}
+
+bool SesionProyecto::EditarProyecto(std::string_view nombre, const CambioProyecto& cambio) {
+  return EditarProyecto(nombre, cambio, true);
+}
+
+bool SesionProyecto::EditarProyectoSinRecalcular(std::string_view nombre,
+                                                 const CambioProyecto& cambio) {
+  return EditarProyecto(nombre, cambio, false);
 }
 
 std::string_view SesionProyecto::QueDeshace() const {

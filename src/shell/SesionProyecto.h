@@ -48,6 +48,10 @@ class SesionProyecto {
   /// Edita el proyecto entero: el objetivo de todos los casos, añadir o borrar uno.
   bool EditarProyecto(std::string_view nombre, const CambioProyecto& cambio);
 
+  /// Como `EditarProyecto`, en lo que no cambia los resultados: imágenes y textos de todos los
+  /// casos.
+  bool EditarProyectoSinRecalcular(std::string_view nombre, const CambioProyecto& cambio);
+
   /// Qué deshace o rehace la orden; vacío si no hay nada.
   std::string_view QueDeshace() const;
   std::string_view QueRehace() const;
@@ -89,6 +93,7 @@ class SesionProyecto {
   Instantanea Fotografiar(std::string_view nombre, bool completa) const;
   Instantanea Cambiar(Instantanea&& foto);
   bool Editar(std::string_view nombre, const CambioCaso& cambio, bool quitarResultados);
+  bool EditarProyecto(std::string_view nombre, const CambioProyecto& cambio, bool quitarResultados);
   void Apuntar(Instantanea&& foto);
   void OlvidarHistoria();
   void QuitarResultados(std::string_view nombre);

@@ -57,6 +57,12 @@ float FactorCentralizacion(int viviendas) {
   return 0.7F;
 }
 
+std::vector<std::string_view> ActividadesACS() {
+  std::vector<std::string_view> actividades;
+  for (const auto& [actividad, litros] : kLitros) actividades.push_back(actividad);
+  return actividades;
+}
+
 float VolumenReferencia(const Edificio& edificio) {
   const DatosGenerales& g = edificio.GetDatosGenerales();
   if (g.EsResidencial())

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string_view>
+#include <vector>
+
 #include "model/Edificio.h"
 
 namespace novex {
@@ -10,6 +13,8 @@ float PersonasVivienda(int dormitorios);
 float PersonasTotales(const Ventilacion& ventilacion);
 /// Factor de centralización por el número de viviendas (CTE DB-HE4).
 float FactorCentralizacion(int viviendas);
+/// Actividades de un uso terciario que dan su consumo de agua caliente por persona.
+std::vector<std::string_view> ActividadesACS();
 /// Volumen diario de referencia de agua caliente a 60 °C, l/día (CTE DB-HE, anejo F).
 float VolumenReferencia(const Edificio& edificio);
 

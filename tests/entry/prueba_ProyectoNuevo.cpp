@@ -47,7 +47,10 @@ TEST_F(Proyecto, EmpiezaConSusValoresYConservaElSitio) {
 }
 
 TEST_F(Proyecto, CambiarDeGrupoDeUsoBorraLosSistemas) {
+  EXPECT_FALSE(PerfilBorraSistemas(E(), 3));  // no hay ninguno
   ConSistema();
+  EXPECT_FALSE(PerfilBorraSistemas(E(), 2));
+  EXPECT_TRUE(PerfilBorraSistemas(E(), 3));
   EXPECT_TRUE(CambiarPerfilUso(E(), 1, perfiles, mensajes));
   EXPECT_EQ(E().NumeroSistemas(), 1U);
   EXPECT_TRUE(CambiarPerfilUso(E(), 3, perfiles, mensajes));

@@ -95,5 +95,23 @@ TEST(ClaseAire, CaudalPorPersona) {
   EXPECT_EQ(CalcularClaseAire(e, ClaseAire::IDA1).caudal, 0.0F);
 }
 
+TEST(ModulacionAire, LaSondaNecesitaOcupantes) {
+  Edificio e;
+  RegistroMensajes m;
+  PonerUso(e, 4);
+  const auto modulacion = [&] { return e.GetDatosGenerales().TipoCO2; };
+  EXPECT_TRUE(PonerModulacionAire(e, "Coef. operacionales + freecooling", m));
+  EXPECT_FALSE(PonerModulacionAire(e, "SondaCO2 con freecooling", m));
+  EXPECT_EQ(m.recibidos.size(), 1U);
+  EXPECT_EQ(modulacion(), "Coef. operacionales + freecooling");
+  DatosGenerales g = e.GetDatosGenerales();
+  g.Sensibleocupantes = 6;
+  e.SetDatosGenerales(g);
+  EXPECT_TRUE(PonerModulacionAire(e, "SondaCO2 con freecooling", m));
+  EXPECT_EQ(modulacion(), "SondaCO2 con freecooling");
+  EXPECT_FALSE(PonerModulacionAire(e, "otra", m));
+  EXPECT_EQ(m.recibidos.size(), 1U);
+}
+
 }  // namespace
 }  // namespace novex

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "entry/CambiarGenerales.h"
 #include "entry/CatalogoMunicipios.h"
 
 namespace novex {
@@ -118,6 +119,20 @@ TEST(CatalogoMunicipios, UnaFilaSinAltitudNoCuenta) {
   ASSERT_NE(catalogo.Exacto("Ceuta", "Ceuta"), nullptr);
   EXPECT_EQ(catalogo.Exacto("Ceuta", "Ceuta")->ZonaClimatica(), "Bc");
   EXPECT_EQ(catalogo.Exacto("A", "B"), nullptr);
+}
+
+TEST_F(Sitio, ElJuegoDeClimaVaEnElCodigoPostal) {
+  CambiarGenerales(edificio, [](DatosGenerales& g) { g.CodigoPostal = "46001"; });
+  EXPECT_EQ(JuegoClima(edificio.GetDatosGenerales()), "Oficial");
+  EXPECT_TRUE(PonerJuegoClima(edificio, "Oficial"));
+  EXPECT_EQ(edificio.GetDatosGenerales().CodigoPostal, "46001");
+  EXPECT_TRUE(PonerJuegoClima(edificio, "2002"));
+  EXPECT_EQ(edificio.GetDatosGenerales().CodigoPostal, "-2002");
+  EXPECT_EQ(JuegoClima(edificio.GetDatosGenerales()), "2002");
+  EXPECT_FALSE(PonerJuegoClima(edificio, "2003"));
+  EXPECT_EQ(edificio.GetDatosGenerales().CodigoPostal, "-2002");
+  EXPECT_TRUE(PonerJuegoClima(edificio, "Oficial"));
+  EXPECT_EQ(edificio.GetDatosGenerales().CodigoPostal, "");
 }
 
 }  // namespace

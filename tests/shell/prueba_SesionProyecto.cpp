@@ -8,6 +8,7 @@
 #include "calculation/EjecutarCalculo.h"
 #include "files/AccesoCampos.h"
 #include "files/CarpetaTemporal.h"
+#include "files/ImagenesProyecto.h"
 #include "shell/CalculoVivo.h"
 #include "shell/Recuperacion.h"
 
@@ -70,6 +71,18 @@ TEST_F(Sesion, UnaEdicionQuitaLosResultadosYUnTextoNo) {
   EXPECT_TRUE(sesion.Caso().GetCalculo() && sesion.Caso().GetCalculo()->Calculado());
   EXPECT_TRUE(Poner("Suelo_habitable_m2", "150"));
   EXPECT_EQ(sesion.Caso().GetCalculo(), nullptr);
+}
+
+TEST_F(Sesion, UnaImagenDeTodosLosCasosNoQuitaLosResultados) {
+  sesion.GestorParaCalcular().Activo().SetCalculo(std::make_shared<calculo>());
+  const auto poner = [](GestorEdifActivo& gestor) {
+    PonerImagen(gestor, LugarImagen::Plano, std::make_shared<const std::string>("imagen"));
+  };
+  EXPECT_TRUE(sesion.EditarProyectoSinRecalcular("plano", poner));
+  EXPECT_NE(sesion.Caso().GetCalculo(), nullptr);
+  EXPECT_FALSE(sesion.EditarProyectoSinRecalcular("plano", poner));
+  EXPECT_TRUE(sesion.Deshacer());
+  EXPECT_EQ(sesion.Caso().GetDatosPantalla().Plano, nullptr);
 }
 
 TEST_F(Sesion, LosCasosSeDeshacenEnteros) {
