@@ -11,6 +11,7 @@ void PonerEstilo(QApplication& aplicacion) {
   const QString suave = oscuro ? "#9aa4ad" : "#66727c";
   const QString aviso = oscuro ? "#ff9c8a" : "#b3261e";
   const QString distinto = oscuro ? "#7fb8e6" : "#1f5f8b";
+  const QString linea = oscuro ? "#565c62" : "#c4c9ce";
   aplicacion.setStyleSheet(QString(R"(
     QLabel[papel="titulo"] { font-size: 15pt; font-weight: 600; }
     QLabel[papel="seccion"] { font-weight: 600; padding-top: 8px; }
@@ -18,14 +19,14 @@ void PonerEstilo(QApplication& aplicacion) {
     QLabel[papel="aviso"] { color: %2; }
     QLineEdit[distinto="true"], QComboBox[distinto="true"] { border-left: 3px solid %3; }
     QLineEdit { padding: 3px 5px; }
-    QGroupBox { font-weight: 600; margin-top: 1.6em; padding-top: 0.5em;
-                border: 1px solid palette(mid); border-radius: 4px; }
-    QGroupBox::title { subcontrol-origin: margin; left: 2px; }
+    QGroupBox { font-weight: 600; border: none; border-top: 1px solid %4; margin-top: 1.7em;
+                padding-top: 2px; }
+    QGroupBox::title { subcontrol-origin: margin; left: 0px; }
     QGroupBox QLabel, QGroupBox QComboBox, QGroupBox QCheckBox, QGroupBox QLineEdit,
     QGroupBox QRadioButton, QGroupBox QPushButton { font-weight: normal; }
     QListWidget { border: none; background: transparent; }
   )")
-                               .arg(suave, aviso, distinto));
+                               .arg(suave, aviso, distinto, linea));
 }
 
 }  // namespace novex::gui

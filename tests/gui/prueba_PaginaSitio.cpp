@@ -1,0 +1,98 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QTabWidget>
+
+#include "gui/VentanaPrueba.h"
+#include "shell/gui/RosaObstaculos.h"
+#include "shell/gui/TextoQt.h"
+
+namespace novex::gui::pruebas {
+namespace {
+
+// Un proyecto nuevo, en Valencia: zona B3 y 6 m.
+class PaginaSitioTest : public VentanaTest {
+ protected:
+  PaginaSitioTest() {
+    ventana->Mostrar(Destino::Global);
+    // Solo una ventana activa da y quita el foco.
+    ventana->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
+  }
+  const Localizacion& Lugar() const { return sesion.Caso().GetLocalizacion(); }
+  void Elegir(const char* direccion, int posicion) {
+    auto* lista = Buscar<QComboBox>(direccion);
+    ASSERT_NE(lista, nullptr);
+    lista->setCurrentIndex(posicion);
+    emit lista->activated(posicion);
+  }
+};
+
+TEST_F(PaginaSitioTest, UnMunicipioSeEligeTecleandoYSeDeshace) {
+  auto* municipio = Buscar<QLineEdit>("Municipio");
+  Teclear(municipio, "avila");
+  EXPECT_EQ(Lugar().Municipio, "Ávila");
+  EXPECT_EQ(Lugar().ZonaClimatica, "E1");
+  EXPECT_EQ(Buscar<QComboBox>("Provincia")->currentText(), Q(Lugar().Provincia));
+  EXPECT_EQ(municipio->text(), "Ávila");
+  sesion.Deshacer();
+  emit ventana->Contexto().ProyectoCambiado();
+  EXPECT_EQ(Lugar().ZonaClimatica, "B3");
+  EXPECT_EQ(municipio->text(), "Valencia");
+}
+
+TEST_F(PaginaSitioTest, UnNombreQueNoBastaNoCambiaNada) {
+  auto* municipio = Buscar<QLineEdit>("Municipio");
+  const auto aviso = [&] {
+    for (const auto* texto : municipio->parentWidget()->findChildren<QLabel*>())
+      if (texto->property("papel") == "aviso" && texto->isVisible() &&
+          texto->text().contains("municipio"))
+        return texto->text();
+    return QString();
+  };
+  Teclear(municipio, "villanueva");
+  EXPECT_TRUE(aviso().contains("elija uno de la lista")) << aviso().toStdString();
+  Teclear(municipio, "xqz");
+  EXPECT_TRUE(aviso().contains("«xqz»")) << aviso().toStdString();
+  EXPECT_FALSE(sesion.Modificado());
+  Buscar<QLineEdit>("asnm")->setFocus();
+  EXPECT_EQ(municipio->text(), "Valencia");
+}
+
+TEST_F(PaginaSitioTest, LaAltitudDaLaZonaHastaQueSeFija) {
+  auto* altitud = Buscar<QLineEdit>("asnm");
+  auto* fijar = Buscar<QCheckBox>("Cambio_zona_temperatura");
+  auto* zona = Buscar<QComboBox>("ZonaClimatica");
+  Teclear(altitud, "900");
+  EXPECT_EQ(Lugar().ZonaClimatica, "D2");  // Valencia, de 500 a 950 m
+  EXPECT_FALSE(zona->isVisible());
+  fijar->click();
+  EXPECT_TRUE(zona->isVisible());
+  Elegir("ZonaClimatica", zona->findText("A4"));
+  Teclear(altitud, "2000");
+  EXPECT_EQ(Lugar().ZonaClimatica, "A4");
+  fijar->click();
+  EXPECT_EQ(Lugar().ZonaClimatica, "E1");
+  Teclear(altitud, "4001");  // no se admite: vale 0 m
+  EXPECT_EQ(Lugar().asnm, 0);
+  EXPECT_EQ(Lugar().ZonaClimatica, "B3");
+}
+
+TEST_F(PaginaSitioTest, ClimaVeranoYObstaculos) {
+  Elegir("JuegoClima", Buscar<QComboBox>("JuegoClima")->findText("2022"));
+  EXPECT_EQ(sesion.Caso().GetDatosGenerales().CodigoPostal, "-2022");
+  Elegir("JuegoClima", 0);
+  EXPECT_EQ(sesion.Caso().GetDatosGenerales().CodigoPostal, "");
+  Elegir("mesmin", 13);
+  EXPECT_EQ(Lugar().mesmin, 13);
+  EXPECT_FALSE(Lugar().EsVerano(7));
+  Teclear(Buscar<QLineEdit>("Sur_Altura"), "12");
+  Teclear(Buscar<QLineEdit>("Sur_Distancia"), "abc");  // vale 50 m
+  EXPECT_EQ(sesion.Caso().GetObstaculosRemotos().Sur_Altura, 12);
+  EXPECT_EQ(sesion.Caso().GetObstaculosRemotos().Sur_Distancia, 50);
+  EXPECT_NEAR(ElevacionObstaculo(12, 12), 45, 1e-9);
+  EXPECT_EQ(ElevacionObstaculo(0, 0), 0);
+  EXPECT_NEAR(ElevacionObstaculo(3, 0), 90, 1e-9);
+}
+
+}  // namespace
+}  // namespace novex::gui::pruebas
