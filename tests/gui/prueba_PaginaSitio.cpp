@@ -40,6 +40,28 @@ TEST_F(PaginaSitioTest, UnMunicipioSeEligeTecleandoYSeDeshace) {
   EXPECT_EQ(municipio->text(), "Valencia");
 }
 
+TEST_F(PaginaSitioTest, DeLaListaSeEligeConLasFlechas) {
+  auto* municipio = Buscar<QLineEdit>("Municipio");
+  municipio->setFocus();
+  municipio->selectAll();
+  QTest::keyClicks(municipio, "villanueva del ari");
+  QWidget* lista = QApplication::activePopupWidget();
+  ASSERT_NE(lista, nullptr);
+  QTest::keyClick(lista, Qt::Key_Down);
+  QTest::keyClick(lista, Qt::Key_Return);
+  EXPECT_EQ(Lugar().Municipio, "Villanueva del Ariscal");
+  EXPECT_EQ(Lugar().Provincia, "Sevilla");
+  // Otra provincia acota: el Villanueva que se teclea es el de ella.
+  auto* provincia = Buscar<QComboBox>("Provincia");
+  const int huesca = provincia->findText("Huesca");
+  provincia->setCurrentIndex(huesca);
+  emit provincia->activated(huesca);
+  EXPECT_EQ(Lugar().Provincia, "Sevilla");  // hasta que se elige el municipio
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  Teclear(municipio, "jaca");
+  EXPECT_EQ(Lugar().Municipio, "Jaca");
+}
+
 TEST_F(PaginaSitioTest, UnNombreQueNoBastaNoCambiaNada) {
   auto* municipio = Buscar<QLineEdit>("Municipio");
   const auto aviso = [&] {

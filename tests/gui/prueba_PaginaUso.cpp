@@ -123,8 +123,9 @@ TEST_F(PaginaUsoTest, RefrescarEsRapido) {
   reloj.start();
   constexpr int kVeces = 20;
   for (int i = 0; i < kVeces; ++i) global->Refrescar();
-  // Se piden 5 ms; el margen es de una máquina ocupada.
-  EXPECT_LT(reloj.elapsed(), kVeces * 25);
+  // Se piden 5 ms; el doble es el margen de una máquina ocupada.
+  RecordProperty("ms", static_cast<int>(reloj.elapsed() / kVeces));
+  EXPECT_LT(reloj.elapsed(), kVeces * 10);
 }
 
 }  // namespace

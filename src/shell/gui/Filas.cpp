@@ -46,7 +46,7 @@ std::vector<std::string> Textos(std::span<const std::string_view> lista) {
 }
 
 void PonerMargenes(QGroupBox* caja) {
-  caja->layout()->setContentsMargins(0, 4, 0, 2);
+  caja->layout()->setContentsMargins(0, 4, 0, 8);
 }
 
 CajaFormulario NuevaCaja(const QString& titulo, QWidget* padre) {

@@ -266,7 +266,7 @@ QWidget* PaginaUso::CajaIluminacion() {
   potenciaMaxima_ = NotaCorta(caja);
   filas->addRow(QString(), potenciaMaxima_);
   enlaces_.Linea(filas, "Qescaparates",
-                 Opciones(tr("Escaparates"), tr("Carga de la iluminación de escaparates"), "W"));
+                 Opciones(tr("Escaparates"), tr("Carga de la iluminación de escaparates")));
   Solo(nullptr, caja, Terciario);
   return caja;
 }
