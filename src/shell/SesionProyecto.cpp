@@ -2,6 +2,7 @@
 
 #include "calculation/CompletarProyecto.h"
 #include "entry/ProyectoNuevo.h"
+#include "shell/Certificador.h"
 #include "shell/OrdenesProyecto.h"
 
 namespace novex {
@@ -145,6 +146,9 @@ void SesionProyecto::ActivarCaso(std::string_view nombre) {
 
 void SesionProyecto::Nuevo() {
   EmpezarProyecto(gestor_, PerfilesUso(ficheros_), mensajes_);
+  DatosGenerales generales = gestor_.Activo().GetDatosGenerales();
+  if (LeerCertificador(FicheroCertificador(ficheros_.Espacio()), generales, mensajes_))
+    gestor_.Activo().SetDatosGenerales(std::move(generales));
   fichero_ = kNombreProyectoNuevo;
   codificacion_ = {};
   OlvidarHistoria();
