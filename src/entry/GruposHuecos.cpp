@@ -48,12 +48,7 @@ void RenombrarGrupoHuecos(Edificio& edificio, std::size_t grupo, std::string_vie
 }
 
 void PonerNumeroHuecos(ColumnaHuecos& columna, std::string_view texto, Mensajes& mensajes) {
-  const auto nuevo = static_cast<std::size_t>(ComprobarValor(texto, "NVentanas", mensajes));
-  const std::size_t actual = columna.recintos.size();
-  if (nuevo > actual)
-    columna.Anadir(nuevo - actual);
-  else
-    columna.Quitar(actual - nuevo);
+  columna.PonerNumero(static_cast<std::size_t>(ComprobarValor(texto, "NVentanas", mensajes)));
 }
 
 std::array<std::string_view, kSectores> RotulosColumnasHuecos(int tipoDeHueco) {

@@ -81,6 +81,38 @@ const Campo<Registro>* BuscarEtiqueta(std::span<const Campo<Registro>> campos,
   return it == campos.end() ? nullptr : &*it;
 }
 
+// El campo de columna de huecos de una etiqueta; nulo si no lo es.
+const CampoColumna* BuscarColumna(std::string_view etiqueta) {
+  const auto& campos = CamposDeColumnas();
+  const auto it = std::find_if(campos.begin(), campos.end(),
+                               [&](const CampoColumna& c) { return c.etiqueta == etiqueta; });
+  return it == campos.end() ? nullptr : &*it;
+}
+
+// El campo de columna de una dirección, si el caso tiene su grupo.
+const CampoColumna* ColumnaDe(const Edificio& edificio, const EnLista& d) {
+  const bool esta = d.elemento == kHueco && d.indice < edificio.NumeroHuecos();
+  return esta ? BuscarColumna(d.etiqueta) : nullptr;
+}
+
+DatosCampo DatosDe(const CampoColumna& campo) {
+  DatosCampo datos;
+  datos.etiqueta = campo.etiqueta;
+  const bool esNumero = campo.medida == nullptr;
+  datos.clase = esNumero ? ClaseCampo::Entero : ClaseCampo::Real;
+  datos.decimales = esNumero ? 0 : kDecimalesHueco;
+  return datos;
+}
+
+void PonerEnColumna(const CampoColumna& campo, Huecos& grupo, std::string_view texto,
+                    Mensajes& mensajes) {
+  const float valor = ComprobarValor(texto, ClaveDeCampo(campo.etiqueta), mensajes);
+  if (float* medida = campo.Medida(grupo))
+    *medida = valor;
+  else
+    grupo.columnas[campo.columna].PonerNumero(static_cast<std::size_t>(valor));
+}
+
 // El sistema y el bloque que ocupan una posición, contados como los escribe el fichero.
 template <class E>
 auto BloqueEn(E& edificio, std::size_t indice)
@@ -169,7 +201,10 @@ std::optional<DatosCampo> BuscarDatosCampo(std::string_view direccion) {
     if (campo == nullptr) return std::nullopt;
     return DatosDe(*campo, std::string(d->etiqueta));
   };
-  if (d->elemento == kHueco) return de(CamposDeHuecos());
+  if (d->elemento == kHueco) {
+    if (const CampoColumna* columna = BuscarColumna(d->etiqueta)) return DatosDe(*columna);
+    return de(CamposDeHuecos());
+  }
   if (d->elemento == kTipologia) return de(CamposDeTipologia());
   if (d->elemento != kSistema) return std::nullopt;
   const auto generador = de(CamposDeGenerador());
@@ -186,6 +221,9 @@ std::vector<std::string> DireccionesDeCampos(const Edificio& edificio) {
   };
   anadir(kTipologia, kTipologias, CamposDeTipologia());
   anadir(kHueco, edificio.NumeroHuecos(), CamposDeHuecos());
+  for (std::size_t i = 1; i <= edificio.NumeroHuecos(); ++i)
+    for (const CampoColumna& campo : CamposDeColumnas())
+      direcciones.push_back(Prefijo(kHueco, i) + campo.etiqueta);
   std::size_t bloques = 0;
   for (std::size_t n = 0; n < edificio.NumeroSistemas(); ++n)
     bloques += edificio.GetSistema(n).instalaciones.size();
@@ -216,6 +254,10 @@ std::optional<std::string> LectorCampos::Valor(std::string_view direccion) {
               leer);
     return valor;
   }
+  if (const CampoColumna* columna = ColumnaDe(edificio_, *d)) {
+    Huecos copia = edificio_.GetHuecos(d->indice);
+    return TextoDeColumna(*columna, copia);
+  }
   EnListaDe(edificio_, *d, leer);
   return valor;
 }
@@ -244,6 +286,10 @@ bool PonerCampo(Edificio& edificio, std::string_view direccion, std::string_view
       EnCampo(CamposDeTipologia(), d->etiqueta, &v.tipologias[d->indice], poner);
     if (puesto) edificio.SetVentilacion(std::move(v));
     return puesto;
+  }
+  if (const CampoColumna* columna = ColumnaDe(edificio, *d)) {
+    PonerEnColumna(*columna, edificio.GetHuecos(d->indice), texto, mensajes);
+    return true;
   }
   EnListaDe(edificio, *d, poner);
   return puesto;

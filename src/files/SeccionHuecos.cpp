@@ -11,7 +11,7 @@ using H = Huecos;
 
 constexpr std::string_view kSeccion = "Huecos";
 constexpr std::string_view kHueco = "Hueco";
-constexpr int kDecimales = 2;
+constexpr int kDecimales = kDecimalesHueco;
 
 constexpr std::array kCampos = {
     Texto<&H::Nombre_hueco>("Nombre_hueco"),
@@ -47,40 +47,27 @@ constexpr std::array kCampos = {
                                              listaHuecos::kInfiltracionCaja),
     Posicion<&H::Tipo_de_hueco>("Tipo_de_hueco", listaHuecos::kTipos)};
 
-// Recorre las columnas de un grupo en el orden del fichero. `numero` recibe la etiqueta y la
-// columna cuyo número de huecos se guarda; `valor`, la etiqueta y la medida.
-template <class Grupo, class VisitaNumero, class VisitaValor>
-void RecorrerColumnas(Grupo& grupo, VisitaNumero numero, VisitaValor valor) {
-  for (std::size_t c = norte; c < kSectores; ++c) {
-    auto& columna = grupo.columnas[c];
-    const std::string sector(kNombreSector[c]);
-    numero("Numero_ventanas_" + sector, columna);
-    if (c == norte) continue;
-    valor("Separacion_ventanas_vertical_" + sector, columna.Separacion_ventanas_vertical);
-    const DireccionesObstaculo direcciones = DireccionesDeColumna(c);
-    for (std::size_t p = 0; p < direcciones.cuantas; ++p) {
-      const std::string hacia(kNombreSector[direcciones.sector[p]]);
-      const std::string ventana = "Ventana_" + sector;
-      valor(ventana + "_altura_obstaculo_" + hacia, columna.obstaculos[p].altura);
-      valor(ventana + "_distancia_obstaculo_" + hacia, columna.obstaculos[p].distancia);
-    }
-  }
-  numero("Numero_lucernarios_Hz", grupo.columnas[kColumnaHorizontal]);
+float* Separacion(Huecos& grupo, const CampoColumna& campo) {
+  return &grupo.columnas[campo.columna].Separacion_ventanas_vertical;
+}
+float* Altura(Huecos& grupo, const CampoColumna& campo) {
+  return &grupo.columnas[campo.columna].obstaculos[campo.obstaculo].altura;
+}
+float* Distancia(Huecos& grupo, const CampoColumna& campo) {
+  return &grupo.columnas[campo.columna].obstaculos[campo.obstaculo].distancia;
 }
 
 void LeerGrupo(const XMLNode& nodo, H& grupo, Mensajes& mensajes) {
   LeerCampos<H>(nodo, kCampos, grupo, mensajes);
   camposFichero::Buscador buscador(nodo, Lugar::Hijos);
-  RecorrerColumnas(
-      grupo,
-      [&](const std::string& etiqueta, ColumnaHuecos& columna) {
-        const int n = camposFichero::LeerEntero(buscador.Valor(etiqueta).value_or(""), etiqueta, 0,
-                                                limiteProyecto::kHuecosColumna, mensajes);
-        columna.Anadir(static_cast<std::size_t>(n));
-      },
-      [&](const std::string& etiqueta, float& medida) {
-        medida = camposFichero::LeerReal(buscador.Valor(etiqueta).value_or(""), etiqueta, mensajes);
-      });
+  for (const CampoColumna& campo : CamposDeColumnas()) {
+    const std::string_view texto = buscador.Valor(campo.etiqueta).value_or("");
+    if (float* medida = campo.Medida(grupo))
+      *medida = camposFichero::LeerReal(texto, campo.etiqueta, mensajes);
+    else
+      grupo.columnas[campo.columna].PonerNumero(static_cast<std::size_t>(camposFichero::LeerEntero(
+          texto, campo.etiqueta, 0, limiteProyecto::kHuecosColumna, mensajes)));
+  }
 }
 
 void EscribirFiguras(XMLNode& nodo, const H& grupo) {
@@ -118,19 +105,41 @@ void EscribirHuecos(XMLNode& novex, const Edificio& edificio) {
     XMLNode nodo = seccion.appendChild(kHueco);
     EscribirCampos<H>(nodo, kCampos, grupo);
     EscribirFiguras(nodo, grupo);
-    RecorrerColumnas(
-        grupo,
-        [&nodo](const std::string& etiqueta, const ColumnaHuecos& columna) {
-          AnadirValor(nodo, etiqueta, std::to_string(columna.recintos.size()));
-        },
-        [&nodo](const std::string& etiqueta, float medida) {
-          AnadirValor(nodo, etiqueta, Fijo(static_cast<double>(medida), kDecimales));
-        });
+    for (const CampoColumna& campo : CamposDeColumnas())
+      AnadirValor(nodo, campo.etiqueta, TextoDeColumna(campo, grupo));
   }
 }
 
 std::span<const Campo<Huecos>> CamposDeHuecos() {
   return kCampos;
+}
+
+const std::vector<CampoColumna>& CamposDeColumnas() {
+  static const std::vector<CampoColumna> campos = [] {
+    std::vector<CampoColumna> hechos;
+    for (std::size_t c = norte; c < kSectores; ++c) {
+      const std::string sector(kNombreSector[c]);
+      hechos.push_back({"Numero_ventanas_" + sector, c});
+      if (c == norte) continue;
+      hechos.push_back({"Separacion_ventanas_vertical_" + sector, c, 0, Separacion});
+      const DireccionesObstaculo direcciones = DireccionesDeColumna(c);
+      for (std::size_t p = 0; p < direcciones.cuantas; ++p) {
+        const std::string hacia(kNombreSector[direcciones.sector[p]]);
+        const std::string ventana = "Ventana_" + sector;
+        hechos.push_back({ventana + "_altura_obstaculo_" + hacia, c, p, Altura});
+        hechos.push_back({ventana + "_distancia_obstaculo_" + hacia, c, p, Distancia});
+      }
+    }
+    hechos.push_back({"Numero_lucernarios_Hz", kColumnaHorizontal});
+    return hechos;
+  }();
+  return campos;
+}
+
+std::string TextoDeColumna(const CampoColumna& campo, Huecos& grupo) {
+  if (const float* medida = campo.Medida(grupo))
+    return Fijo(static_cast<double>(*medida), kDecimales);
+  return std::to_string(grupo.columnas[campo.columna].recintos.size());
 }
 
 }  // namespace novex

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -137,6 +138,21 @@ void AnadirTablasInstalaciones(std::vector<TablaCampos>& tablas);
 // Las tablas de los registros que un caso tiene en lista.
 std::span<const Campo<TipologiaVivienda>> CamposDeTipologia();
 std::span<const Campo<Huecos>> CamposDeHuecos();
+/// Un campo de una columna de huecos: el número de los que tiene o una medida.
+struct CampoColumna {
+  std::string etiqueta;
+  std::size_t columna = 0;
+  std::size_t obstaculo = 0;                                 ///< posición de su dirección
+  float* (*medida)(Huecos&, const CampoColumna&) = nullptr;  ///< nulo en el número
+  /// La medida en un grupo; nulo si el campo es el número.
+  float* Medida(Huecos& grupo) const { return medida == nullptr ? nullptr : medida(grupo, *this); }
+};
+/// Los de las columnas de un grupo, en el orden del fichero.
+const std::vector<CampoColumna>& CamposDeColumnas();
+/// El texto de un campo de columna en el fichero.
+std::string TextoDeColumna(const CampoColumna& campo, Huecos& grupo);
+/// Decimales con que se escriben las medidas de un hueco.
+inline constexpr int kDecimalesHueco = 2;
 std::span<const Campo<SistemaResidencial>> CamposDeSistema();
 std::span<const Campo<Instalaciones>> CamposDeGenerador();
 

@@ -54,6 +54,13 @@ struct ColumnaHuecos {
   void Anadir(std::size_t n) { recintos.insert(recintos.end(), n, 0); }
   /// Quita los `n` últimos huecos, o todos si hay menos.
   void Quitar(std::size_t n) { recintos.resize(n < recintos.size() ? recintos.size() - n : 0); }
+  /// Deja `n` huecos: añade del recinto 0 o quita los últimos.
+  void PonerNumero(std::size_t n) {
+    if (n > recintos.size())
+      Anadir(n - recintos.size());
+    else
+      recintos.resize(n);
+  }
   /// Número de huecos de la columna que dan a un recinto.
   std::size_t NumeroEnRecinto(std::size_t recinto) const;
 

@@ -51,5 +51,36 @@ TEST(AccesoCampos, PoneNumerosTextosListasYElementosDeLista) {
   EXPECT_EQ(mensajes.recibidos.size(), 1U);
 }
 
+TEST(AccesoCampos, LasColumnasDeUnGrupoDeHuecos) {
+  Edificio edificio;
+  edificio.AnadirHuecos({});
+  RegistroMensajes mensajes;
+  const auto poner = [&](const char* d, const char* t) {
+    return PonerCampo(edificio, d, t, mensajes);
+  };
+  EXPECT_TRUE(poner("Hueco[2]/Numero_ventanas_sur_oeste", "3"));
+  EXPECT_TRUE(poner("Hueco[2]/Numero_lucernarios_Hz", "2"));
+  EXPECT_TRUE(poner("Hueco[2]/Separacion_ventanas_vertical_sur", "2,7"));
+  EXPECT_TRUE(poner("Hueco[2]/Ventana_sur_altura_obstaculo_sur_este", "4"));
+  EXPECT_TRUE(poner("Hueco[2]/Ventana_este_distancia_obstaculo_sur_este", "5.25"));
+  const Huecos& g = edificio.GetHuecos(1);
+  EXPECT_EQ(g.columnas[sur_oeste].recintos.size(), 3U);
+  EXPECT_EQ(g.columnas[kColumnaHorizontal].recintos.size(), 2U);
+  EXPECT_EQ(g.columnas[sur].Separacion_ventanas_vertical, 2.7F);
+  EXPECT_EQ(g.columnas[sur].obstaculos[2].altura, 4.0F);       // suroeste, sur, sureste
+  EXPECT_EQ(g.columnas[este].obstaculos[0].distancia, 5.25F);  // sureste, este
+  EXPECT_EQ(edificio.GetHuecos(0), Huecos{});
+  LectorCampos lector(edificio);
+  EXPECT_EQ(lector.Valor("Hueco[2]/Numero_ventanas_sur_oeste"), "3");
+  EXPECT_EQ(lector.Valor("Hueco[2]/Separacion_ventanas_vertical_sur"), "2.70");
+  EXPECT_TRUE(mensajes.recibidos.empty());
+  EXPECT_TRUE(poner("Hueco[2]/Numero_ventanas_sur_oeste", "1000"));  // hasta 999
+  EXPECT_EQ(g.columnas[sur_oeste].recintos.size(), 0U);
+  EXPECT_EQ(mensajes.recibidos.size(), 1U);
+  EXPECT_FALSE(poner("Hueco[3]/Numero_ventanas_sur", "1"));
+  // Al norte no hay sol que tapar.
+  EXPECT_FALSE(poner("Hueco[2]/Separacion_ventanas_vertical_norte", "1"));
+}
+
 }  // namespace
 }  // namespace novex
