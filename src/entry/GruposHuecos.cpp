@@ -1,5 +1,7 @@
 #include "entry/GruposHuecos.h"
 
+#include <cmath>
+
 #include "model/CatalogoCampos.h"
 
 namespace novex {
@@ -87,6 +89,10 @@ std::size_t CopiarPropiedadesHuecos(Edificio& edificio, std::size_t origen,
   return copiados;
 }
 
+float AreaGrupoHuecos(const Huecos& grupo) {
+  return static_cast<float>(grupo.NumeroTotal()) * grupo.Ancho_m * grupo.Alto_m;
+}
+
 void PonerVidrio(Huecos& grupo, const VidrioElegido& vidrio) {
   grupo.Indice_tipo_cristal = vidrio.tipo;
   grupo.Indice_cristal_concreto = vidrio.posicion;
@@ -97,6 +103,31 @@ void PonerVidrio(Huecos& grupo, const VidrioElegido& vidrio) {
 void PonerMarco(Huecos& grupo, const MarcoElegido& marco) {
   grupo.Indice_marco = marco.tipo;
   grupo.U_marco_W_m2K = marco.U;
+}
+
+std::optional<VidrioElegido> VidrioDeCatalogo(const CatalogoVidrios& catalogo, const Huecos& grupo,
+                                              int tipo, int posicion) {
+  const VidrioCatalogo* v = catalogo.Vidrio(tipo, posicion);
+  if (v == nullptr) return std::nullopt;
+  return VidrioElegido{tipo, posicion, grupo.Tipo_de_hueco == kLucernario ? v->UH : v->U, v->g};
+}
+
+std::optional<MarcoElegido> MarcoDeCatalogo(const CatalogoVidrios& catalogo, const Huecos& grupo,
+                                            int tipo, int posicion) {
+  const MarcoCatalogo* m = catalogo.Marco(tipo, posicion);
+  if (m == nullptr) return std::nullopt;
+  return MarcoElegido{tipo, grupo.Tipo_de_hueco == kLucernario ? m->UH : m->U};
+}
+
+bool TieneVidrio(const Huecos& grupo, const VidrioElegido& vidrio) {
+  constexpr float kMedioDecimal = 0.0051F;
+  return std::fabs(grupo.U_cristal_W_m2K - vidrio.U) < kMedioDecimal &&
+         std::fabs(grupo.FS_cristal_tanto_por_uno - vidrio.g) < kMedioDecimal;
+}
+
+void PonerPermeabilidad(Huecos& grupo, const ClasePermeabilidad& clase) {
+  grupo.Indice_tipo_junta = clase.clase;
+  grupo.Permeabilidad_Ventanas = clase.C100;
 }
 
 }  // namespace novex

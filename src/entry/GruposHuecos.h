@@ -3,12 +3,14 @@
 #include <array>
 #include <bitset>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
 #include "base/Mensajes.h"
 #include "model/Edificio.h"
+#include "reference/CatalogoVidrios.h"
 
 namespace novex {
 
@@ -72,6 +74,9 @@ std::size_t CopiarPropiedadesHuecos(Edificio& edificio, std::size_t origen,
                                     std::span<const std::size_t> destinos,
                                     const SeleccionPropiedades& conjuntos);
 
+/// Área de los huecos de un grupo en todas sus columnas, m2.
+float AreaGrupoHuecos(const Huecos& grupo);
+
 /// Un vidrio elegido en el catálogo.
 struct VidrioElegido {
   int tipo = 0;      ///< posición en la lista de tipos de cristal
@@ -91,5 +96,20 @@ void PonerVidrio(Huecos& grupo, const VidrioElegido& vidrio);
 
 /// Pone en un grupo el marco elegido; la fracción de marco no cambia.
 void PonerMarco(Huecos& grupo, const MarcoElegido& marco);
+
+/// El vidrio de una posición del catálogo con la U de la inclinación del grupo: la horizontal en un
+/// lucernario. \returns nada si no existe
+std::optional<VidrioElegido> VidrioDeCatalogo(const CatalogoVidrios& catalogo, const Huecos& grupo,
+                                              int tipo, int posicion);
+
+/// El marco de una posición del catálogo, del mismo modo.
+std::optional<MarcoElegido> MarcoDeCatalogo(const CatalogoVidrios& catalogo, const Huecos& grupo,
+                                            int tipo, int posicion);
+
+/// ¿Tiene el grupo la U y el factor solar de ese vidrio, con los decimales que guarda el fichero?
+bool TieneVidrio(const Huecos& grupo, const VidrioElegido& vidrio);
+
+/// Pone en un grupo una clase de permeabilidad al aire (UNE-EN 12207).
+void PonerPermeabilidad(Huecos& grupo, const ClasePermeabilidad& clase);
 
 }  // namespace novex

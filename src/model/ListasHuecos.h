@@ -55,6 +55,16 @@ inline constexpr std::array<std::string_view, 11> kSombrasFijas = {
     "Lamas verticales -30º",  "Lamas verticales 0º",   "Lamas verticales 30º",
     "Lamas verticales 45º",   "Lamas verticales 60º"};
 
+/// `Indice_tipo_control_Verano`: qué parte del hueco se protege y con qué sol en él
+inline constexpr std::array<std::string_view, 9> kControlesVerano = {
+    "50 % con más de 300 W/m2", "50 % con más de 500 W/m2", "70 % con más de 300 W/m2",
+    "70 % con más de 500 W/m2", "90 % con más de 300 W/m2", "90 % con más de 500 W/m2",
+    "50 % siempre que hay sol", "70 % siempre que hay sol", "90 % siempre que hay sol"};
+
+/// `Indice_tipo_control_Invierno`: qué parte se cierra de noche
+inline constexpr std::array<std::string_view, 5> kControlesInvierno = {
+    "50 % de noche", "70 % de noche", "90 % de noche", "100 % de noche", "30 % de noche"};
+
 /// `Existe_Caja_persiana`
 inline constexpr std::array<std::string_view, 2> kExisteCaja = {"Existe", "No existe"};
 

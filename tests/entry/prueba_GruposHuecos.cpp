@@ -74,6 +74,42 @@ TEST(GruposHuecos, NumeroDeHuecosDeUnaColumna) {
   EXPECT_EQ(m.recibidos.size(), 2U);
 }
 
+// La U de un lucernario es la del vidrio y el marco en horizontal.
+TEST(GruposHuecos, ElCatalogoDaLosValoresDeSuInclinacion) {
+  CatalogoVidrios catalogo;
+  catalogo.vidrios[1] = {{"4-6-4", 3.28F, 3.63F, 0.76F}, {"4-12-4", 2.85F, 3.41F, 0.75F}};
+  catalogo.marcos[7] = {{"a", 1.3F, 1.4F}};
+  Huecos g;
+  ASSERT_FALSE(VidrioDeCatalogo(catalogo, g, 1, 2).has_value());
+  ASSERT_FALSE(MarcoDeCatalogo(catalogo, g, 0, 0).has_value());
+  PonerVidrio(g, *VidrioDeCatalogo(catalogo, g, 1, 1));
+  PonerMarco(g, *MarcoDeCatalogo(catalogo, g, 7, 0));
+  EXPECT_EQ(g.U_cristal_W_m2K, 2.85F);
+  EXPECT_EQ(g.Indice_cristal_concreto, 1);
+  EXPECT_EQ(g.FS_cristal_tanto_por_uno, 0.75F);
+  EXPECT_EQ(g.U_marco_W_m2K, 1.3F);
+  EXPECT_EQ(g.Indice_marco, 7);
+  EXPECT_TRUE(TieneVidrio(g, *VidrioDeCatalogo(catalogo, g, 1, 1)));
+  g.Tipo_de_hueco = kLucernario;
+  EXPECT_FALSE(TieneVidrio(g, *VidrioDeCatalogo(catalogo, g, 1, 1)));
+  PonerVidrio(g, *VidrioDeCatalogo(catalogo, g, 1, 1));
+  PonerMarco(g, *MarcoDeCatalogo(catalogo, g, 7, 0));
+  EXPECT_EQ(g.U_cristal_W_m2K, 3.41F);
+  EXPECT_EQ(g.U_marco_W_m2K, 1.4F);
+  PonerPermeabilidad(g, {3, "Clase 3", 9});
+  EXPECT_EQ(g.Indice_tipo_junta, 3);
+  EXPECT_EQ(g.Permeabilidad_Ventanas, 9.0F);
+}
+
+TEST(GruposHuecos, ElAreaCuentaTodasLasColumnas) {
+  Huecos g;
+  g.Ancho_m = 1.2F;
+  g.Alto_m = 1.5F;
+  g.columnas[norte].Anadir(1);
+  g.columnas[kColumnaHorizontal].Anadir(3);
+  EXPECT_FLOAT_EQ(AreaGrupoHuecos(g), 7.2F);
+}
+
 TEST(CopiarPropiedades, TodasMenosNombreTipoYMedidas) {
   Edificio e;
   e.GetHuecos(0) = Distinto();
