@@ -51,7 +51,11 @@ std::string ValorInicial(const std::string& direccion, FicherosPrograma& fichero
     for (const std::string& d : DireccionesDeCampos(nuevo))
       valores[d] = lector.Valor(d).value_or("");
   }
-  const auto it = valores.find(direccion);
+  auto it = valores.find(direccion);
+  // Un grupo de huecos que se añade empieza como el primero.
+  const std::size_t fin = direccion.find("]/");
+  if (it == valores.end() && direccion.starts_with("Hueco[") && fin != std::string::npos)
+    it = valores.find("Hueco[1" + direccion.substr(fin));
   return it == valores.end() ? std::string() : it->second;
 }
 
