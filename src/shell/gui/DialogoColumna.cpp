@@ -1,13 +1,13 @@
 #include "shell/gui/DialogoColumna.h"
 
 #include <QDialogButtonBox>
-#include <QGroupBox>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "base/NumeroTexto.h"
 #include "demand/Sombras.h"
 #include "entry/GruposHuecos.h"
+#include "shell/gui/CajaTitulo.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -58,12 +58,11 @@ DialogoColumna::DialogoColumna(ContextoGui& contexto, std::size_t grupo, Sector 
 }
 
 QWidget* DialogoColumna::CajaObstaculos(const std::string& hueco) {
-  auto* caja = new QGroupBox(tr("Obstáculos cercanos"), this);
-  auto* rejilla = new QGridLayout(caja);
-  rejilla->addWidget(new QLabel(tr("Dirección"), caja), 0, 0);
-  rejilla->addWidget(new QLabel(tr("Altura, m"), caja), 0, 1);
-  rejilla->addWidget(new QLabel(tr("Distancia, m"), caja), 0, 2);
-  avisos_ = new QLabel(caja);
+  auto* rejilla = new QGridLayout;
+  rejilla->addWidget(new QLabel(tr("Dirección"), this), 0, 0);
+  rejilla->addWidget(new QLabel(tr("Altura, m"), this), 0, 1);
+  rejilla->addWidget(new QLabel(tr("Distancia, m"), this), 0, 2);
+  avisos_ = new QLabel(this);
   avisos_->setProperty("papel", "aviso");
   avisos_->setWordWrap(true);
   avisos_->hide();
@@ -77,7 +76,7 @@ QWidget* DialogoColumna::CajaObstaculos(const std::string& hueco) {
     altura.rotulo = tr("Altura del obstáculo, %1").arg(NombreDeSector(hacia));
     altura.ayuda = tr("Sobre el borde inferior del hueco más bajo");
     distancia.rotulo = tr("Distancia al obstáculo, %1").arg(NombreDeSector(hacia));
-    rejilla->addWidget(new QLabel(NombreDeSector(hacia), caja), fila, 0);
+    rejilla->addWidget(new QLabel(NombreDeSector(hacia), this), fila, 0);
     rejilla->addWidget(enlaces_.Celda(ventana + "_altura_obstaculo_" + sufijo, altura, avisos_),
                        fila, 1);
     rejilla->addWidget(
@@ -85,24 +84,23 @@ QWidget* DialogoColumna::CajaObstaculos(const std::string& hueco) {
   }
   rejilla->addWidget(avisos_, static_cast<int>(direcciones.cuantas) + 1, 0, 1, 3);
   rejilla->setColumnStretch(3, 1);
-  return caja;
+  return CajaTitulo(this, tr("Obstáculos cercanos"), rejilla);
 }
 
 QWidget* DialogoColumna::CajaMeses() {
-  auto* caja = new QGroupBox(tr("Huecos sin tapar por ellos, %"), this);
-  auto* rejilla = new QGridLayout(caja);
+  auto* rejilla = new QGridLayout;
   for (std::size_t m = 0; m < meses_.size(); ++m) {
-    auto* rotulo = new QLabel(tr(kMeses[m]), caja);
+    auto* rotulo = new QLabel(tr(kMeses[m]), this);
     rotulo->setProperty("papel", "nota");
     rotulo->setAlignment(Qt::AlignCenter);
-    meses_[m] = new QLabel(caja);
+    meses_[m] = new QLabel(this);
     meses_[m]->setObjectName(QString("libre_%1").arg(m + 1));
     meses_[m]->setAlignment(Qt::AlignCenter);
     meses_[m]->setMinimumWidth(34);
     rejilla->addWidget(rotulo, 0, static_cast<int>(m));
     rejilla->addWidget(meses_[m], 1, static_cast<int>(m));
   }
-  return caja;
+  return CajaTitulo(this, tr("Huecos sin tapar por ellos, %"), rejilla);
 }
 
 void DialogoColumna::Refrescar() {

@@ -21,6 +21,8 @@ DialogoCopiaHuecos::DialogoCopiaHuecos(ContextoGui& contexto, std::size_t grupo,
   grupos_ = new QListWidget(this);
   grupos_->setObjectName("LVGrupos");
   grupos_->setMinimumSize(240, 220);
+  // Con el fondo transparente de las demás listas las casillas no se ven.
+  grupos_->setStyleSheet("QListWidget { background: palette(base); }");
   izquierda->addWidget(grupos_);
   todos_ = new QCheckBox(Q(kTextoTodosLosGrupos), this);
   todos_->setObjectName("CBGTodos");
@@ -58,11 +60,11 @@ void DialogoCopiaHuecos::LlenarGrupos() {
     const Huecos& g = contexto_.Caso().GetHuecos(i);
     auto* entrada = new QListWidgetItem(Q(g.Nombre_hueco), grupos_);
     entrada->setData(Qt::UserRole, static_cast<int>(i));
-    entrada->setCheckState(Qt::Unchecked);
     // Se ven todos, pero solo se marcan los que pueden recibir algo.
     const bool admite = i != grupo_ && AdmiteCopiaPropiedades(g);
     entrada->setFlags(admite ? Qt::ItemIsEnabled | Qt::ItemIsUserCheckable | Qt::ItemIsSelectable
                              : Qt::NoItemFlags);
+    if (admite) entrada->setCheckState(Qt::Unchecked);
   }
 }
 

@@ -75,7 +75,10 @@ void DialogoSombra::CrearSeries() {
     grafica_->addAxis(e, lado);
     return e;
   };
-  QValueAxis* horas = eje(Qt::AlignBottom, tr("Hora solar"), 1, 24, 24);
+  QValueAxis* horas = eje(Qt::AlignBottom, tr("Hora solar"), 1, 24, 2);
+  horas->setTickType(QValueAxis::TicksDynamic);
+  horas->setTickAnchor(2);
+  horas->setTickInterval(2);
   QValueAxis* sombra = eje(Qt::AlignLeft, tr("Sombra, %"), 0, 100, 6);
   for (std::size_t i = 0; i < kMesesGraficoSombra.size(); ++i) {
     auto* serie = new QLineSeries(grafica_);

@@ -1,10 +1,9 @@
 #include "shell/gui/FichaHueco.h"
 
-#include <QVBoxLayout>
-
 #include "base/NumeroTexto.h"
 #include "entry/GruposHuecos.h"
 #include "model/ListasHuecos.h"
+#include "shell/gui/CajaTitulo.h"
 #include "shell/gui/DialogoColumna.h"
 #include "shell/gui/TextoQt.h"
 
@@ -36,19 +35,6 @@ QFormLayout* Formulario() {
   formulario->setVerticalSpacing(4);
   formulario->setContentsMargins(0, 0, 0, 0);
   return formulario;
-}
-
-// Un título con lo suyo debajo.
-QWidget* Seccion(QWidget* padre, const QString& titulo, QLayout* contenido) {
-  auto* caja = new QWidget(padre);
-  auto* columna = new QVBoxLayout(caja);
-  columna->setContentsMargins(0, 0, 0, 4);
-  columna->setSpacing(4);
-  auto* rotulo = new QLabel(titulo, caja);
-  rotulo->setProperty("papel", "seccion");
-  columna->addWidget(rotulo);
-  columna->addLayout(contenido);
-  return caja;
 }
 
 }  // namespace
@@ -117,7 +103,11 @@ QWidget* FichaHueco::Cabecera() {
   auto* formulario = new QFormLayout;
   formulario->setContentsMargins(8, 0, 0, 0);
   enlaces_.Lista(formulario, Direccion("Tipo_de_hueco"), Textos(listaHuecos::kTipos),
-                 {tr("Tipo"), {}, tr("Un lucernario no tiene persiana ni retranqueo"), {}, {}});
+                 {tr("Tipo"),
+                  {},
+                  tr("Un lucernario va inclinado u horizontal, y los obstáculos no le dan sombra"),
+                  {},
+                  {}});
   fila->addLayout(formulario);
   auto* reh = new QFormLayout;
   enlaces_.Casilla(reh, Direccion("HuecoReh"),
@@ -170,7 +160,7 @@ QWidget* FichaHueco::CajaUnidades() {
     rejilla->addWidget(c.asignar, 3, x, Qt::AlignLeft);
   }
   rejilla->addWidget(avisoUnidades_, 4, 0, 1, static_cast<int>(kColumnas.size()));
-  return Seccion(this, tr("Unidades por orientación"), rejilla);
+  return CajaTitulo(this, tr("Unidades por orientación"), rejilla);
 }
 
 QWidget* FichaHueco::CajaMedidas() {
@@ -181,7 +171,7 @@ QWidget* FichaHueco::CajaMedidas() {
   Linea(medidas_, "Distancia_alero_m", tr("Distancia del alero"),
         tr("Del borde superior del hueco al alero"));
   Linea(medidas_, "Longitud_alero_m", tr("Longitud del alero"), tr("Cuánto vuela"));
-  return Seccion(this, tr("Medidas"), medidas_);
+  return CajaTitulo(this, tr("Medidas"), medidas_);
 }
 
 QWidget* FichaHueco::CajaVidrio() {
@@ -212,7 +202,7 @@ QWidget* FichaHueco::CajaVidrio() {
   notaVidrio_->setWordWrap(true);
   connect(notaVidrio_, &QLabel::linkActivated, this, &FichaHueco::PonerDelCatalogo);
   vidrio_->addRow(notaVidrio_);
-  return Seccion(this, tr("Vidrio"), vidrio_);
+  return CajaTitulo(this, tr("Vidrio"), vidrio_);
 }
 
 QWidget* FichaHueco::CajaMarco() {
@@ -236,7 +226,7 @@ QWidget* FichaHueco::CajaMarco() {
   Linea(marco_, "U_marco_W_m2K", tr("U"), tr("Transmitancia del marco"));
   Linea(marco_, "Fraccion_marco_tanto_por_cien", tr("Fracción"),
         tr("Parte del hueco que es marco"));
-  return Seccion(this, tr("Marco"), marco_);
+  return CajaTitulo(this, tr("Marco"), marco_);
 }
 
 QWidget* FichaHueco::CajaPermeabilidad() {
@@ -266,7 +256,7 @@ QWidget* FichaHueco::CajaPermeabilidad() {
   Estrechar(lista);
   lista->setPlaceholderText(tr("Con el valor dado"));
   Linea(formulario, "Permeabilidad_Ventanas", tr("A 100 Pa"), tr("Por m2 de hueco"));
-  return Seccion(this, tr("Permeabilidad al aire"), formulario);
+  return CajaTitulo(this, tr("Permeabilidad al aire"), formulario);
 }
 
 QWidget* FichaHueco::CajaProteccion() {
@@ -283,7 +273,7 @@ QWidget* FichaHueco::CajaProteccion() {
              listaHuecos::kControlesVerano, verano);
   Posiciones(proteccion_, "Indice_tipo_control_Invierno", tr("En invierno"),
              listaHuecos::kControlesInvierno, invierno);
-  return Seccion(this, tr("Protección solar"), proteccion_);
+  return CajaTitulo(this, tr("Protección solar"), proteccion_);
 }
 
 QWidget* FichaHueco::CajaPersiana() {
@@ -299,13 +289,13 @@ QWidget* FichaHueco::CajaPersiana() {
   Linea(persiana_, "U_Caja_de_persiana_W_m2K", tr("U"));
   lista("Tipo_de_Vinf_Caja_persiana", tr("Rendija"), listaHuecos::kInfiltracionCaja);
   Linea(persiana_, "Vinf_Caja_de_persiana_m3_h", tr("Infiltración"),
-        tr("A 100 Pa y por metro de perímetro de la caja"));
+        tr("A 100 Pa, por metro de su borde"));
   Linea(persiana_, "Altura_Caja_de_persiana_m", tr("Altura"));
   notaPersiana_ = new QLabel(tr("Falta la U de la caja: sin ella no pierde calor."), this);
   notaPersiana_->setProperty("papel", "aviso");
   notaPersiana_->setWordWrap(true);
   persiana_->addRow(notaPersiana_);
-  return Seccion(this, tr("Caja de persiana"), persiana_);
+  return CajaTitulo(this, tr("Caja de persiana"), persiana_);
 }
 
 QWidget* FichaHueco::CajaMultiplicadores() {
@@ -330,7 +320,7 @@ QWidget* FichaHueco::CajaMultiplicadores() {
   fila(2, tr("U"), "Valor_multiplicativo_U_verano", "Valor_multiplicativo_U_invierno");
   rejilla->addWidget(avisos, 3, 0, 1, 3);
   rejilla->setColumnStretch(2, 1);
-  return Seccion(this, tr("Multiplicadores"), rejilla);
+  return CajaTitulo(this, tr("Multiplicadores"), rejilla);
 }
 
 void FichaHueco::PonerDelCatalogo() {

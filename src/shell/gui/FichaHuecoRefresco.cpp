@@ -93,8 +93,8 @@ void FichaHueco::RefrescarUnidades(const Huecos& g) {
   }
 }
 
-// Enseña lo que cuenta: un lucernario no tiene retranqueo ni caja, y sin protección móvil no hay
-// control.
+// Enseña lo que cuenta: a un lucernario no le cuentan el retranqueo ni las lamas, y sin protección
+// móvil no hay control.
 void FichaHueco::RefrescarVisibles(const Huecos& g) {
   const bool lucernario = g.Tipo_de_hueco == kLucernario;
   const auto editor = [this](const char* etiqueta) { return enlaces_.Editor(Direccion(etiqueta)); };
@@ -103,6 +103,7 @@ void FichaHueco::RefrescarVisibles(const Huecos& g) {
   QWidget* alero = editor("Longitud_alero_m");
   if (auto* rotulo = qobject_cast<QLabel*>(medidas_->labelForField(alero->parentWidget())))
     rotulo->setText(lucernario ? tr("Fondo del pozo") : tr("Longitud del alero"));
+  Mostrar(proteccion_, editor("Indice_tipo_sombra_fija"), !lucernario);
   const bool movil = g.Indice_tipo_sombra_movil != 0;
   Mostrar(proteccion_, editor("Indice_tipo_control_Verano"), movil);
   Mostrar(proteccion_, editor("Indice_tipo_control_Invierno"), movil);
@@ -120,7 +121,8 @@ void FichaHueco::RefrescarCifras(const Huecos& g) {
   const FigurasHueco f = CalcularFigurasHueco(g);
   QString texto = tr("U del hueco <b>%1</b> W/m²K &nbsp; Factor solar <b>%2</b>")
                       .arg(Cifra(f.UHueco), Cifra(f.FactorSolar));
-  if (g.Indice_tipo_sombra_movil != 0)
+  // La protección móvil de un lucernario cuenta en su U, no en el sol que entra.
+  if (g.Indice_tipo_sombra_movil != 0 && g.Tipo_de_hueco != kLucernario)
     texto += tr(" &nbsp; con protección <b>%1</b>").arg(Cifra(f.FactorSolarSombraActivada));
   cifras_->setText(texto);
 }
