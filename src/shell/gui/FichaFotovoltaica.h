@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+#include "shell/gui/Pagina.h"
+
+namespace novex::gui {
+
+/// Barras de doce meses.
+class BarrasMeses : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit BarrasMeses(QWidget* padre = nullptr);
+  /// \param valores de enero a diciembre, kWh
+  void Poner(const std::array<float, 12>& valores);
+  QSize sizeHint() const override { return {480, 150}; }
+
+ protected:
+  void paintEvent(QPaintEvent* evento) override;
+
+ private:
+  std::array<float, 12> valores_{};
+};
+
+/// Los tres campos fotovoltaicos del edificio y lo que produjeron en el último cálculo.
+class FichaFotovoltaica : public Pagina {
+  Q_OBJECT
+
+ public:
+  explicit FichaFotovoltaica(ContextoGui& contexto, QWidget* padre = nullptr);
+  void Refrescar() override;
+
+ private:
+  QWidget* CajaCampos();
+  void PonerProduccion();
+
+  QLabel* produccion_;
+  BarrasMeses* barras_;
+};
+
+}  // namespace novex::gui
