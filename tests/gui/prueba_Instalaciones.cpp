@@ -13,6 +13,7 @@
 #include "shell/gui/DialogoDimensionado.h"
 #include "shell/gui/DialogoSistema.h"
 #include "shell/gui/FichaFotovoltaica.h"
+#include "shell/gui/TbdEquipos.h"
 
 namespace novex::gui::pruebas {
 namespace {
@@ -213,6 +214,26 @@ TEST_F(InstalacionesTest, UnModeloDelCatalogoLlenaElEquipo) {
   EXPECT_EQ(sesion.QueDeshace(), "Modelo del catálogo");
 }
 
+TEST_F(InstalacionesTest, LasCurvasSeCambianYDejanDeSerLasDelModelo) {
+  Abrir("caldera_condensacion_solar_D3.xml");
+  Elegir("1 Caldera (Radiadores)");
+  EnDialogo<TbdEquipos>(Boton("Curvas…"), [&](TbdEquipos& d) {
+    auto* tabla = d.findChild<QTableWidget*>("ren_F");
+    ASSERT_NE(tabla, nullptr);
+    EXPECT_EQ(d.findChild<QTableWidget*>("CapCal_T"), nullptr);
+    const QString antes = tabla->item(0, 1)->text();
+    tabla->item(0, 1)->setText("nada");
+    EXPECT_EQ(tabla->item(0, 1)->text(), antes);
+    tabla->item(0, 0)->setText("0,5");
+    EXPECT_EQ(tabla->item(0, 0)->text(), "0.5");
+    d.findChild<QPushButton*>("aceptar")->click();
+  });
+  EXPECT_FLOAT_EQ(Bloque(1).curvas.cC[0], 0.5F);
+  EXPECT_EQ(Bloque(1).Fabricante, "");
+  sesion.Deshacer();
+  EXPECT_EQ(Bloque(1).Fabricante, "Defecto");
+}
+
 TEST_F(InstalacionesTest, SolarYFotovoltaica) {
   Abrir("caldera_condensacion_solar_D3.xml");
   Elegir("Solar térmica");
@@ -264,6 +285,10 @@ TEST_F(InstalacionesTest, CapturasDeInstalaciones) {
   dialogo(Pieza<QPushButton>("crear"), "crear");
   dialogo(Boton("Dimensionar…"), "dimensionar");
   if (auto* boton = Boton("Catálogo…")) dialogo(boton, "catalogo");
+  if (auto* boton = Boton("Curvas…")) dialogo(boton, "curvas");
+  for (QTreeWidgetItemIterator it(Arbol()); *it != nullptr; ++it)
+    if ((*it)->text(0).startsWith("Equipo")) Arbol()->setCurrentItem(*it);
+  if (auto* boton = Boton("Curvas…")) dialogo(boton, "curvas_frio");
 }
 
 }  // namespace
