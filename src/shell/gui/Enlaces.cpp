@@ -213,7 +213,8 @@ void Enlaces::Refrescar() {
     if (!tecleando) enlace.ensenar(valor);
     if (valor != enlace.mostrado && enlace.avisos != nullptr) enlace.avisos->hide();
     enlace.mostrado = valor;
-    if (!enlace.opciones.leer)
+    // Un sistema no tiene un valor de partida: se lo da su dimensionado.
+    if (!enlace.opciones.leer && !enlace.direccion.starts_with("Tipo_sistema["))
       Marcar(enlace.editor, valor != ValorInicial(enlace.direccion, contexto_.Ficheros()));
   }
 }

@@ -37,7 +37,7 @@ GraficoCurvas::GraficoCurvas(const QString& titulo, const QString& variable, QWi
   chart()->legend()->setAlignment(Qt::AlignRight);
   setRenderHint(QPainter::Antialiasing);
   setFrameShape(QFrame::NoFrame);
-  setBackgroundBrush(Qt::NoBrush);
+  setStyleSheet("background: transparent");
   setMinimumSize(420, 240);
 }
 
