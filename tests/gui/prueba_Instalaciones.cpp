@@ -119,10 +119,16 @@ TEST_F(InstalacionesTest, LosCamposSiguenALasElecciones) {
   EXPECT_EQ(Buscar<QLineEdit>("Tipo_sistema[1]/Volumen"), nullptr);
   EXPECT_EQ(Bloque(0).Alimentacion, "Alimentación agua red");
   QTest::qWait(10);  // se borra lo que se quitó
-  // Una clase que no puede estar junto a las demás se queda como estaba.
+  // La única de calefacción puede ser central, y entonces tiene otras clases; un split no puede.
   Elegir("1 Caldera (Radiadores)");
+  EXPECT_EQ(Buscar<QComboBox>("Tipo_sistema[2]/Seleccion")->count(), 7);
   ElegirLista("Tipo_sistema[2]/TipoInstalacionesG", "Centralizada/Bloque");
-  EXPECT_EQ(Bloque(1).TipoInstalacionesG, "Centralizada/Bloque");  // es la única de calefacción
+  EXPECT_EQ(Buscar<QComboBox>("Tipo_sistema[2]/Seleccion")->count(), 5);
+  Elegir("Equipo Split (Unid.Interior)");
+  ElegirLista("Tipo_sistema[3]/TipoInstalacionesG", "Centralizada/Bloque");
+  EXPECT_EQ(Bloque(2).TipoInstalacionesG, "Individual/Vivienda");
+  EXPECT_EQ(Buscar<QComboBox>("Tipo_sistema[3]/TipoInstalacionesG")->currentData(),
+            "Individual/Vivienda");
 }
 
 TEST_F(InstalacionesTest, SeCreaSeRechazaYSeElimina) {
