@@ -187,7 +187,9 @@ void Enlaces::Guardar(std::size_t indice, const std::string& texto) {
   if (indice >= enlaces_.size() || enlaces_[indice].direccion != direccion) return;
   Enlace& enlace = enlaces_[indice];
   if (enlace.avisos != nullptr) {
-    enlace.avisos->setText(avisos.recibidos.empty() ? QString() : Q(avisos.recibidos[0].texto));
+    QStringList textos;
+    for (const Mensaje& aviso : avisos.recibidos) textos << Q(aviso.texto);
+    enlace.avisos->setText(textos.join('\n'));
     enlace.avisos->setVisible(!avisos.recibidos.empty());
   }
   LectorCampos lector(contexto_.Caso());

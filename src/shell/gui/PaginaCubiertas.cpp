@@ -1,11 +1,8 @@
 #include "shell/gui/PaginaCubiertas.h"
 
-#include <QFormLayout>
-
-#include "shell/gui/TextoQt.h"
-
 namespace novex::gui {
 
-PaginaCubiertas::PaginaCubiertas(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, padre) {}
+PaginaCubiertas::PaginaCubiertas(ContextoGui& contexto, QWidget* padre)
+    : PaginaEnvolvente(contexto, PaginaOpacos::Cubiertas, padre) {}
 
 }  // namespace novex::gui

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "shell/gui/Pagina.h"
+#include "shell/gui/PaginaEnvolvente.h"
 
 namespace novex::gui {
 
-/// Las cubiertas por tipo constructivo y orientación.
-class PaginaCubiertas : public Pagina {
+/// Las cubiertas y los techos por tipo constructivo.
+class PaginaCubiertas : public PaginaEnvolvente {
   Q_OBJECT
 
  public:

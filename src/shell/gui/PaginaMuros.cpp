@@ -1,11 +1,8 @@
 #include "shell/gui/PaginaMuros.h"
 
-#include <QFormLayout>
-
-#include "shell/gui/TextoQt.h"
-
 namespace novex::gui {
 
-PaginaMuros::PaginaMuros(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, padre) {}
+PaginaMuros::PaginaMuros(ContextoGui& contexto, QWidget* padre)
+    : PaginaEnvolvente(contexto, PaginaOpacos::Muros, padre) {}
 
 }  // namespace novex::gui

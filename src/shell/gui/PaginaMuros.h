@@ -1,11 +1,11 @@
 #pragma once
 
-#include "shell/gui/Pagina.h"
+#include "shell/gui/PaginaEnvolvente.h"
 
 namespace novex::gui {
 
 /// Los muros por tipo constructivo y orientación.
-class PaginaMuros : public Pagina {
+class PaginaMuros : public PaginaEnvolvente {
   Q_OBJECT
 
  public:

@@ -1,11 +1,8 @@
 #include "shell/gui/PaginaSuelos.h"
 
-#include <QFormLayout>
-
-#include "shell/gui/TextoQt.h"
-
 namespace novex::gui {
 
-PaginaSuelos::PaginaSuelos(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, padre) {}
+PaginaSuelos::PaginaSuelos(ContextoGui& contexto, QWidget* padre)
+    : PaginaEnvolvente(contexto, PaginaOpacos::Suelos, padre) {}
 
 }  // namespace novex::gui

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "shell/gui/Pagina.h"
+#include "shell/gui/PaginaEnvolvente.h"
 
 namespace novex::gui {
 
 /// Los suelos por tipo constructivo.
-class PaginaSuelos : public Pagina {
+class PaginaSuelos : public PaginaEnvolvente {
   Q_OBJECT
 
  public:

@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "entry/ResumenEnvolvente.h"
 #include "shell/gui/PaginaCubiertas.h"
 #include "shell/gui/PaginaHuecos.h"
 #include "shell/gui/PaginaMuros.h"
@@ -13,18 +14,23 @@ namespace novex::gui {
 
 TDefEdificio::TDefEdificio(ContextoGui& contexto, QWidget* padre)
     : PaginaPestanas(contexto, padre) {
+  sumas_ = new QLabel(this);
+  sumas_->setProperty("papel", "nota");
+  sumas_->setObjectName("sumas");
+  sumas_->setContentsMargins(12, 3, 12, 3);
+  sumas_->setToolTip(
+      tr("Fachada con sus huecos; compacidad V/A con el área de intercambio (DB-HE, anejo A)"));
   Anadir(new PaginaCubiertas(contexto), "Cubiertas");
   Anadir(new PaginaMuros(contexto), "Muros");
   Anadir(new PaginaSuelos(contexto), "Suelos");
   Anadir(new PaginaHuecos(contexto), "Huecos");
   Anadir(new PaginaPuentes(contexto), "Puentes");
-  sumas_ = new QLabel(this);
-  sumas_->setProperty("papel", "nota");
   layout()->addWidget(sumas_);
 }
 
 void TDefEdificio::Refrescar() {
   PaginaPestanas::Refrescar();
+  sumas_->setText(Q(TextoResumen(ResumirEnvolvente(contexto_.Caso()))));
 }
 
 QString PestanaDe(PaginaProyecto pagina) {

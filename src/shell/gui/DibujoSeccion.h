@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QWidget>
+#include <utility>
+#include <vector>
+
+#include "reference/Cerramiento.h"
+
+namespace novex::gui {
+
+/// La sección de un cerramiento a escala: un muro de izquierda a derecha, un forjado de arriba
+/// abajo. Cada capa lleva la trama de su grupo de materiales y su número.
+class DibujoSeccion : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit DibujoSeccion(QWidget* padre = nullptr);
+  /// \param capas en el orden en que se guardan \param elegida posición de la capa resaltada, o -1
+  void Poner(const std::vector<Capa>& capas, FamiliaCerramiento familia, int elegida = -1);
+  QSize sizeHint() const override { return {280, 170}; }
+  QSize minimumSizeHint() const override { return {180, 130}; }
+
+ signals:
+  /// Se ha pulsado una capa.
+  void Pulsada(int capa);
+
+ protected:
+  void paintEvent(QPaintEvent* evento) override;
+  bool event(QEvent* evento) override;
+  void mousePressEvent(QMouseEvent* evento) override;
+
+ private:
+  QRectF Marco() const;
+  double Escala() const;  ///< píxeles por metro
+  QRectF RectanguloDe(std::size_t capa) const;
+  int CapaEn(const QPointF& punto) const;
+  void PintarCaras(QPainter& pintor) const;
+  void PintarEscala(QPainter& pintor) const;
+
+  std::vector<Capa> capas_;
+  FamiliaCerramiento familia_ = FamiliaCerramiento::MurosExterior;
+  int elegida_ = -1;
+};
+
+/// Lo que hay a cada lado de un cerramiento, por el orden de sus capas.
+std::pair<QString, QString> CarasDe(FamiliaCerramiento familia);
+
+}  // namespace novex::gui
