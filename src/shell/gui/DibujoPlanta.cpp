@@ -84,7 +84,8 @@ void DibujoPlanta::paintEvent(QPaintEvent*) {
   pintor.translate(width() / 2.0, height() / 2.0);
   double maximo = 0;
   for (const AreasSector& s : sectores_) maximo = std::max(maximo, s.Total());
-  const double cabe = std::min(width(), height()) / 2.0;
+  // Los rótulos de este y oeste van al lado de sus barras.
+  const double cabe = std::min(width() - 44, height()) / 2.0;
   const double lado = cabe * 0.62;
   const double largo = std::max(10.0, cabe - lado / 2 - 34);
   for (std::size_t s = 0; s < kSectores; ++s) PintarBarra(pintor, s, maximo, lado, largo);

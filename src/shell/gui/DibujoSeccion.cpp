@@ -144,7 +144,8 @@ void DibujoSeccion::paintEvent(QPaintEvent*) {
   pintor.setFont(letra);
   if (capas_.empty()) {
     pintor.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
-    pintor.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("Sin capas: solo su U"));
+    pintor.drawText(rect().adjusted(12, 0, -12, 0), Qt::AlignCenter | Qt::TextWordWrap,
+                    tr("Sin capas. Elija o cree una composición, o escriba su U"));
     return;
   }
   const QColor borde = palette().color(QPalette::WindowText);

@@ -19,7 +19,7 @@ namespace {
 constexpr std::array<const char*, kSectores> kRotulosSector = {"N,NO,NE....", "O....", "SO....",
                                                                "S....",       "SE",    "E...."};
 constexpr int kColumnaSuma = 7;
-constexpr int kAnchoCasilla = 62;
+constexpr int kAnchoCasilla = 58;
 
 QString Cifra(double valor) {
   return Q(Fijo(valor, 1));
@@ -151,7 +151,7 @@ void FichaElemento::CrearTipo(std::size_t tipo) {
   if (!clase_.ranurasExteriores.empty())
     Anadir(BarraComposicion(tipo, true), fila_++, 0, kColumnaSuma + 2, tipo);
   if (clase_.area.empty()) return;
-  Anadir(Marca(tipo), fila_, kColumnaSuma + 1, 1, tipo);
+  rejilla_->addWidget(Marca(tipo), fila_, kColumnaSuma + 1);
   if (clase_.PorSectores())
     CrearPorSectores(tipo);
   else
@@ -201,6 +201,17 @@ void FichaElemento::CrearPorSectores(std::size_t tipo) {
     tipoDeFila_.push_back(tipo);
     ++fila_;
   }
+  if (clase_.conParte == ElementoConParte::Muro) return;
+  Anadir(Rotulo(tr("Al sol m²"), "nota"), fila_, 0, 1, tipo);
+  for (std::size_t s = 0; s < kSectores; ++s) CrearResto(tipo, s, static_cast<int>(s) + 1);
+  ++fila_;
+}
+
+void FichaElemento::CrearResto(std::size_t tipo, std::size_t sector, int columna) {
+  auto* resto = Rotulo({}, "nota");
+  resto->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  Anadir(resto, fila_, columna, 1, tipo);
+  restos_.push_back({tipo, sector, resto});
 }
 
 void FichaElemento::CrearEnFila(std::size_t tipo) {
@@ -213,10 +224,7 @@ void FichaElemento::CrearEnFila(std::size_t tipo) {
   casilla(clase_.area, false);
   if (clase_.conParte) {
     casilla(clase_.parte, true);
-    auto* resto = Rotulo({});
-    resto->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    Anadir(resto, fila_, columna++, 1, tipo);
-    restos_.emplace_back(tipo, resto);
+    CrearResto(tipo, norte, columna++);
   }
   if (!clase_.areaExterior.empty()) casilla(clase_.areaExterior, false);
   for (const DatoElemento& dato : clase_.datos)
@@ -383,8 +391,9 @@ void FichaElemento::PonerSumas() {
     suma->setText(Cifra(total));
   }
   const Recinto& r = contexto_.Caso().GetRecinto(0);
-  for (const auto& [tipo, resto] : restos_)
-    resto->setText(Cifra(static_cast<double>(AreaRestante(r, {*clase_.conParte, tipo, norte}))));
+  for (const Resto& resto : restos_)
+    resto.rotulo->setText(Cifra(static_cast<double>(
+        AreaRestante(r, {*clase_.conParte, resto.tipo, static_cast<Sector>(resto.sector)}))));
   if (huecos_.empty()) return;
   double total = 0;
   const AreasPorSector areas = FachadaPorSector(contexto_.Caso());
@@ -401,7 +410,8 @@ void FichaElemento::PonerVisibles() {
   mas_->setVisible(pedidos_ < clase_.Tipos());
   // En un edificio nuevo todo es nuevo.
   const bool existente = contexto_.Caso().GetDatosGenerales().Modo_trabajo != "Nuevo";
-  for (QCheckBox* marca : marcas_) marca->parentWidget()->setVisible(existente);
+  for (std::size_t tipo = 0; tipo < marcas_.size(); ++tipo)
+    marcas_[tipo]->parentWidget()->setVisible(existente && tipo < pedidos_);
 }
 
 void FichaElemento::Refrescar() {

@@ -49,6 +49,11 @@ class FichaElemento : public QWidget {
     QToolButton* quitar;
   };
 
+  struct Resto {
+    std::size_t tipo, sector;
+    QLabel* rotulo;
+  };
+
   QWidget* Cabecera();
   void CrearTipo(std::size_t tipo);
   void CrearCabeceras();
@@ -59,6 +64,7 @@ class FichaElemento : public QWidget {
   Casilla CrearCasilla(std::size_t tipo, std::string_view etiqueta, std::size_t sector, bool parte);
   QWidget* CrearDato(std::size_t tipo, const DatoElemento& dato, std::vector<Casilla>& fila);
   void Anadir(QWidget* control, int fila, int columna, int ancho, std::size_t tipo);
+  void CrearResto(std::size_t tipo, std::size_t sector, int columna);
   void PonerSumas();
   void PonerVisibles();
   void PegarDesde(const QObject* editor);
@@ -72,7 +78,7 @@ class FichaElemento : public QWidget {
   std::vector<std::vector<Casilla>> casillas_;            ///< por fila; sin editor, una que no hay
   std::vector<std::size_t> tipoDeFila_;                   ///< tipo de cada fila de casillas
   std::vector<std::pair<std::size_t, QLabel*>> sumas_;    ///< fila de casillas y su suma
-  std::vector<std::pair<std::size_t, QLabel*>> restos_;   ///< tipo y sector, y lo que queda al sol
+  std::vector<Resto> restos_;                             ///< lo que queda al sol
   std::vector<std::pair<std::size_t, QWidget*>> deTipo_;  ///< lo que se esconde con su tipo
   std::vector<QCheckBox*> marcas_;
   std::vector<Composicion> composiciones_;

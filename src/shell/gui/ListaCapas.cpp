@@ -23,7 +23,8 @@ ListaCapas::ListaCapas(QWidget* padre) : QTreeWidget(padre) {
   setStyleSheet("QTreeWidget::item { padding: 3px 0; }");
   setToolTip(
       tr("De fuera adentro. Se arrastran para ordenarlas; con dos pulsaciones en el espesor "
-         "se cambia"));
+         "se cambia.\nEspesor (m), conductividad (W/mK), resistencia (m²K/W), espesor de vapor y "
+         "peso"));
   connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* capa, int columna) {
     const auto cual = static_cast<std::size_t>(indexOfTopLevelItem(capa));
     if (columna != kColumnaEspesor || cual >= editable_.size() || !editable_[cual]) return;
@@ -43,8 +44,7 @@ void ListaCapas::Poner(const std::vector<Capa>& capas, int elegida) {
   clear();
   editable_.clear();
   const Tabla tabla = CapasNumeradas(ResumirCerramiento(capas));
-  QStringList cabeceras;
-  for (const std::string& c : tabla.cabeceras) cabeceras << Q(c);
+  const QStringList cabeceras = {tr("Capa"), "m", "k", "R", tr("Vapor"), "kg/m²"};
   setHeaderLabels(cabeceras);
   for (std::size_t f = 0; f < tabla.filas.size(); ++f) {
     auto* capa = new QTreeWidgetItem(this);

@@ -31,7 +31,7 @@ PaginaEnvolvente::PaginaEnvolvente(ContextoGui& contexto, PaginaOpacos pagina, Q
   auto* izquierda = new QVBoxLayout;
   clases_ = new QListWidget(this);
   clases_->setObjectName("clases");
-  clases_->setFixedWidth(184);
+  clases_->setFixedWidth(176);
   clases_->setStyleSheet("QListWidget::item { padding: 4px 3px; }");
   izquierda->addWidget(clases_, 1);
   if (pagina != PaginaOpacos::Suelos) izquierda->addWidget(Color());
@@ -59,11 +59,13 @@ PaginaEnvolvente::PaginaEnvolvente(ContextoGui& contexto, PaginaOpacos pagina, Q
   fila->addWidget(Dibujos());
   connect(clases_, &QListWidget::currentRowChanged, this, [this](int cual) {
     if (cual < 0) return;
+    tocada_ = true;
     pila_->setCurrentIndex(cual);
     PonerDibujo();
     EnsenarSeccion(fichas_[static_cast<std::size_t>(cual)]->RanuraElegida());
   });
   clases_->setCurrentRow(0);
+  tocada_ = false;
 }
 
 QWidget* PaginaEnvolvente::Color() {
@@ -82,7 +84,7 @@ QWidget* PaginaEnvolvente::Color() {
 
 QWidget* PaginaEnvolvente::Dibujos() {
   auto* caja = new QWidget(this);
-  caja->setFixedWidth(270);
+  caja->setFixedWidth(252);
   auto* columna = new QVBoxLayout(caja);
   columna->setContentsMargins(0, 0, 0, 0);
   planta_ = new DibujoPlanta(caja);
@@ -126,8 +128,24 @@ void PaginaEnvolvente::PonerDibujo() {
   reparto_->Poner(barras);
 }
 
+void PaginaEnvolvente::ElegirMayor() {
+  if (tocada_) return;
+  double mayor = 0;
+  int cual = 0;
+  for (std::size_t i = 0; i < fichas_.size(); ++i) {
+    const double area = AreaDeClase(contexto_.Caso(), fichas_[i]->Clase());
+    if (area > mayor) {
+      mayor = area;
+      cual = static_cast<int>(i);
+    }
+  }
+  clases_->setCurrentRow(cual);
+  tocada_ = false;
+}
+
 void PaginaEnvolvente::Refrescar() {
   Pagina::Refrescar();
+  ElegirMayor();
   for (std::size_t i = 0; i < fichas_.size(); ++i) {
     const ClaseElemento& clase = fichas_[i]->Clase();
     const double area = AreaDeClase(contexto_.Caso(), clase);

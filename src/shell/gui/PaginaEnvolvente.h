@@ -28,6 +28,8 @@ class PaginaEnvolvente : public Pagina {
   void Definir(std::size_t ranura);
   void EnsenarSeccion(std::size_t ranura);
   void PonerDibujo();
+  /// Mientras nadie elige otra, se enseña la clase con más área.
+  void ElegirMayor();
 
   PaginaOpacos pagina_;
   QListWidget* clases_;
@@ -38,6 +40,7 @@ class PaginaEnvolvente : public Pagina {
   DibujoSeccion* seccion_;
   QTableWidget* capas_;
   QLabel* pieSeccion_;
+  bool tocada_ = false;
 };
 
 }  // namespace novex::gui

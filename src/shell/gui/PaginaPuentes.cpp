@@ -1,15 +1,14 @@
 #include "shell/gui/PaginaPuentes.h"
 
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QHideEvent>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
-#include <numeric>
 
 #include "base/NumeroTexto.h"
+#include "demand/PuentesTermicos.h"
 #include "reference/LongitudesPuentes.h"
 #include "shell/gui/TextoQt.h"
 
@@ -313,7 +312,7 @@ void PaginaPuentes::Refrescar() {
   ventanas_->setEnabled(pantalla.forjados != 2);
   for (QLineEdit* casilla : longitudes_) casilla->setEnabled(facilitados);
   estimar_->setEnabled(facilitados);
-  const float pilares = std::accumulate(c.Long_pilares.begin(), c.Long_pilares.end(), 0.0F);
+  const float pilares = LongitudPilares(c);
   totalPilares_->setText(Q(Metros(pilares)));
   double total = 0;
   for (std::size_t i = 0; i < kFilas.size(); ++i) {

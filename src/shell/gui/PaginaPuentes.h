@@ -33,7 +33,6 @@ class PaginaPuentes : public Pagina {
   QComboBox* ListaDe(const QStringList& textos, const char* nombre,
                      int novex::PaginaPuentes::*dato);
   void Cambiar(const QString& que, const std::function<void(novex::PaginaPuentes&)>& cambio);
-  void Estimar();
 
   struct Fila {
     DibujoPuente* dibujo;

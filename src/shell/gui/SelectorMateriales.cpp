@@ -108,10 +108,15 @@ QLayout* SelectorMateriales::Ordenes() {
   return fila;
 }
 
-QGroupBox* SelectorMateriales::PanelNuevo() {
-  auto* caja = new QGroupBox(tr("Nuevo material"), this);
-  caja->setFlat(true);
-  auto* fila = new QHBoxLayout(caja);
+QWidget* SelectorMateriales::PanelNuevo() {
+  auto* caja = new QWidget(this);
+  auto* columna = new QVBoxLayout(caja);
+  columna->setContentsMargins(0, 0, 0, 0);
+  auto* titulo = new QLabel(tr("Nuevo material"), caja);
+  titulo->setProperty("papel", "seccion");
+  columna->addWidget(titulo);
+  auto* fila = new QHBoxLayout;
+  columna->addLayout(fila);
   auto* uno = new QFormLayout;
   auto* dos = new QFormLayout;
   fila->addLayout(uno, 3);

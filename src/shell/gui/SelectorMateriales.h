@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -31,7 +30,7 @@ class SelectorMateriales : public QWidget {
  private:
   QLayout* Filtro();
   QLayout* Ordenes();
-  QGroupBox* PanelNuevo();
+  QWidget* PanelNuevo();
   void LlenarGrupos();
   void Llenar(std::size_t elegir = 0);
   void LlenarY(const MaterialCatalogo& elegido);
@@ -54,7 +53,7 @@ class SelectorMateriales : public QWidget {
   QTableWidget* materiales_;
   QLabel *pista_, *admitido_;
   QPushButton *anadir_, *nuevoEspesor_, *nuevo_, *borrar_, *subir_, *bajar_;
-  QGroupBox* panel_;
+  QWidget* panel_;
   QLineEdit *nombreN_, *espesorN_, *rtermN_, *kN_, *denN_, *cpN_, *rvaporN_, *iniN_;
 };
 

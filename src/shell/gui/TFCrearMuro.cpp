@@ -92,6 +92,10 @@ QWidget* TFCrearMuro::LadoCapas() {
   columna->addWidget(resumen_);
   dibujos_ = new QTabWidget(caja);
   dibujos_->setDocumentMode(true);
+  U_ = new QLabel(this);
+  U_->setObjectName("U");
+  U_->setProperty("papel", "titulo");
+  dibujos_->setCornerWidget(U_, Qt::TopRightCorner);
   seccion_ = new DibujoSeccion(caja);
   vapor_ = new DibujoVapor(caja);
   dibujos_->addTab(seccion_, tr("Sección"));
@@ -148,12 +152,6 @@ QLayout* TFCrearMuro::OrdenesCapas() {
   pelicula("hi", "hi", hi_);
   he_->setText(Q(TextoPelicula(peliculas_.he)));
   hi_->setText(Q(TextoPelicula(peliculas_.hi)));
-  U_ = new QLabel(this);
-  U_->setObjectName("U");
-  U_->setProperty("papel", "titulo");
-  U_->setMinimumWidth(130);
-  U_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  fila->addWidget(U_);
   return fila;
 }
 
@@ -221,6 +219,7 @@ void TFCrearMuro::LeerPeliculas() {
 void TFCrearMuro::EnsenarU() {
   const double U = static_cast<double>(UCerramiento(capas_, peliculas_));
   U_->setText("U " + Q(Fijo(U, 2)) + " W/m²K");
+  U_->adjustSize();
 }
 
 void TFCrearMuro::EnsenarVapor() {
