@@ -4,10 +4,12 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolButton>
 
 #include "gui/VentanaPrueba.h"
-#include "reference/LongitudesPuentes.h"
+#include "shell/gui/TFCrearMuro.h"
+#include "shell/gui/TFMuros.h"
 
 namespace novex::gui::pruebas {
 namespace {
@@ -100,6 +102,33 @@ TEST_F(EnvolventeTest, UnaUEscritaQuitaLaComposicionYOtroTipoSeAnade) {
   QTest::mouseClick(quitar, Qt::LeftButton);
   EXPECT_EQ(sesion.Caso().GetComposicion(ranura::MuroExt1).U, 0.0F);
   EXPECT_FALSE(quitar->isEnabled());
+}
+
+TEST_F(EnvolventeTest, ElegirYCrearSePonenEnLaPosicion) {
+  if (!std::filesystem::exists(ficheros.Espacio().Datos() / "Composiciones.xml"))
+    GTEST_SKIP() << "sin los catálogos en la carpeta de programa";
+  Ir("Muros");
+  ventana->Contexto().Editar("quitar", [](Edificio& e) { e.LimpiarComposicion(ranura::MuroExt1); });
+  auto* elegir = ventana->PaginaDe(Destino::Edificio)->findChild<QToolButton*>("elegir0");
+  QTimer::singleShot(0, [] {
+    auto* dialogo = qobject_cast<TFMuros*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialogo, nullptr);
+    dialogo->accept();
+  });
+  QTest::mouseClick(elegir, Qt::LeftButton);
+  EXPECT_FALSE(sesion.Caso().GetComposicion(ranura::MuroExt1).capas.empty());
+  auto* crear = ventana->PaginaDe(Destino::Edificio)->findChild<QToolButton*>("crear0");
+  std::size_t capas = 0;
+  QTimer::singleShot(0, [&] {
+    auto* dialogo = qobject_cast<TFCrearMuro*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialogo, nullptr);
+    capas = dialogo->Capas().size();
+    EXPECT_TRUE(dialogo->findChild<QLineEdit*>("nombre")->text().endsWith("(D)"));
+    dialogo->reject();
+  });
+  QTest::mouseClick(crear, Qt::LeftButton);
+  EXPECT_EQ(capas, sesion.Caso().GetComposicion(ranura::MuroExt1).capas.size());
+  EXPECT_EQ(sesion.QueDeshace(), "Elegir composición");  // cancelar no cambia nada
 }
 
 TEST_F(EnvolventeTest, CadaClaseTieneLosDatosDeSuElemento) {
