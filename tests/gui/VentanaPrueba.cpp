@@ -10,6 +10,15 @@ VentanaTest::VentanaTest() {
   ventana->show();
 }
 
+// La plataforma sin pantalla puede olvidar la primera petición tras cerrarse otra ventana.
+void VentanaTest::Activar() {
+  for (int i = 0; i < 250 && !ventana->isActiveWindow(); ++i) {
+    ventana->activateWindow();
+    QTest::qWait(20);
+  }
+  EXPECT_TRUE(ventana->isActiveWindow());
+}
+
 void VentanaTest::EsperarVivo() {
   for (int i = 0; i < 1000 && ventana->Panel().Ocupado(); ++i) QTest::qWait(20);
 }

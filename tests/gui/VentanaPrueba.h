@@ -29,6 +29,8 @@ class MensajesCallados : public MensajesVentana {
 class VentanaTest : public testing::Test {
  protected:
   VentanaTest();
+  /// Activa la ventana: solo una activa da y quita el foco.
+  void Activar();
   /// Espera a que acabe la calificación en vivo.
   void EsperarVivo();
   /// Un editor de la página que se enseña, por la dirección de su campo; nulo si no está.

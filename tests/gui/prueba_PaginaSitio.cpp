@@ -14,9 +14,7 @@ class PaginaSitioTest : public VentanaTest {
  protected:
   PaginaSitioTest() {
     ventana->Mostrar(Destino::Global);
-    // Solo una ventana activa da y quita el foco.
-    ventana->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
+    Activar();
   }
   const Localizacion& Lugar() const { return sesion.Caso().GetLocalizacion(); }
   void Elegir(const char* direccion, int posicion) {

@@ -12,9 +12,7 @@ class TFDefinicionTest : public VentanaTest {
  protected:
   TFDefinicionTest() {
     ventana->Mostrar(Destino::Definicion);
-    // Solo una ventana activa da y quita el foco.
-    ventana->activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(ventana.get()));
+    Activar();
   }
   const DatosGenerales& Generales() const { return sesion.Caso().GetDatosGenerales(); }
   QPlainTextEdit* Memo(const char* nombre) { return Buscar<EditorMemo>(nombre)->Texto(); }

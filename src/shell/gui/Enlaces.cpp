@@ -223,7 +223,9 @@ void Enlaces::Refrescar() {
 
 std::vector<std::string> Enlaces::Direcciones() const {
   std::vector<std::string> direcciones;
-  for (const Enlace& enlace : enlaces_) direcciones.push_back(enlace.direccion);
+  for (const Enlace& enlace : enlaces_)
+    if (!enlace.opciones.leer || BuscarDatosCampo(enlace.direccion))
+      direcciones.push_back(enlace.direccion);
   return direcciones;
 }
 

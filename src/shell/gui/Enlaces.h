@@ -57,7 +57,7 @@ class Enlaces : public QObject {
   void Vaciar();
   /// Pone en los editores lo que tiene el caso activo. Un editor que se está tecleando se respeta.
   void Refrescar();
-  /// Las direcciones enlazadas.
+  /// Las direcciones de los campos enlazados; sin los valores que lee una regla y no son un campo.
   std::vector<std::string> Direcciones() const;
   /// El editor de una dirección, o nulo.
   QWidget* Editor(const std::string& direccion) const;
