@@ -114,13 +114,6 @@ constexpr auto Campo(LugarImagen lugar) {
   return lugar == LugarImagen::Edificio ? &DatosPantalla::Imagen : &DatosPantalla::Plano;
 }
 
-bool BorrarFichero(const fs::path& ruta, Mensajes& mensajes) {
-  std::error_code fallo;
-  fs::remove(ruta, fallo);
-  if (fallo) mensajes.Avisar(kTitulo, "No se pudo borrar la imagen \"" + ruta.string() + "\"");
-  return !fallo;
-}
-
 }  // namespace
 
 std::optional<std::string> TextoDeImagen(const fs::path& fichero, Mensajes& mensajes) {
@@ -193,20 +186,6 @@ bool VolcarImagen(const EspacioTrabajo& espacio, LugarImagen lugar,
     mensajes.Avisar(kTitulo, error.what());
     return false;
   }
-}
-
-bool VolcarImagenes(const EspacioTrabajo& espacio, const DatosPantalla& pantalla,
-                    Mensajes& mensajes) {
-  bool bien = true;
-  for (const LugarImagen lugar : {LugarImagen::Edificio, LugarImagen::Plano}) {
-    const auto& texto = ImagenDe(pantalla, lugar);
-    const bool tiene = texto && !texto->empty();
-    const auto imagen = tiene ? DecodificarImagen(*texto, mensajes) : std::nullopt;
-    if (!imagen) bien = BorrarFichero(RutaImagen(espacio, lugar), mensajes) && bien;
-    if (imagen) bien = VolcarImagen(espacio, lugar, *imagen, mensajes) && bien;
-    bien = bien && (imagen || !tiene);
-  }
-  return bien;
 }
 
 }  // namespace novex

@@ -55,10 +55,4 @@ std::filesystem::path RutaImagen(const EspacioTrabajo& espacio, LugarImagen luga
 bool VolcarImagen(const EspacioTrabajo& espacio, LugarImagen lugar,
                   const ImagenDecodificada& imagen, Mensajes& mensajes);
 
-/// Deja los dos ficheros de trabajo como las imágenes de un caso, para un documento: escribe las
-/// que tiene y borra los de las que no tiene o no se pueden enseñar, que serían de otro proyecto.
-/// \returns false, con su aviso, si alguna no se puede decodificar, escribir o borrar
-bool VolcarImagenes(const EspacioTrabajo& espacio, const DatosPantalla& pantalla,
-                    Mensajes& mensajes);
-
 }  // namespace novex

@@ -160,31 +160,19 @@ TEST_F(ImagenesProyecto, UnBase64DanadoEsUnAviso) {
   EXPECT_THAT(Aviso(), HasSubstr("no es una imagen"));
 }
 
-TEST_F(ImagenesProyecto, LosFicherosDeTrabajoSonLosDelCaso) {
+TEST_F(ImagenesProyecto, SeVuelcaEnSuFicheroDeTrabajo) {
   const EspacioTrabajo espacio{carpeta / "programa"};
-  DatosPantalla p;
-  EXPECT_TRUE(VolcarImagenes(espacio, p, m));
-  p.Imagen = std::make_shared<const std::string>(*Texto("f.jpg", Jpeg(100)));
-  p.Plano = std::make_shared<const std::string>(*Texto("p.png", Png()));
-  EXPECT_TRUE(VolcarImagenes(espacio, p, m));
+  EXPECT_TRUE(VolcarImagen(espacio, LugarImagen::Edificio, {ClaseImagen::Jpeg, Jpeg(100)}, m));
+  EXPECT_TRUE(VolcarImagen(espacio, LugarImagen::Plano, {ClaseImagen::Png, Png()}, m));
   const fs::path edificio = espacio.programa / "bmp/imageEdificio.jpg";
-  const fs::path plano = espacio.programa / "bmp/imagePlano.jpg";
   EXPECT_EQ(LeerFichero(edificio), Jpeg(100));
-  EXPECT_EQ(LeerFichero(plano), Png());
+  EXPECT_EQ(LeerFichero(espacio.programa / "bmp/imagePlano.jpg"), Png());
   EXPECT_TRUE(m.recibidos.empty());
-  // Una imagen dañada o que no hay no deja la del proyecto anterior.
-  p.Imagen = std::make_shared<const std::string>("data:image/jpeg;base64,dañada");
-  p.Plano = std::make_shared<const std::string>();
-  EXPECT_FALSE(VolcarImagenes(espacio, p, m));
-  EXPECT_EQ(m.recibidos.size(), 1U);
-  EXPECT_FALSE(fs::exists(edificio));
-  EXPECT_FALSE(fs::exists(plano));
-  // Donde no se puede escribir ni borrar.
-  m.recibidos.clear();
+  // Donde no se puede escribir.
+  fs::remove(edificio);
   fs::create_directories(edificio / "dentro");
   EXPECT_FALSE(VolcarImagen(espacio, LugarImagen::Edificio, {ClaseImagen::Jpeg, "x"}, m));
-  EXPECT_FALSE(VolcarImagenes(espacio, {}, m));
-  EXPECT_EQ(m.recibidos.size(), 2U);
+  EXPECT_EQ(m.recibidos.size(), 1U);
 }
 
 }  // namespace
