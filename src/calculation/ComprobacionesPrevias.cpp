@@ -81,17 +81,17 @@ void ComprobarSuelos(const Edificio& edificio, Lista& lista) {
 void ComprobarVolumen(const Edificio& edificio, Lista& lista) {
   const double util = SuperficieUtil(edificio);
   if (util == 0) {
-    lista.push_back({"Falta definir el suelo habitable", Pagina::Global});
+    lista.push_back({"Falta definir el suelo habitable", Pagina::Global, "Suelo_habitable_m2"});
     return;
   }
   const double relacion =
       SumaRecintos(edificio, [](const Recinto& r) { return Suma(r.Volumen_total_m3); }) / util;
   if (!Menor(kMinimoVolumenPorUtil, relacion))
-    lista.push_back(
-        {"La relacion entre el volumen y el suelo habitable debe ser mayor de 2", Pagina::Global});
+    lista.push_back({"La relacion entre el volumen y el suelo habitable debe ser mayor de 2",
+                     Pagina::Global, "Volumen_total_m3"});
   if (!Menor(relacion, kMaximoVolumenPorUtil))
-    lista.push_back(
-        {"La relacion entre el volumen y el suelo habitable debe ser menor de 5", Pagina::Global});
+    lista.push_back({"La relacion entre el volumen y el suelo habitable debe ser menor de 5",
+                     Pagina::Global, "Volumen_total_m3"});
 }
 
 // Lo que suman los generadores de agua caliente de un caso.
@@ -177,7 +177,7 @@ void ComprobarCoeficientes(const Edificio& edificio, Lista& lista) {
     lista.push_back(
         {"No existen coeficientes operacionales. Volver a seleccionar el Tipo de "
          "edificio en la pestaña global",
-         Pagina::Global});
+         Pagina::Global, "PerfilUso"});
 }
 
 // Los tipos de una clase de elemento, con lo que se dice de ellos.
@@ -246,7 +246,9 @@ void ComprobarTransmitancias(const Edificio& edificio, Lista& lista) {
       if (!(area > 0) || edificio.GetComposicion(elemento.ranuras[i]).U != 0) continue;
       lista.push_back({std::string("Falta definir la composición ó el Coef. Global ") +
                            elemento.frase + " Tipo " + std::to_string(tipo + 1),
-                       elemento.pagina});
+                       elemento.pagina,
+                       {},
+                       elemento.ranuras[i]});
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +21,8 @@ std::string_view NombrePagina(PaginaProyecto pagina);
 struct MensajePrevio {
   std::string texto;
   PaginaProyecto pagina;
+  std::string_view campo{};             ///< dirección del campo, si es uno
+  std::optional<std::size_t> ranura{};  ///< composición del elemento, si es de uno opaco
   bool operator==(const MensajePrevio&) const = default;
 };
 

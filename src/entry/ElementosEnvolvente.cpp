@@ -250,6 +250,14 @@ std::string DireccionElemento(const ClaseElemento& clase, std::string_view etiqu
   return direccion;
 }
 
+std::string DireccionU(const ClaseElemento& clase, std::size_t ranura) {
+  for (const auto& [ranuras, etiqueta] :
+       {std::pair(clase.ranuras, clase.U), std::pair(clase.ranurasExteriores, clase.UExterior)})
+    for (std::size_t tipo = 0; tipo < ranuras.size(); ++tipo)
+      if (ranuras[tipo] == ranura) return DireccionElemento(clase, etiqueta, tipo);
+  return {};
+}
+
 bool TieneParte(const ClaseElemento& clase, std::size_t sector) {
   return clase.conParte && (*clase.conParte != ElementoConParte::Muro || sector != norte);
 }

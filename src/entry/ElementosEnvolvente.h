@@ -57,6 +57,10 @@ std::span<const ClaseElemento> ClasesDePagina(PaginaOpacos pagina);
 std::string DireccionElemento(const ClaseElemento& clase, std::string_view etiqueta,
                               std::size_t tipo, std::size_t sector = norte);
 
+/// Dirección de la transmitancia de una composición de la clase, también de las de su
+/// cerramiento exterior; vacía si no es suya.
+std::string DireccionU(const ClaseElemento& clase, std::size_t ranura);
+
 /// ¿Lleva parte el área de un sector? No la del muro norte.
 bool TieneParte(const ClaseElemento& clase, std::size_t sector);
 

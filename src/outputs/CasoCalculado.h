@@ -5,7 +5,7 @@
 
 #include "base/Mensajes.h"
 #include "demand/calculo.h"
-#include "model/Edificio.h"
+#include "model/GestorEdifActivo.h"
 
 namespace novex {
 
@@ -16,6 +16,9 @@ struct CasoCalculado {
   const calculo* resultado;
   std::vector<Mensaje> mensajes;  ///< avisos de su lectura y su cálculo
 };
+
+/// Los casos de un proyecto que están calculados, en su orden y sin mensajes.
+std::vector<CasoCalculado> CasosCalculados(const GestorEdifActivo& gestor);
 
 /// Nombre con que se muestra un caso: la base es "Base".
 inline std::string NombreMostrado(const std::string& nombreCaso) {

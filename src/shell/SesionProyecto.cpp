@@ -1,7 +1,9 @@
 #include "shell/SesionProyecto.h"
 
+#include "base/ErrorFichero.h"
 #include "calculation/CompletarProyecto.h"
 #include "entry/ProyectoNuevo.h"
+#include "outputs/bloques/DerivadosDeResultados.h"
 #include "shell/Certificador.h"
 #include "shell/OrdenesProyecto.h"
 
@@ -179,9 +181,22 @@ bool SesionProyecto::Anadir(const std::filesystem::path& ruta) {
   return true;
 }
 
+// Los resultados son una copia que el fichero lleva para otros programas: si falta un fichero de
+// límites se guarda sin ellos, que lo que ha tecleado el usuario va primero.
+DatosDerivados SesionProyecto::Resultados() const {
+  const auto casos = CasosCalculados(gestor_);
+  if (casos.empty()) return {};
+  try {
+    return DerivadosDeResultados(casos, LeerDocumentosHE(ficheros_.Espacio().Datos()));
+  } catch (const ErrorFichero& error) {
+    mensajes_.Avisar("AVISO", std::string("Se guarda sin resultados. ") + error.what());
+    return {};
+  }
+}
+
 std::filesystem::path SesionProyecto::Guardar(const std::filesystem::path& ruta) {
   fichero_ = std::filesystem::absolute(
-      GuardarProyecto(gestor_, ruta.empty() ? fichero_ : ruta, {}, codificacion_));
+      GuardarProyecto(gestor_, ruta.empty() ? fichero_ : ruta, Resultados(), codificacion_));
   guardada_ = revision_;
   return fichero_;
 }

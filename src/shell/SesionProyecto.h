@@ -71,7 +71,8 @@ class SesionProyecto {
   /// Añade los casos de otro fichero, o lo abre si el proyecto no tiene datos coherentes.
   /// \throws ErrorFichero
   bool Anadir(const std::filesystem::path& ruta);
-  /// Guarda; sin ruta, en su fichero. \returns el fichero escrito \throws ErrorFichero
+  /// Guarda, con los resultados de los casos que están calculados; sin ruta, en su fichero.
+  /// \returns el fichero escrito \throws ErrorFichero
   std::filesystem::path Guardar(const std::filesystem::path& ruta = {});
   /// Duplica el caso activo en una mejora, que queda activa. \returns si ha cabido
   bool DuplicarCaso();
@@ -96,6 +97,7 @@ class SesionProyecto {
   bool EditarProyecto(std::string_view nombre, const CambioProyecto& cambio, bool quitarResultados);
   void Apuntar(Instantanea&& foto);
   void OlvidarHistoria();
+  DatosDerivados Resultados() const;
   void QuitarResultados(std::string_view nombre);
 
   FicherosPrograma& ficheros_;

@@ -3,7 +3,9 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QMessageBox>
+#include <QTabWidget>
 #include <QTimer>
+#include <functional>
 
 #include "base/FicheroSeguro.h"
 
@@ -36,6 +38,83 @@ TEST_F(VentanaTest, LoQueImpideCalcularNoDejaPasar) {
   EXPECT_EQ(mensajes.recibidos[0].titulo, "Valor incorrecto");
   EsperarVivo();
   EXPECT_EQ(ventana->Panel().Calculo().EnQue(), CalculoVivo::Estado::Rechazado);
+}
+
+// Cada motivo por el que no se calcula devuelve a "Titulo" y su enlace lleva a donde se corrige.
+TEST_F(VentanaTest, CadaMotivoLlevaADondeSeCorrige) {
+  struct Motivo {
+    const char* ejemplo;
+    std::function<void(Edificio&)> estropear;
+    Destino destino;
+    const char* pestana;
+    const char* campo;  // el que queda con el foco
+  };
+  const char* casa = "vivienda_unifamiliar_D3.xml";
+  const auto recinto = [](void (*cambiar)(Recinto&)) {
+    return [cambiar](Edificio& e) { cambiar(e.GetRecinto(0)); };
+  };
+  const auto general = [](void (*cambiar)(DatosGenerales&)) {
+    return [cambiar](Edificio& e) {
+      DatosGenerales g = e.GetDatosGenerales();
+      cambiar(g);
+      e.SetDatosGenerales(g);
+    };
+  };
+  const std::vector<Motivo> motivos = {
+      {casa, recinto([](Recinto& r) { r.Suelo_al_terreno_m2 = {}; }), Destino::Edificio, "Suelos",
+       nullptr},
+      {casa, recinto([](Recinto& r) { r.Suelo_al_terreno_m2[0] = 900; }), Destino::Edificio,
+       "Suelos", nullptr},
+      {casa, recinto([](Recinto& r) { r.Suelo_habitable_m2 = 0; }), Destino::Global, "Uso",
+       "Suelo_habitable_m2"},
+      {casa, recinto([](Recinto& r) { r.Volumen_total_m3 = 1; }), Destino::Global, "Uso",
+       "Volumen_total_m3"},
+      {casa, general([](DatosGenerales& g) { g.perfiles.tabla = {}; }), Destino::Global, "Uso",
+       "PerfilUso"},
+      {casa, [](Edificio& e) { e.GetSistema(0).instalaciones[0].NEquipos = 0; },
+       Destino::Instalaciones, "", nullptr},
+      {casa, [](Edificio& e) { e.BorrarSistema(0); }, Destino::Instalaciones, "", nullptr},
+      {casa, [](Edificio& e) { e.GetHuecos(0).Tipo_de_hueco = kEscaparate; }, Destino::Edificio,
+       "Huecos", nullptr},
+      {casa, [](Edificio& e) { e.GetComposicion(ranura::MuroExt1).U = 0; }, Destino::Edificio,
+       "Muros", "MuroExt[1]/U_Muro_ext_W_m2K"},
+      {casa,
+       [](Edificio& e) {
+         e.GetRecinto(0).Muro_otro_local_ext_m2[1] = 9;
+         e.GetComposicion(ranura::MuroExt7).U = 0;
+       },
+       Destino::Edificio, "Muros", "Muro_otro[2]/U_Muro_otro_local_ext_W_m2K"},
+      {"oficina_VRV_B4.xml",
+       [](Edificio& e) {
+         DatosGenerales g = e.GetDatosGenerales();
+         g.ManejoVentilacion = "TomaUT";
+         e.SetDatosGenerales(g);
+         for (std::size_t i = 0; i < e.NumeroSistemas(); ++i)
+           e.GetSistema(i).instalaciones[0].Emisor = "Fancoil + Sist.Vent.";
+       },
+       Destino::Instalaciones, "", nullptr},
+  };
+  for (const Motivo& motivo : motivos) {
+    SCOPED_TRACE(std::string(motivo.pestana) + " " + (motivo.campo ? motivo.campo : ""));
+    ASSERT_TRUE(ventana->Abrir(Ejemplo(motivo.ejemplo)));
+    mensajes.recibidos.clear();
+    sesion.Editar("estropear", motivo.estropear);
+    emit ventana->Contexto().Editado();
+    ventana->Mostrar(Destino::Certificacion);
+    EXPECT_EQ(ventana->Mostrada(), Destino::Titulo);
+    ASSERT_FALSE(mensajes.recibidos.empty());
+    Activar();
+    emit ventana->findChild<QLabel*>("falta")->linkActivated("#");
+    ASSERT_EQ(ventana->Mostrada(), motivo.destino);
+    if (auto* pestanas = ventana->PaginaDe(motivo.destino)->findChild<QTabWidget*>()) {
+      EXPECT_EQ(pestanas->tabText(pestanas->currentIndex()), motivo.pestana);
+    }
+    if (motivo.campo != nullptr) {
+      ASSERT_NE(QApplication::focusWidget(), nullptr);
+      EXPECT_EQ(QApplication::focusWidget()->objectName(), motivo.campo);
+    }
+    sesion.Deshacer();
+  }
 }
 
 TEST_F(VentanaTest, LaCalificacionSigueALasEdiciones) {

@@ -24,6 +24,8 @@ class BuscadorMunicipio : public QObject {
   BuscadorMunicipio(QFormLayout* formulario, Catalogo catalogo, QWidget* pagina);
   /// Enseña el municipio del caso.
   void Poner(const QString& provincia, const QString& municipio);
+  QComboBox* EditorProvincia() const { return provincia_; }
+  QLineEdit* EditorMunicipio() const { return municipio_; }
 
  signals:
   void Elegido(const QString& provincia, const QString& municipio);

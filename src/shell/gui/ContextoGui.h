@@ -41,16 +41,16 @@ class ContextoGui : public QObject {
               bool recalcula = true);
   /// Edita el proyecto entero y lo anuncia.
   bool EditarProyecto(const QString& nombre, const SesionProyecto::CambioProyecto& cambio);
-  /// Lo que impide un cálculo lleva a una página y, dentro de ella, a otra.
-  void IrA(PaginaProyecto pagina) { emit Ir(pagina); }
+  /// Lleva a donde se corrige lo que impide un cálculo.
+  void IrA(const MensajePrevio& motivo) { emit Ir(motivo); }
 
  signals:
   /// El caso activo ha cambiado por una edición, al deshacerla o al rehacerla.
   void Editado();
   /// El proyecto, sus casos o el caso activo son otros.
   void ProyectoCambiado();
-  /// Hay que enseñar una página.
-  void Ir(novex::PaginaProyecto pagina);
+  /// Hay que enseñar dónde se corrige algo.
+  void Ir(const novex::MensajePrevio& motivo);
 
  private:
   SesionProyecto& sesion_;

@@ -202,8 +202,14 @@ std::string Enlaces::Leer(const Enlace& enlace, LectorCampos& lector) const {
   return lector.Valor(enlace.direccion).value_or("");
 }
 
+void Enlaces::Propio(const std::string& direccion, QWidget* editor, const QString& ayuda) {
+  if (editor->toolTip().isEmpty()) editor->setToolTip(ayuda);
+  propios_.emplace_back(direccion, editor);
+}
+
 void Enlaces::Vaciar() {
   enlaces_.clear();
+  propios_.clear();
 }
 
 void Enlaces::Refrescar() {
@@ -226,12 +232,15 @@ std::vector<std::string> Enlaces::Direcciones() const {
   for (const Enlace& enlace : enlaces_)
     if (!enlace.opciones.leer || BuscarDatosCampo(enlace.direccion))
       direcciones.push_back(enlace.direccion);
+  for (const auto& propio : propios_) direcciones.push_back(propio.first);
   return direcciones;
 }
 
 QWidget* Enlaces::Editor(const std::string& direccion) const {
   for (const Enlace& enlace : enlaces_)
     if (enlace.direccion == direccion) return enlace.editor;
+  for (const auto& [suya, editor] : propios_)
+    if (suya == direccion) return editor;
   return nullptr;
 }
 

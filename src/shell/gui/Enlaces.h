@@ -53,6 +53,10 @@ class Enlaces : public QObject {
   QLineEdit* Celda(const std::string& direccion, const OpcionesCampo& opciones,
                    QLabel* avisos = nullptr);
 
+  /// Apunta un editor que guarda por una regla de su página, para que conste que el campo lo tiene.
+  /// \param ayuda la emergente, si el editor no tiene la suya
+  void Propio(const std::string& direccion, QWidget* editor, const QString& ayuda);
+
   /// Quita los editores: la página los va a hacer de nuevo.
   void Vaciar();
   /// Pone en los editores lo que tiene el caso activo. Un editor que se está tecleando se respeta.
@@ -81,6 +85,7 @@ class Enlaces : public QObject {
   ContextoGui& contexto_;
   QWidget* pagina_;
   std::vector<Enlace> enlaces_;
+  std::vector<std::pair<std::string, QWidget*>> propios_;
 };
 
 }  // namespace novex::gui

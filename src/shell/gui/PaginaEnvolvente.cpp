@@ -160,6 +160,16 @@ void PaginaEnvolvente::Refrescar() {
   EnsenarSeccion(ficha->RanuraElegida());
 }
 
+void PaginaEnvolvente::Senalar(const MensajePrevio& motivo) {
+  if (!motivo.ranura) return Pagina::Senalar(motivo);
+  for (std::size_t i = 0; i < fichas_.size(); ++i) {
+    const std::string direccion = DireccionU(fichas_[i]->Clase(), *motivo.ranura);
+    if (direccion.empty()) continue;
+    clases_->setCurrentRow(static_cast<int>(i));
+    Pagina::Senalar({.texto = {}, .pagina = motivo.pagina, .campo = direccion, .ranura = {}});
+  }
+}
+
 void PaginaEnvolvente::Elegir(std::size_t ranura) {
   try {
     TFMuros(contexto_, ranura, this).exec();

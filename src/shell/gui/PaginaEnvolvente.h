@@ -20,6 +20,8 @@ class PaginaEnvolvente : public Pagina {
  public:
   PaginaEnvolvente(ContextoGui& contexto, PaginaOpacos pagina, QWidget* padre);
   void Refrescar() override;
+  /// Enseña la clase del elemento, con el foco en su U.
+  void Senalar(const MensajePrevio& motivo) override;
 
  private:
   QWidget* Color();

@@ -3,6 +3,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "shell/gui/TextoQt.h"
+
 namespace novex::gui {
 
 PaginaPestanas::PaginaPestanas(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, padre) {
@@ -26,6 +28,14 @@ void PaginaPestanas::Anadir(Pagina* pagina, const QString& titulo) {
 void PaginaPestanas::Refrescar() {
   const auto cual = static_cast<std::size_t>(pestanas_->currentIndex());
   if (cual < paginas_.size()) paginas_[cual]->Refrescar();
+}
+
+void PaginaPestanas::Senalar(const MensajePrevio& motivo) {
+  for (std::size_t i = 0; !motivo.campo.empty() && i < paginas_.size(); ++i)
+    if (paginas_[i]->findChild<QWidget*>(Q(motivo.campo)) != nullptr)
+      pestanas_->setCurrentIndex(static_cast<int>(i));
+  const auto cual = static_cast<std::size_t>(pestanas_->currentIndex());
+  if (cual < paginas_.size()) paginas_[cual]->Senalar(motivo);
 }
 
 void PaginaPestanas::Mostrar(const QString& titulo) {

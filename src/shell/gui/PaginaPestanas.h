@@ -15,6 +15,8 @@ class PaginaPestanas : public Pagina {
   explicit PaginaPestanas(ContextoGui& contexto, QWidget* padre = nullptr);
   void Anadir(Pagina* pagina, const QString& titulo);
   void Refrescar() override;
+  /// Enseña la pestaña que tiene el campo.
+  void Senalar(const MensajePrevio& motivo) override;
   /// Enseña la de ese título, si está.
   void Mostrar(const QString& titulo);
   const std::vector<Pagina*>& Paginas() const { return paginas_; }

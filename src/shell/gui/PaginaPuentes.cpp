@@ -143,6 +143,12 @@ QWidget* PaginaPuentes::Origen() {
     if (i == 0) columna->addWidget(tipicos_);
   }
   columna->addWidget(existenciaFila_);
+  enlaces_.Propio("Def_Puentes_termicos", origen_->button(0),
+                  tr("Los valores salen de las soluciones de cada encuentro (DA DB-HE/3)"));
+  enlaces_.Propio("Def_Puentes_termicos_pilares", pilares_, tr("Solución de los pilares"));
+  enlaces_.Propio("Def_Puentes_termicos_ventanas", ventanas_,
+                  tr("Solución del contorno de los huecos"));
+  enlaces_.Propio("Existencia_pilares", existencia_, tr("Sin pilares su puente no cuenta"));
   connect(origen_, &QButtonGroup::idClicked, this, [this](int cual) {
     Cambiar(tr("Origen de los puentes térmicos"),
             [&](Pantalla& p) { p.origen = static_cast<OrigenPuentes>(cual); });
@@ -253,6 +259,8 @@ QLayout* PaginaPuentes::ModoLongitudes() {
     fila->addWidget(boton);
   }
   modo_->button(0)->setToolTip(tr("Salen de las áreas de la envolvente y la siguen"));
+  enlaces_.Propio("Longitud_puentes_termicos_modo", modo_->button(0),
+                  tr("Salen de las áreas de la envolvente y la siguen"));
   modo_->button(1)->setToolTip(tr("Se escriben; empiezan por las estimadas"));
   connect(modo_, &QButtonGroup::idClicked, this, [this](int cual) {
     contexto_.Editar(tr("Longitudes de los puentes"), [&](Edificio& e) {

@@ -81,6 +81,9 @@ QWidget* PaginaSitio::CajaLugar() {
                              contexto_.Sesion().Avisos());
             });
           });
+  enlaces_.Propio("Provincia", buscador_->EditorProvincia(), tr("Acota la lista de municipios"));
+  enlaces_.Propio("Municipio", buscador_->EditorMunicipio(),
+                  tr("Da la altitud, la latitud y la zona climática (DB-HE, anejo B)"));
   OpcionesCampo altitud =
       Opciones(tr("Altitud"), tr("Sobre el nivel del mar; cambia la zona climática"));
   altitud.poner = [this](Edificio& e, std::string_view texto, Mensajes& mensajes) {

@@ -17,16 +17,6 @@ namespace {
 
 constexpr const char* kVeredictos = "Verificación del DB-HE";
 
-std::vector<CasoCalculado> Calculados(const GestorEdifActivo& gestor) {
-  std::vector<CasoCalculado> casos;
-  for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i) {
-    const std::string nombre(GestorEdifActivo::NombreCasoUsuario(i));
-    const Edificio& e = *gestor.Caso(nombre);
-    if (e.GetCalculo()) casos.push_back({nombre, &e, e.GetCalculo().get(), {}});
-  }
-  return casos;
-}
-
 QTableWidget* TablaQt(const Tabla& tabla, QWidget* padre) {
   int columnas = static_cast<int>(tabla.cabeceras.size());
   for (const auto& fila : tabla.filas) columnas = std::max(columnas, static_cast<int>(fila.size()));
@@ -103,7 +93,7 @@ std::vector<Tabla> PaginaTablas::TablasDe(const std::string& nombre) const {
     return TablasVeredictos(VerificarHE(edificio, *caso.resultado,
                                         LeerDocumentosHE(contexto_.Ficheros().Espacio().Datos()))
                                 .veredictos);
-  return TablasDeNombre(caso, Calculados(contexto_.Sesion().Gestor()), nombre)
+  return TablasDeNombre(caso, CasosCalculados(contexto_.Sesion().Gestor()), nombre)
       .value_or(std::vector<Tabla>{});
 }
 

@@ -83,7 +83,8 @@ PanelVivo::PanelVivo(ContextoGui& contexto, QWidget* padre)
   motivo_->setTextFormat(Qt::RichText);
   columna->addWidget(motivo_);
   connect(motivo_, &QLabel::linkActivated, this, [this] {
-    if (vivo_.Motivo()) contexto_.IrA(vivo_.Motivo()->pagina);
+    // Al salir de lo que se está tecleando el motivo puede ser ya otro.
+    if (const auto motivo = vivo_.Motivo()) contexto_.IrA(*motivo);
   });
   estado_ = new QLabel(this);
   estado_->setProperty("papel", "unidad");
@@ -122,6 +123,7 @@ void PanelVivo::PedirDeNuevo() {
 }
 
 void PanelVivo::Empezar() {
+  queCambia_ = Q(contexto_.Sesion().QueDeshace());
   vivo_.Empezar(contexto_.Sesion().Gestor());
   if (vivo_.EnQue() == CalculoVivo::Estado::Calculando) reloj_.start();
   Ensenar();
@@ -147,7 +149,10 @@ void PanelVivo::EnsenarCambio() {
   anadir(tr("refrigeración"), antes->demandaRefrigeracion, ahora->demandaRefrigeracion);
   anadir(tr("primaria"), antes->primaria, ahora->primaria);
   anadir(tr("emisiones"), antes->emisiones, ahora->emisiones);
-  if (!lineas.isEmpty()) cambio_->setText(tr("Último cambio: ") + lineas.join(", "));
+  if (!lineas.isEmpty())
+    cambio_->setText(
+        (queCambia_.isEmpty() ? tr("Último cambio") : "<b>" + queCambia_.toHtmlEscaped() + "</b>") +
+        ": " + lineas.join(", "));
 }
 
 void PanelVivo::Ensenar() {

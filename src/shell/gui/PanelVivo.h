@@ -39,6 +39,7 @@ class PanelVivo : public QWidget {
   ContextoGui& contexto_;
   CalculoVivo vivo_;
   QTimer espera_, reloj_;
+  QString queCambia_;  ///< la edición que se está calculando
   QCheckBox* activo_;
   QWidget* cuerpo_;
   QLabel *letraPrimaria_, *letraEmisiones_, *primaria_, *emisiones_;

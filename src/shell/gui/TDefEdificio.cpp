@@ -11,6 +11,25 @@
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
+namespace {
+
+// La pestaña en que se corrige lo que dice un mensaje previo.
+QString PestanaDe(PaginaProyecto pagina) {
+  switch (pagina) {
+    case PaginaProyecto::Muros:
+      return "Muros";
+    case PaginaProyecto::Cubiertas:
+      return "Cubiertas";
+    case PaginaProyecto::Suelos:
+      return "Suelos";
+    case PaginaProyecto::Huecos:
+      return "Huecos";
+    default:
+      return {};
+  }
+}
+
+}  // namespace
 
 TDefEdificio::TDefEdificio(ContextoGui& contexto, QWidget* padre)
     : PaginaPestanas(contexto, padre) {
@@ -33,19 +52,9 @@ void TDefEdificio::Refrescar() {
   sumas_->setText(Q(TextoResumen(ResumirEnvolvente(contexto_.Caso()))));
 }
 
-QString PestanaDe(PaginaProyecto pagina) {
-  switch (pagina) {
-    case PaginaProyecto::Muros:
-      return "Muros";
-    case PaginaProyecto::Cubiertas:
-      return "Cubiertas";
-    case PaginaProyecto::Suelos:
-      return "Suelos";
-    case PaginaProyecto::Huecos:
-      return "Huecos";
-    default:
-      return {};
-  }
+void TDefEdificio::Senalar(const MensajePrevio& motivo) {
+  Mostrar(PestanaDe(motivo.pagina));
+  PaginaPestanas::Senalar(motivo);
 }
 
 }  // namespace novex::gui

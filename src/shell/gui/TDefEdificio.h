@@ -11,12 +11,10 @@ class TDefEdificio : public PaginaPestanas {
  public:
   explicit TDefEdificio(ContextoGui& contexto, QWidget* padre = nullptr);
   void Refrescar() override;
+  void Senalar(const MensajePrevio& motivo) override;
 
  private:
   QLabel* sumas_;
 };
-
-/// La pestaña en que se corrige lo que dice un mensaje previo; vacía si no es de la envolvente.
-QString PestanaDe(PaginaProyecto pagina);
 
 }  // namespace novex::gui

@@ -173,6 +173,8 @@ QWidget* TFDefinicion::ParteMejora() {
   cajas->AnadirDerecha(
       CajaOpciones(plazo_, kTituloPlazo, kPlazosMejora,
                    [](Edificio& e, int posicion) { PonerPlazoMejora(e, posicion); }));
+  enlaces_.Propio("Coste", coste_->button(0), tr("Sale en el certificado, sin IVA"));
+  enlaces_.Propio("PlazoAmortizacion", plazo_->button(0), tr("En años; sale en el certificado"));
   cajas->AnadirDerecha(CajaCondiciones());
   return cajas;
 }

@@ -6,6 +6,7 @@
 #include <QDockWidget>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
@@ -14,6 +15,7 @@
 #include "base/ErrorFichero.h"
 #include "base/NumeroTexto.h"
 #include "files/ErroresXml.h"
+#include "shell/LanzadorExterno.h"
 #include "shell/gui/DialogoExpres.h"
 #include "shell/gui/PaginaAdministrativa.h"
 #include "shell/gui/PaginaHorarios.h"
@@ -79,6 +81,7 @@ void TForm1::CrearOrdenes() {
   barra->setObjectName("ordenes");
   barra->setMovable(false);
   barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  barra->installEventFilter(this);
   Orden(barra, "nuevo", tr("Nuevo"), tr("Proyecto nuevo, en el mismo sitio"), QKeySequence::New,
         &TForm1::Nuevo);
   Orden(barra, "abrir", tr("Abrir"), tr("Abre un proyecto"), QKeySequence::Open,
@@ -98,6 +101,9 @@ void TForm1::CrearOrdenes() {
   rehacer_ = Orden(barra, "rehacer", tr("Rehacer"), tr("Vuelve a hacer lo deshecho"),
                    QKeySequence::Redo, &TForm1::Rehacer);
   barra->addSeparator();
+  Orden(barra, "inspeccion", tr("Inspección"),
+        tr("Abre el programa del fichero de inspección de la comunidad"), {},
+        &TForm1::AbrirInspeccion);
   Orden(barra, "acerca", tr("Acerca de"), tr("Qué es este programa"), QKeySequence::HelpContents,
         &TForm1::Acerca);
 }
@@ -128,10 +134,9 @@ void TForm1::CrearPaginas() {
   global->Anadir(new PaginaUso(contexto_), "Uso");
   global->Anadir(new PaginaHorarios(contexto_), "Horarios");
   global->Anadir(new PaginaAdministrativa(contexto_), "Datos administrativos");
-  edificio_ = new TDefEdificio(contexto_);
   paginas_ = {titulo_,
               global,
-              edificio_,
+              new TDefEdificio(contexto_),
               new TTEquipos(contexto_),
               new PaginaTablas(contexto_, Destino::Certificacion),
               new PaginaTablas(contexto_, Destino::Comparacion),
@@ -163,9 +168,10 @@ void TForm1::CrearPaginas() {
   resumen_ = new QLabel(this);
   falta_ = new QLabel(this);
   falta_->setTextFormat(Qt::RichText);
+  falta_->setObjectName("falta");
   connect(falta_, &QLabel::linkActivated, this, [this] {
     const auto motivos = TodasLasComprobaciones(contexto_.Caso());
-    if (!motivos.empty()) IrA(motivos.back().pagina);
+    if (!motivos.empty()) IrA(motivos.back());
   });
   statusBar()->addWidget(resumen_, 1);
   statusBar()->addPermanentWidget(falta_);
@@ -194,12 +200,12 @@ void TForm1::Mostrar(Destino destino) {
   PaginaDe(destino)->Refrescar();
 }
 
-void TForm1::IrA(PaginaProyecto pagina) {
-  if (pagina == PaginaProyecto::Instalaciones) return Mostrar(Destino::Instalaciones);
-  const QString pestana = PestanaDe(pagina);
-  if (pestana.isEmpty()) return Mostrar(Destino::Global);
-  Mostrar(Destino::Edificio);
-  edificio_->Mostrar(pestana);
+void TForm1::IrA(const MensajePrevio& motivo) {
+  Destino destino = Destino::Edificio;
+  if (motivo.pagina == PaginaProyecto::Instalaciones) destino = Destino::Instalaciones;
+  if (motivo.pagina == PaginaProyecto::Global) destino = Destino::Global;
+  Mostrar(destino);
+  PaginaDe(destino)->Senalar(motivo);
 }
 
 void TForm1::AlEditar() {
@@ -388,7 +394,12 @@ void TForm1::Anadir() {
 }
 
 void TForm1::Duplicar() {
-  contexto_.Sesion().DuplicarCaso();
+  if (QWidget* foco = QApplication::focusWidget()) foco->clearFocus();
+  if (!contexto_.Sesion().DuplicarCaso()) {
+    const auto motivos = MensajesPrevios(contexto_.Caso());
+    if (!motivos.empty()) IrA(motivos.back());
+    return;
+  }
   emit contexto_.ProyectoCambiado();
 }
 
@@ -417,6 +428,22 @@ void TForm1::Acerca() {
          "<p><b>\t- Principios básicos de Novex </b><br>Simulación hora a hora de la demanda y de "
          "los equipos, con el edificio como una sola zona térmica y los equipos tomados en su "
          "conjunto.</p>"));
+}
+
+void TForm1::AbrirInspeccion() {
+  LanzarExterno(contexto_.Ficheros().Espacio(), programaExterno::kInspeccion, {}, mensajes_);
+}
+
+// La propia barra también abre el programa de inspección, si está: sin él, pinchar al lado de un
+// botón no merece un aviso.
+bool TForm1::eventFilter(QObject* objeto, QEvent* evento) {
+  if (evento->type() == QEvent::MouseButtonPress &&
+      static_cast<QMouseEvent*>(evento)->button() == Qt::LeftButton &&
+      HayExterno(contexto_.Ficheros().Espacio(), programaExterno::kInspeccion)) {
+    AbrirInspeccion();
+    return true;
+  }
+  return QMainWindow::eventFilter(objeto, evento);
 }
 
 void TForm1::Recordar(const std::filesystem::path& ruta) {

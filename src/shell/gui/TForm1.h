@@ -21,7 +21,6 @@ namespace novex::gui {
 inline constexpr int kXmlErroneo = 255;
 
 class PaginaTitulo;
-class TDefEdificio;
 
 /// La ventana principal: órdenes, tira de pestañas, selector de casos, páginas y calificación en
 /// vivo.
@@ -45,6 +44,7 @@ class TForm1 : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* evento) override;
+  bool eventFilter(QObject* objeto, QEvent* evento) override;
 
  private:
   void CrearOrdenes();
@@ -62,6 +62,7 @@ class TForm1 : public QMainWindow {
   void Deshacer();
   void Rehacer();
   void Acerca();
+  void AbrirInspeccion();
 
   bool PasaAResultados();
   /// \returns falso si el usuario cancela
@@ -75,7 +76,7 @@ class TForm1 : public QMainWindow {
   void PonerCasos();
   void PonerEstado();
   void GuardarCopia();
-  void IrA(PaginaProyecto pagina);
+  void IrA(const MensajePrevio& motivo);
 
   ContextoGui contexto_;
   MensajesVentana& mensajes_;
@@ -88,7 +89,6 @@ class TForm1 : public QMainWindow {
   QLabel *resumen_, *falta_;
   QAction *deshacer_, *rehacer_, *duplicar_;
   PaginaTitulo* titulo_;
-  TDefEdificio* edificio_;
   std::array<Pagina*, 8> paginas_{};
   Destino mostrada_ = Destino::Titulo;
 };
