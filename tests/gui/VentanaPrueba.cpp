@@ -1,10 +1,12 @@
 #include "gui/VentanaPrueba.h"
 
+#include <QAction>
 #include <algorithm>
 
 namespace novex::gui::pruebas {
 
-VentanaTest::VentanaTest() {
+VentanaTest::VentanaTest(const std::filesystem::path& programa)
+    : ficheros(EspacioTrabajo{programa}) {
   ventana = std::make_unique<TForm1>(sesion, mensajes, carpeta / "copias");
   ventana->resize(1366, 768);
   ventana->show();
@@ -28,6 +30,12 @@ void VentanaTest::Teclear(QLineEdit* linea, const QString& texto) {
   linea->selectAll();
   QTest::keyClicks(linea, texto);
   QTest::keyClick(linea, Qt::Key_Return);
+}
+
+void VentanaTest::Ordenar(const QString& texto) {
+  for (QAction* orden : ventana->findChildren<QAction*>())
+    if (orden->text() == texto) return orden->trigger();
+  ADD_FAILURE() << "no hay orden " << texto.toStdString();
 }
 
 std::filesystem::path Ejemplo(const std::string& nombre) {

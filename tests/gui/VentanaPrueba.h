@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QTest>
+#include <QTimer>
+#include <functional>
 #include <memory>
 
 #include "files/CarpetaTemporal.h"
@@ -28,7 +30,8 @@ class MensajesCallados : public MensajesVentana {
 /// La ventana con un proyecto nuevo, sin pantalla.
 class VentanaTest : public testing::Test {
  protected:
-  VentanaTest();
+  /// \param programa la carpeta de programa
+  explicit VentanaTest(const std::filesystem::path& programa = NOVEX_PROGRAMA_PRUEBAS);
   /// Activa la ventana: solo una activa da y quita el foco.
   void Activar();
   /// Espera a que acabe la calificación en vivo.
@@ -41,9 +44,26 @@ class VentanaTest : public testing::Test {
   /// Teclea un valor en un editor y sale de él.
   void Teclear(QLineEdit* linea, const QString& texto);
 
+  /// Hace algo que abre un diálogo y lo que haya que hacer en él, que si sigue abierto se cierra.
+  template <class Dialogo>
+  void ConDialogo(const std::function<void()>& abrir, const std::function<void(Dialogo&)>& hacer) {
+    bool abierto = false;
+    QTimer::singleShot(0, [&] {
+      auto* dialogo = qobject_cast<Dialogo*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialogo, nullptr);
+      abierto = true;
+      hacer(*dialogo);
+      if (dialogo->isVisible()) dialogo->reject();
+    });
+    abrir();
+    EXPECT_TRUE(abierto);
+  }
+  /// Da una orden de la barra por su texto.
+  void Ordenar(const QString& texto);
+
   MensajesCallados mensajes;
   novex::pruebas::CarpetaTemporal carpeta;
-  FicherosPrograma ficheros{EspacioTrabajo{NOVEX_PROGRAMA_PRUEBAS}};
+  FicherosPrograma ficheros;
   SesionProyecto sesion{ficheros, mensajes};
   std::unique_ptr<TForm1> ventana;
 };
