@@ -291,6 +291,8 @@ std::string_view NombrePagina(PaginaProyecto pagina) {
       return "Edificio, suelos";
     case Pagina::Huecos:
       return "Edificio, huecos";
+    case Pagina::CiudadEntorno:
+      return "Edificio, ciudad y entorno";
     case Pagina::Instalaciones:
       return "Instalaciones";
   }

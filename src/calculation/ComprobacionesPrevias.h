@@ -12,7 +12,15 @@
 namespace novex {
 
 /// Página del proyecto en que se corrige lo que dice un mensaje.
-enum class PaginaProyecto { Global, Muros, Cubiertas, Suelos, Huecos, Instalaciones };
+enum class PaginaProyecto {
+  Global,
+  Muros,
+  Cubiertas,
+  Suelos,
+  Huecos,
+  CiudadEntorno,
+  Instalaciones
+};
 
 /// Nombre de una página tal como lo lee el usuario.
 std::string_view NombrePagina(PaginaProyecto pagina);

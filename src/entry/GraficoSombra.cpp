@@ -60,4 +60,17 @@ GraficoSombra CalcularGraficoSombra(Sector fachada, const Edificio& edificio) {
                                AlturaDeEdificio(edificio).Total());
 }
 
+std::string NotaGraficoSombra(const GraficoSombra& grafico, const Edificio& edificio) {
+  const bool haySombra = std::any_of(grafico.begin(), grafico.end(), [](const SerieSombra& serie) {
+    return std::any_of(serie.porcentaje.begin(), serie.porcentaje.end(),
+                       [](float porcentaje) { return porcentaje > 0.0F; });
+  });
+  if (haySombra)
+    return "Parte de la fachada que tapan los obstáculos lejanos en el día representativo de cada "
+           "mes.";
+  if (AlturaDeEdificio(edificio).Total() <= 0.0F)
+    return "Sin volumen ni suelo habitable no se conoce la altura del edificio.";
+  return "Ningún obstáculo lejano da sombra a esta fachada.";
+}
+
 }  // namespace novex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 #include "model/Edificio.h"
 
@@ -25,5 +26,8 @@ GraficoSombra CalcularGraficoSombra(Sector fachada, const ObstaculosRemotos& obs
 
 /// La gráfica de un sector de un caso, con su sitio y su altura.
 GraficoSombra CalcularGraficoSombra(Sector fachada, const Edificio& edificio);
+
+/// Lo que se lee bajo la gráfica: qué es o, si no hay sombra, por qué.
+std::string NotaGraficoSombra(const GraficoSombra& grafico, const Edificio& edificio);
 
 }  // namespace novex

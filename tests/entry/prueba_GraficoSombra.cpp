@@ -52,6 +52,13 @@ TEST(GraficoSombra, TomaElSitioYLaAlturaDelCaso) {
   e.SetObstaculosRemotos(Obstaculos());
   e.GetRecinto(0).Suelo_al_terreno_m2[0] = 50;  // 100 m2 útiles en dos plantas de 3 m
   EXPECT_NEAR(CalcularGraficoSombra(sur, e)[kDiciembre].porcentaje[12], 87.5, 0.5);
+  const auto nota = [&](Sector fachada) {
+    return NotaGraficoSombra(CalcularGraficoSombra(fachada, e), e);
+  };
+  EXPECT_TRUE(nota(sur).starts_with("Parte de la fachada"));
+  EXPECT_TRUE(nota(oeste).starts_with("Ningún obstáculo"));
+  e.GetRecinto(0).Suelo_habitable_m2 = 0;
+  EXPECT_TRUE(nota(sur).starts_with("Sin volumen ni suelo habitable"));
 }
 
 }  // namespace

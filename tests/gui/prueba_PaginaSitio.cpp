@@ -1,8 +1,10 @@
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLineSeries>
 #include <QTabWidget>
 
 #include "gui/VentanaPrueba.h"
+#include "shell/gui/GraficaSombra.h"
 #include "shell/gui/RosaObstaculos.h"
 #include "shell/gui/TextoQt.h"
 
@@ -97,7 +99,7 @@ TEST_F(PaginaSitioTest, LaAltitudDaLaZonaHastaQueSeFija) {
   EXPECT_EQ(Lugar().ZonaClimatica, "B3");
 }
 
-TEST_F(PaginaSitioTest, ClimaVeranoYObstaculos) {
+TEST_F(PaginaSitioTest, ClimaYVerano) {
   Elegir("JuegoClima", Buscar<QComboBox>("JuegoClima")->findText("2022"));
   EXPECT_EQ(sesion.Caso().GetDatosGenerales().CodigoPostal, "-2022");
   Elegir("JuegoClima", 0);
@@ -105,10 +107,30 @@ TEST_F(PaginaSitioTest, ClimaVeranoYObstaculos) {
   Elegir("mesmin", 13);
   EXPECT_EQ(Lugar().mesmin, 13);
   EXPECT_FALSE(Lugar().EsVerano(7));
+}
+
+// Los obstáculos están con el edificio, y de una página se pasa a la otra.
+TEST_F(PaginaSitioTest, ElEntornoSeDefineConElEdificio) {
+  emit Buscar<QLabel>("irAEntorno")->linkActivated("#");
+  ASSERT_EQ(ventana->Mostrada(), Destino::Edificio);
+  auto* pestanas = ventana->PaginaDe(Destino::Edificio)->findChild<QTabWidget*>();
+  EXPECT_EQ(pestanas->tabText(pestanas->currentIndex()), "CiudadEntorno");
+  ventana->Contexto().Editar("suelo",
+                             [](Edificio& e) { e.GetRecinto(0).Suelo_al_terreno_m2[0] = 100; });
+  const auto* sombra = pestanas->findChild<GraficaSombra*>();
+  const auto mediodia = [&](int mes) {
+    return static_cast<QLineSeries*>(sombra->Grafica().series()[mes])->at(11).y();
+  };
+  EXPECT_EQ(mediodia(0), 0);
   Teclear(Buscar<QLineEdit>("Sur_Altura"), "12");
   Teclear(Buscar<QLineEdit>("Sur_Distancia"), "abc");  // vale 50 m
   EXPECT_EQ(sesion.Caso().GetObstaculosRemotos().Sur_Altura, 12);
   EXPECT_EQ(sesion.Caso().GetObstaculosRemotos().Sur_Distancia, 50);
+  EXPECT_EQ(mediodia(0), 0);  // a 50 m, 13°: en diciembre el sol está a 27°
+  Teclear(Buscar<QLineEdit>("Sur_Distancia"), "0");
+  EXPECT_EQ(mediodia(0), 100);  // pegado y más alto que la planta de 3 m
+  emit Buscar<QLabel>("lugar")->linkActivated("#");
+  EXPECT_EQ(ventana->Mostrada(), Destino::Global);
   EXPECT_NEAR(ElevacionObstaculo(12, 12), 45, 1e-9);
   EXPECT_EQ(ElevacionObstaculo(0, 0), 0);
   EXPECT_NEAR(ElevacionObstaculo(3, 0), 90, 1e-9);

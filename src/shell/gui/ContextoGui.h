@@ -43,6 +43,10 @@ class ContextoGui : public QObject {
   bool EditarProyecto(const QString& nombre, const SesionProyecto::CambioProyecto& cambio);
   /// Lleva a donde se corrige lo que impide un cálculo.
   void IrA(const MensajePrevio& motivo) { emit Ir(motivo); }
+  /// Lleva a una página y, en ella, a un campo.
+  void IrA(PaginaProyecto pagina, std::string_view campo = {}) {
+    emit Ir({.texto = {}, .pagina = pagina, .campo = campo, .ranura = {}});
+  }
 
  signals:
   /// El caso activo ha cambiado por una edición, al deshacerla o al rehacerla.

@@ -1,117 +1,33 @@
 #include "shell/gui/DialogoSombra.h"
 
-#include <QChartView>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
-#include <QLineSeries>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <QValueAxis>
-
-#include "entry/GraficoSombra.h"
-#include "shell/gui/DialogoColumna.h"
-#include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
-namespace {
-
-// Las que tienen obstáculos: al norte no hay sol que tapar.
-constexpr std::array<Sector, 5> kFachadas = {sur, sur_este, este, oeste, sur_oeste};
-constexpr std::array<const char*, 12> kMeses = {"Enero",      "Febrero", "Marzo",     "Abril",
-                                                "Mayo",       "Junio",   "Julio",     "Agosto",
-                                                "Septiembre", "Octubre", "Noviembre", "Diciembre"};
-// Del invierno al verano, de frío a cálido; se distinguen en claro y en oscuro.
-constexpr std::array<const char*, kMesesGraficoSombra.size()> kColores = {
-    "#3465c0", "#2f8fc9", "#28a99e", "#6aab3d", "#c2a51e", "#e07f1f", "#cc4a3a"};
-
-}  // namespace
 
 DialogoSombra::DialogoSombra(ContextoGui& contexto, Sector fachada, QWidget* padre)
-    : QDialog(padre), contexto_(contexto), grafica_(nullptr) {
+    : QDialog(padre) {
   setWindowTitle(tr("Porcentaje de sombra"));
+  resize(720, 480);
   auto* columna = new QVBoxLayout(this);
-  auto* fila = new QHBoxLayout;
-  auto* rotulo = new QLabel(tr("Orientación"), this);
-  fachada_ = new QComboBox(this);
-  for (const Sector sector : kFachadas) {
-    fachada_->addItem(NombreDeSector(sector), static_cast<int>(sector));
-    if (sector == fachada) fachada_->setCurrentIndex(fachada_->count() - 1);
-  }
-  rotulo->setBuddy(fachada_);
-  fila->addWidget(rotulo);
-  fila->addWidget(fachada_);
-  fila->addStretch(1);
-  columna->addLayout(fila);
-
-  auto* vista = new QChartView(this);
-  grafica_ = vista->chart();
-  vista->setRenderHint(QPainter::Antialiasing);
-  vista->setMinimumSize(640, 340);
-  columna->addWidget(vista, 1);
-  nota_ = new QLabel(this);
-  nota_->setProperty("papel", "nota");
-  nota_->setWordWrap(true);
-  columna->addWidget(nota_);
+  grafica_ = new GraficaSombra(contexto, fachada, this);
+  columna->addWidget(grafica_, 1);
+  auto* pie = new QHBoxLayout;
+  auto* donde = new QLabel(
+      tr("Los obstáculos lejanos se ponen en <a href=\"#\">Edificio › CiudadEntorno</a>."), this);
+  donde->setProperty("papel", "nota");
+  connect(donde, &QLabel::linkActivated, this, [this, &contexto] {
+    accept();
+    contexto.IrA(novex::PaginaProyecto::CiudadEntorno);
+  });
+  pie->addWidget(donde, 1);
   auto* botones = new QDialogButtonBox(this);
   botones->addButton(tr("Cerrar"), QDialogButtonBox::RejectRole);
-  columna->addWidget(botones);
+  pie->addWidget(botones);
+  columna->addLayout(pie);
   connect(botones, &QDialogButtonBox::rejected, this, &QDialog::reject);
-  connect(fachada_, &QComboBox::currentIndexChanged, this, &DialogoSombra::Refrescar);
-  CrearSeries();
-  Refrescar();
-}
-
-void DialogoSombra::CrearSeries() {
-  const auto eje = [this](Qt::AlignmentFlag lado, const QString& titulo, double desde, double hasta,
-                          int marcas) {
-    auto* e = new QValueAxis(grafica_);
-    e->setRange(desde, hasta);
-    e->setTickCount(marcas);
-    e->setLabelFormat("%d");
-    e->setTitleText(titulo);
-    e->setTitleBrush(palette().color(QPalette::Text));
-    e->setLabelsColor(palette().color(QPalette::Text));
-    e->setGridLineColor(palette().color(QPalette::Mid));
-    grafica_->addAxis(e, lado);
-    return e;
-  };
-  QValueAxis* horas = eje(Qt::AlignBottom, tr("Hora solar"), 1, 24, 2);
-  horas->setTickType(QValueAxis::TicksDynamic);
-  horas->setTickAnchor(2);
-  horas->setTickInterval(2);
-  QValueAxis* sombra = eje(Qt::AlignLeft, tr("Sombra, %"), 0, 100, 6);
-  for (std::size_t i = 0; i < kMesesGraficoSombra.size(); ++i) {
-    auto* serie = new QLineSeries(grafica_);
-    serie->setName(tr(kMeses[static_cast<std::size_t>(kMesesGraficoSombra[i] - 1)]));
-    serie->setPen(QPen(QColor(kColores[i]), 2));
-    grafica_->addSeries(serie);
-    serie->attachAxis(horas);
-    serie->attachAxis(sombra);
-  }
-  grafica_->setBackgroundBrush(palette().color(QPalette::Base));
-  grafica_->legend()->setLabelColor(palette().color(QPalette::Text));
-  grafica_->legend()->setAlignment(Qt::AlignRight);
-}
-
-void DialogoSombra::Refrescar() {
-  const auto fachada = static_cast<Sector>(fachada_->currentData().toInt());
-  const GraficoSombra datos = CalcularGraficoSombra(fachada, contexto_.Caso());
-  bool haySombra = false;
-  for (std::size_t i = 0; i < datos.size(); ++i) {
-    QList<QPointF> puntos;
-    for (int hora = 1; hora <= 24; ++hora) {
-      const float valor = datos[i].porcentaje[static_cast<std::size_t>(hora)];
-      haySombra = haySombra || valor > 0;
-      puntos.append(QPointF(hora, static_cast<double>(valor)));
-    }
-    static_cast<QLineSeries*>(grafica_->series()[static_cast<qsizetype>(i)])->replace(puntos);
-  }
-  nota_->setText(
-      haySombra
-          ? tr("Parte de la fachada que tapan los obstáculos lejanos en el día representativo "
-               "de cada mes.")
-          : tr("Ningún obstáculo lejano da sombra a esta fachada. Los obstáculos lejanos se "
-               "definen con la ciudad y el entorno."));
 }
 
 }  // namespace novex::gui

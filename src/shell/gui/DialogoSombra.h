@@ -1,31 +1,22 @@
 #pragma once
 
-#include <QChart>
-#include <QComboBox>
 #include <QDialog>
-#include <QLabel>
 
-#include "shell/gui/ContextoGui.h"
+#include "shell/gui/GraficaSombra.h"
 
 namespace novex::gui {
 
-/// Gráfica del porcentaje de sombra que los obstáculos lejanos dan a una fachada, por horas, de
-/// diciembre a junio.
+/// La sombra de los obstáculos lejanos, desde los huecos.
 class DialogoSombra : public QDialog {
   Q_OBJECT
 
  public:
+  /// \param fachada la que se enseña primero
   DialogoSombra(ContextoGui& contexto, Sector fachada, QWidget* padre);
-  const QChart& Grafica() const { return *grafica_; }
+  const QChart& Grafica() const { return grafica_->Grafica(); }
 
  private:
-  void CrearSeries();
-  void Refrescar();
-
-  ContextoGui& contexto_;
-  QChart* grafica_;
-  QComboBox* fachada_;
-  QLabel* nota_;
+  GraficaSombra* grafica_;
 };
 
 }  // namespace novex::gui

@@ -1,6 +1,5 @@
 #include "shell/gui/PaginaSitio.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -19,16 +18,6 @@ constexpr const char* kSi = "SI";
 constexpr std::array<const char*, 12> kMeses = {"enero",      "febrero", "marzo",     "abril",
                                                 "mayo",       "junio",   "julio",     "agosto",
                                                 "septiembre", "octubre", "noviembre", "diciembre"};
-
-struct Rumbo {
-  const char* campo;
-  const char* rotulo;
-};
-constexpr std::array<Rumbo, 5> kRumbos = {{{"Oeste", "Oeste"},
-                                           {"SurOeste", "Suroeste"},
-                                           {"Sur", "Sur"},
-                                           {"SurEste", "Sureste"},
-                                           {"Este", "Este"}}};
 
 // Los meses de verano en una frase; el primero y el último valen los dos.
 QString FraseVerano(const Localizacion& lugar) {
@@ -51,9 +40,9 @@ PaginaSitio::PaginaSitio(ContextoGui& contexto, QWidget* padre) : Pagina(context
   columna->setContentsMargins(20, 8, 20, 16);
   auto* cajas = new DosColumnas(this);
   cajas->AnadirIzquierda(CajaLugar());
-  cajas->AnadirIzquierda(CajaZona());
   cajas->AnadirIzquierda(CajaVerano());
-  cajas->AnadirDerecha(CajaObstaculos());
+  cajas->AnadirDerecha(CajaZona());
+  cajas->AnadirDerecha(CajaEntorno());
   columna->addWidget(cajas);
   columna->addStretch(1);
 }
@@ -162,46 +151,17 @@ QWidget* PaginaSitio::CajaVerano() {
   return caja;
 }
 
-QWidget* PaginaSitio::CajaObstaculos() {
-  auto* caja = new QGroupBox(tr("Obstáculos remotos"), this);
-  auto* columna = new QVBoxLayout(caja);
-  PonerMargenes(caja);
-  auto* rejilla = new QGridLayout;
-  rejilla->setHorizontalSpacing(12);
-  rejilla->addWidget(new QLabel(tr("Altura m"), caja), 0, 1);
-  rejilla->addWidget(new QLabel(tr("Distancia m"), caja), 0, 2);
-  auto* aviso = NuevaNota(caja, "aviso");
-  aviso->hide();
-  for (std::size_t i = 0; i < kRumbos.size(); ++i) {
-    const Rumbo& rumbo = kRumbos[i];
-    const int fila = static_cast<int>(i) + 1;
-    rejilla->addWidget(new QLabel(rumbo.rotulo, caja), fila, 0);
-    const std::string campo = rumbo.campo;
-    rejilla->addWidget(
-        enlaces_.Celda(campo + "_Altura",
-                       Opciones(tr("Obstáculo al %1, altura").arg(Q(rumbo.rotulo).toLower()),
-                                tr("Sobre el pie del edificio, m")),
-                       aviso),
-        fila, 1);
-    rejilla->addWidget(
-        enlaces_.Celda(campo + "_Distancia",
-                       Opciones(tr("Obstáculo al %1, distancia").arg(Q(rumbo.rotulo).toLower()),
-                                tr("Del edificio al obstáculo, m")),
-                       aviso),
-        fila, 2);
-  }
-  rejilla->setColumnStretch(3, 1);
-  columna->addLayout(rejilla);
-  columna->addWidget(aviso);
+QWidget* PaginaSitio::CajaEntorno() {
+  const auto [caja, filas] = NuevaCaja(tr("Obstáculos remotos"), this);
   rosa_ = new RosaObstaculos(caja);
-  rosa_->setMinimumHeight(250);
-  columna->addWidget(rosa_, 1);
-  auto* nota = NuevaNota(caja);
-  nota->setText(
-      tr("Edificios, montes o arbolado lejanos que quitan sol. El dibujo es el cielo: lo "
-         "gris es lo que tapan, y las líneas, el sol en invierno, en los equinoccios y "
-         "en verano."));
-  columna->addWidget(nota);
+  rosa_->setMinimumHeight(190);
+  filas->addRow(rosa_);
+  auto* donde = NotaCorta(caja);
+  donde->setObjectName("irAEntorno");
+  donde->setText(tr("Se ponen en <a href=\"#\">Edificio › CiudadEntorno</a>"));
+  connect(donde, &QLabel::linkActivated, this,
+          [this] { contexto_.IrA(novex::PaginaProyecto::CiudadEntorno); });
+  filas->addRow(donde);
   return caja;
 }
 

@@ -24,7 +24,7 @@ class PaginaSitio : public Pagina {
   QWidget* CajaZona();
   void FilaJuegoClima(QFormLayout* filas);
   QWidget* CajaVerano();
-  QWidget* CajaObstaculos();
+  QWidget* CajaEntorno();
   void RefrescarNotas();
   const CatalogoMunicipios& Municipios();
   const XMLNode& Capitales();

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "entry/ResumenEnvolvente.h"
+#include "shell/gui/PaginaCiudadEntorno.h"
 #include "shell/gui/PaginaCubiertas.h"
 #include "shell/gui/PaginaHuecos.h"
 #include "shell/gui/PaginaMuros.h"
@@ -24,9 +25,13 @@ QString PestanaDe(PaginaProyecto pagina) {
       return "Suelos";
     case PaginaProyecto::Huecos:
       return "Huecos";
-    default:
-      return {};
+    case PaginaProyecto::CiudadEntorno:
+      return "CiudadEntorno";
+    case PaginaProyecto::Global:
+    case PaginaProyecto::Instalaciones:
+      break;
   }
+  return {};
 }
 
 }  // namespace
@@ -44,6 +49,7 @@ TDefEdificio::TDefEdificio(ContextoGui& contexto, QWidget* padre)
   Anadir(new PaginaSuelos(contexto), "Suelos");
   Anadir(new PaginaHuecos(contexto), "Huecos");
   Anadir(new PaginaPuentes(contexto), "Puentes");
+  Anadir(new PaginaCiudadEntorno(contexto), "CiudadEntorno");
   layout()->addWidget(sumas_);
 }
 
