@@ -82,6 +82,28 @@ bool EsVertical(FamiliaCerramiento familia) {
          familia == FamiliaCerramiento::MurosTerreno;
 }
 
+Caras CarasDeRanura(std::size_t ranura) {
+  constexpr std::string_view kExterior = "Exterior", kInterior = "Interior", kSuelo = "Terreno",
+                             kEspacio = "Otro espacio";
+  const std::string_view clave = TablaEnvolvente::Clave(ranura);
+  switch (FamiliaDeRanura(ranura)) {
+    case FamiliaCerramiento::MurosTerreno:
+      return {kSuelo, kInterior};
+    case FamiliaCerramiento::ForjadosInteriorExterior:
+      return {kInterior, kExterior};
+    case FamiliaCerramiento::ForjadosInteriorTerreno:
+      return {kInterior, kSuelo};
+    case FamiliaCerramiento::ForjadosInteriorInterior:
+      // Bajo un suelo el otro espacio queda debajo, y sobre un techo, encima.
+      if (clave.starts_with("Suelo")) return {kInterior, kEspacio};
+      return {kEspacio, kInterior};
+    case FamiliaCerramiento::MurosInterior:
+      return {kEspacio, kInterior};
+    default:
+      return {clave.starts_with("TechoTerr") ? kSuelo : kExterior, kInterior};
+  }
+}
+
 std::string_view AplicacionDe(FamiliaCerramiento familia) {
   return EsVertical(familia) ? "M" : "F";
 }

@@ -44,6 +44,14 @@ std::string TextoPelicula(float coeficiente);
 
 /// ¿Es vertical el cerramiento? Lo son los muros; los forjados, las cubiertas y los suelos, no.
 bool EsVertical(FamiliaCerramiento familia);
+/// Lo que hay a cada lado de un cerramiento, en el orden de sus capas: en un muro de fuera adentro,
+/// en uno horizontal de arriba abajo.
+struct Caras {
+  std::string_view primera, ultima;
+  bool operator==(const Caras&) const = default;
+};
+/// Las caras de una posición de la envolvente. \throws std::out_of_range si no está entre 0 y 51
+Caras CarasDeRanura(std::size_t ranura);
 /// "M" en los muros, "F" en cubiertas y suelos.
 std::string_view AplicacionDe(FamiliaCerramiento familia);
 

@@ -51,6 +51,7 @@ TEST_F(BibliotecaTest, SeBuscaSeEligeYSePone) {
   QTest::keyClicks(buscar, "sate eps");
   ASSERT_GT(lista->rowCount(), 0);
   ASSERT_LT(lista->rowCount(), todas);
+  EXPECT_FALSE(dialogo.findChild<QPushButton*>("arriba")->isEnabled());  // sin sus vecinas
   for (int f = 0; f < lista->rowCount(); ++f)
     EXPECT_TRUE(lista->item(f, 0)->text().contains("SATE EPS", Qt::CaseInsensitive));
   const QString nombre = lista->item(0, 0)->text();
@@ -158,6 +159,8 @@ TEST_F(EditorTest, LasCapasSeOrdenanConBotonesTeclasYArrastrando) {
   EXPECT_EQ(lista->Elegida(), 1);
   QTest::keyClick(lista, Qt::Key_Down, Qt::AltModifier);
   EXPECT_EQ(Orden(), "CTE");
+  EXPECT_FALSE(editor->findChild<QPushButton*>("bajarCapa")->isEnabled());
+  EXPECT_TRUE(editor->findChild<QPushButton*>("subirCapa")->isEnabled());
   QTest::keyClick(lista, Qt::Key_Down, Qt::AltModifier);  // ya es la última
   EXPECT_EQ(Orden(), "CTE");
   const QRect segunda = lista->visualItemRect(lista->topLevelItem(1));
@@ -229,6 +232,11 @@ TEST_F(EditorTest, MaterialesYEspesoresNuevosSoloEnUnGrupo) {
   Pulsar(*editor, "nuevoEspesor");
   EXPECT_EQ(materiales->rowCount(), antes + 1);
   EXPECT_EQ(materiales->item(materiales->currentRow(), 1)->text(), "0.137");
+  // Lo que se encuentra en las fábricas de bloque no se borra por estar en otro grupo.
+  auto* buscar = editor->findChild<QLineEdit*>("buscarMaterial");
+  buscar->setText("BH convencional espesor 100");
+  ASSERT_GT(materiales->rowCount(), 0);
+  EXPECT_FALSE(editor->findChild<QPushButton*>("borrarMaterial")->isEnabled());
   editor->findChild<QComboBox*>("listas")->setCurrentIndex(1);
   grupos->setCurrentText("Sin inercia");
   Pulsar(*editor, "nuevoMaterial");

@@ -151,6 +151,21 @@ TEST_F(EnvolventeTest, CadaClaseTieneLosDatosDeSuElemento) {
   EXPECT_EQ(sesion.Caso().GetComposicion(ranura::MuroExt8).U, 1.2F);
 }
 
+// Se entra por la clase con más área, y teclear no cambia la que se mira.
+TEST_F(EnvolventeTest, LaClaseQueSeMiraNoCambiaAlTeclear) {
+  Ir("Cubiertas", "casa_antigua_E1.xml");
+  auto* clases = Visible<QListWidget>("clases");
+  ASSERT_EQ(clases->currentRow(), 1);  // la inclinada
+  ventana->Contexto().Editar("plana",
+                             [](Edificio& e) { e.GetRecinto(0).Cubierta_horiz_sol_m2[0] = 90; });
+  EXPECT_EQ(clases->currentRow(), 1);
+  Teclear(Buscar<QLineEdit>("CubiertaIncl[1]/Cubierta_incl_norte_m2"), "10");
+  EXPECT_EQ(clases->currentRow(), 1);
+  ventana->Mostrar(Destino::Titulo);
+  ventana->Mostrar(Destino::Edificio);
+  EXPECT_EQ(clases->currentRow(), 0);  // 90 m² de plana y 61,7 de faldones
+}
+
 TEST_F(EnvolventeTest, LosTresModosDeLosPuentes) {
   Ir("Puentes");
   const auto activar = [&](const char* lista, int cual) {

@@ -45,6 +45,21 @@ TEST(FamiliaCerramiento, CadaPosicionTieneLaSuya) {
   EXPECT_EQ(AplicacionDe(FamiliaCerramiento::ForjadosInteriorTerreno), "F");
 }
 
+// De arriba abajo, el interior queda sobre un suelo y bajo un techo aunque sean de una familia.
+TEST(FamiliaCerramiento, CadaPosicionTieneSusCaras) {
+  using namespace ranura;
+  EXPECT_EQ(CarasDeRanura(MuroExt1), (Caras{"Exterior", "Interior"}));
+  EXPECT_EQ(CarasDeRanura(MuroTerr2), (Caras{"Terreno", "Interior"}));
+  EXPECT_EQ(CarasDeRanura(TechoTerr1), (Caras{"Terreno", "Interior"}));
+  EXPECT_EQ(CarasDeRanura(TechoVent2), (Caras{"Exterior", "Interior"}));
+  for (const std::size_t techo : {TechoVent1, TechoOtro2, TechoInt3})
+    EXPECT_EQ(CarasDeRanura(techo), (Caras{"Otro espacio", "Interior"}));
+  for (const std::size_t suelo : {SueloVent1, SueloOtro3, SueloInt4})
+    EXPECT_EQ(CarasDeRanura(suelo), (Caras{"Interior", "Otro espacio"}));
+  EXPECT_EQ(CarasDeRanura(SueloExt1), (Caras{"Interior", "Exterior"}));
+  EXPECT_EQ(CarasDeRanura(SueloTerr3), (Caras{"Interior", "Terreno"}));
+}
+
 // U de soluciones del catálogo, como las da la hoja de hechos de la que salen sus capas.
 TEST(Cerramiento, LaUDeLasComposicionesEsLaDeSuHoja) {
   using F = FamiliaCerramiento;

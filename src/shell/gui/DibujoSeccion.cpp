@@ -51,32 +51,13 @@ double D(float x) {
 
 }  // namespace
 
-std::pair<QString, QString> CarasDe(FamiliaCerramiento familia) {
-  const QString exterior = QObject::tr("Exterior"), interior = QObject::tr("Interior"),
-                terreno = QObject::tr("Terreno"), local = QObject::tr("Otro espacio");
-  switch (familia) {
-    case FamiliaCerramiento::MurosTerreno:
-      return {terreno, interior};
-    case FamiliaCerramiento::MurosInterior:
-    case FamiliaCerramiento::ForjadosInteriorInterior:
-    case FamiliaCerramiento::Muebles:
-      return {local, interior};
-    case FamiliaCerramiento::ForjadosInteriorExterior:
-      return {interior, exterior};
-    case FamiliaCerramiento::ForjadosInteriorTerreno:
-      return {interior, terreno};
-    default:
-      return {exterior, interior};
-  }
-}
-
 DibujoSeccion::DibujoSeccion(QWidget* padre) : QWidget(padre) {
   setAccessibleName(tr("Sección del cerramiento a escala"));
 }
 
-void DibujoSeccion::Poner(const std::vector<Capa>& capas, FamiliaCerramiento familia, int elegida) {
+void DibujoSeccion::Poner(const std::vector<Capa>& capas, std::size_t ranura, int elegida) {
   capas_ = capas;
-  familia_ = familia;
+  ranura_ = ranura;
   elegida_ = elegida;
   update();
 }
@@ -89,7 +70,7 @@ double DibujoSeccion::Escala() const {
   double espesor = 0;
   for (const Capa& c : capas_) espesor += D(c.espesor);
   const QRectF m = Marco();
-  const double cabe = EsVertical(familia_) ? m.width() : m.height();
+  const double cabe = EsVertical(FamiliaDeRanura(ranura_)) ? m.width() : m.height();
   return espesor > 0 ? std::min(cabe / espesor, kEscalaMaxima) : 0;
 }
 
@@ -102,7 +83,7 @@ QRectF DibujoSeccion::RectanguloDe(std::size_t capa) const {
   }
   const double propio = std::max(1.5, D(capas_[capa].espesor) * escala);
   const QRectF m = Marco();
-  if (EsVertical(familia_))
+  if (EsVertical(FamiliaDeRanura(ranura_)))
     return {m.center().x() - total / 2 + antes, m.top(), propio, m.height()};
   return {m.left(), m.center().y() - total / 2 + antes, m.width(), propio};
 }
@@ -114,9 +95,10 @@ int DibujoSeccion::CapaEn(const QPointF& punto) const {
 }
 
 void DibujoSeccion::PintarCaras(QPainter& pintor) const {
-  const auto [primera, ultima] = CarasDe(familia_);
+  const Caras caras = CarasDeRanura(ranura_);
+  const QString primera = Q(caras.primera), ultima = Q(caras.ultima);
   pintor.setPen(palette().color(QPalette::WindowText));
-  if (EsVertical(familia_)) {
+  if (EsVertical(FamiliaDeRanura(ranura_))) {
     const QRectF banda(2, 1, width() - 4, kMargen - 3);
     pintor.drawText(banda, Qt::AlignLeft | Qt::AlignVCenter, primera);
     pintor.drawText(banda, Qt::AlignRight | Qt::AlignVCenter, ultima);
@@ -162,7 +144,7 @@ void DibujoSeccion::paintEvent(QPaintEvent*) {
       pintor.drawRect(r);
     }
     const QString numero = QString::number(i + 1);
-    const double hueco = EsVertical(familia_) ? r.width() : r.height();
+    const double hueco = EsVertical(FamiliaDeRanura(ranura_)) ? r.width() : r.height();
     if (hueco < pintor.fontMetrics().height() * 0.9) continue;
     const QRectF placa(r.center().x() - 8, r.center().y() - 8, 16, 16);
     pintor.setPen(Qt::NoPen);

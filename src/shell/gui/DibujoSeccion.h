@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QWidget>
-#include <utility>
 #include <vector>
 
 #include "reference/Cerramiento.h"
@@ -15,8 +14,9 @@ class DibujoSeccion : public QWidget {
 
  public:
   explicit DibujoSeccion(QWidget* padre = nullptr);
-  /// \param capas en el orden en que se guardan \param elegida posición de la capa resaltada, o -1
-  void Poner(const std::vector<Capa>& capas, FamiliaCerramiento familia, int elegida = -1);
+  /// \param capas en el orden en que se guardan \param ranura la posición de la envolvente
+  /// \param elegida posición de la capa resaltada, o -1
+  void Poner(const std::vector<Capa>& capas, std::size_t ranura, int elegida = -1);
   QSize sizeHint() const override { return {280, 170}; }
   QSize minimumSizeHint() const override { return {180, 130}; }
 
@@ -38,11 +38,8 @@ class DibujoSeccion : public QWidget {
   void PintarEscala(QPainter& pintor) const;
 
   std::vector<Capa> capas_;
-  FamiliaCerramiento familia_ = FamiliaCerramiento::MurosExterior;
+  std::size_t ranura_ = 0;  ///< posición de la envolvente, que da las caras
   int elegida_ = -1;
 };
-
-/// Lo que hay a cada lado de un cerramiento, por el orden de sus capas.
-std::pair<QString, QString> CarasDe(FamiliaCerramiento familia);
 
 }  // namespace novex::gui

@@ -14,7 +14,7 @@ constexpr int kColumnaEspesor = 1;
 
 }  // namespace
 
-ListaCapas::ListaCapas(QWidget* padre) : QTreeWidget(padre) {
+ListaCapas::ListaCapas(bool vertical, QWidget* padre) : QTreeWidget(padre) {
   setRootIsDecorated(false);
   setUniformRowHeights(true);
   setAlternatingRowColors(true);
@@ -22,9 +22,9 @@ ListaCapas::ListaCapas(QWidget* padre) : QTreeWidget(padre) {
   setDragDropMode(InternalMove);
   setStyleSheet("QTreeWidget::item { padding: 3px 0; }");
   setToolTip(
-      tr("De fuera adentro. Se arrastran para ordenarlas; con dos pulsaciones en el espesor "
-         "se cambia.\nEspesor (m), conductividad (W/mK), resistencia (m²K/W), espesor de vapor y "
-         "peso"));
+      (vertical ? tr("De fuera adentro.") : tr("De arriba abajo.")) + " " +
+      tr("Se arrastran para ordenarlas; con dos pulsaciones en el espesor se cambia.\nEspesor (m), "
+         "conductividad (W/mK), resistencia (m²K/W), espesor de vapor y peso"));
   connect(this, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* capa, int columna) {
     const auto cual = static_cast<std::size_t>(indexOfTopLevelItem(capa));
     if (columna != kColumnaEspesor || cual >= editable_.size() || !editable_[cual]) return;
@@ -77,10 +77,7 @@ int ListaCapas::LugarEn(const QPoint& punto) const {
 
 void ListaCapas::dropEvent(QDropEvent* evento) {
   const int desde = Elegida();
-  const QPoint punto = evento->position().toPoint();
-  const QModelIndex sobre = indexAt(punto);
-  int hasta = topLevelItemCount();
-  if (sobre.isValid()) hasta = sobre.row() + (punto.y() > visualRect(sobre).center().y() ? 1 : 0);
+  const int hasta = LugarEn(evento->position().toPoint());
   // La rejilla se vuelve a llenar: Qt no ha de mover ni borrar nada.
   evento->setDropAction(Qt::IgnoreAction);
   evento->accept();

@@ -13,7 +13,8 @@ class ListaCapas : public QTreeWidget {
   Q_OBJECT
 
  public:
-  explicit ListaCapas(QWidget* padre = nullptr);
+  /// \param vertical las de un muro van de fuera adentro; las demás, de arriba abajo
+  explicit ListaCapas(bool vertical, QWidget* padre = nullptr);
   void Poner(const std::vector<Capa>& capas, int elegida);
   /// La capa elegida, o -1.
   int Elegida() const;

@@ -104,7 +104,7 @@ QWidget* PaginaEnvolvente::Dibujos() {
 
 void PaginaEnvolvente::EnsenarSeccion(std::size_t ranura) {
   const std::vector<Capa> capas = CapasDeRanura(contexto_.Caso(), ranura);
-  seccion_->Poner(capas, FamiliaDeRanura(ranura));
+  seccion_->Poner(capas, ranura);
   const ResumenCerramiento r = ResumirCerramiento(capas);
   capas_->setVisible(!capas.empty());
   PonerTabla(capas_, CapasNumeradas(r));
@@ -143,9 +143,13 @@ void PaginaEnvolvente::ElegirMayor() {
   tocada_ = false;
 }
 
+void PaginaEnvolvente::showEvent(QShowEvent* evento) {
+  Pagina::showEvent(evento);
+  ElegirMayor();
+}
+
 void PaginaEnvolvente::Refrescar() {
   Pagina::Refrescar();
-  ElegirMayor();
   for (std::size_t i = 0; i < fichas_.size(); ++i) {
     const ClaseElemento& clase = fichas_[i]->Clase();
     const double area = AreaDeClase(contexto_.Caso(), clase);

@@ -23,6 +23,9 @@ class PaginaEnvolvente : public Pagina {
   /// Enseña la clase del elemento, con el foco en su U.
   void Senalar(const MensajePrevio& motivo) override;
 
+ protected:
+  void showEvent(QShowEvent* evento) override;
+
  private:
   QWidget* Color();
   QWidget* Dibujos();
@@ -30,7 +33,8 @@ class PaginaEnvolvente : public Pagina {
   void Definir(std::size_t ranura);
   void EnsenarSeccion(std::size_t ranura);
   void PonerDibujo();
-  /// Mientras nadie elige otra, se enseña la clase con más área.
+  /// Al entrar, mientras nadie elige otra, se enseña la clase con más área. No se cambia con una
+  /// edición, que la quitaría de la vista mientras se teclea.
   void ElegirMayor();
 
   PaginaOpacos pagina_;

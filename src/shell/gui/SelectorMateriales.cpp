@@ -211,8 +211,14 @@ void SelectorMateriales::Ensenar() {
     control->setVisible(puede);
   pista_->setVisible(Grupo() == kTodosLosGrupos);
   if (!puede) panel_->hide();
-  for (QPushButton* boton : {anadir_, nuevoEspesor_, borrar_, subir_, bajar_})
-    boton->setEnabled(elegido != nullptr);
+  anadir_->setEnabled(elegido != nullptr);
+  // Lo que encuentra una búsqueda puede ser de otro grupo, y allí no tiene a la vista a sus
+  // vecinos.
+  const bool suyo = elegido != nullptr &&
+                    CatalogoMateriales::PuedeCrear(elegido->rama.lista, elegido->capa.grupo);
+  for (QPushButton* boton : {nuevoEspesor_, borrar_}) boton->setEnabled(suyo);
+  const bool enOrden = buscar_->text().trimmed().isEmpty();
+  for (QPushButton* boton : {subir_, bajar_}) boton->setEnabled(elegido != nullptr && enOrden);
   const bool sinInercia = Grupo() == kGrupoSinInercia;
   rtermN_->setEnabled(sinInercia);
   for (QLineEdit* linea : {kN_, denN_, cpN_}) linea->setEnabled(!sinInercia);
@@ -240,6 +246,7 @@ void SelectorMateriales::NuevoMaterial() {
   if (const auto creado =
           catalogo_.NuevoMaterial(Rama(), Grupo(), datos, contexto_.Sesion().Avisos())) {
     panel_->hide();
+    buscar_->clear();  // el nuevo está en el grupo elegido
     LlenarY(*creado);
   }
 }

@@ -80,10 +80,13 @@ QWidget* TFCrearMuro::LadoCapas() {
   auto* caja = new QWidget(this);
   auto* columna = new QVBoxLayout(caja);
   columna->setContentsMargins(0, 0, 8, 0);
-  lista_ = new ListaCapas(caja);
+  lista_ = new ListaCapas(EsVertical(familia_), caja);
   lista_->setObjectName("capas");
   columna->addWidget(lista_, 3);
-  vacio_ = new QLabel(tr("Añada las capas desde el catálogo de la derecha, de fuera adentro."));
+  vacio_ =
+      new QLabel(EsVertical(familia_)
+                     ? tr("Añada las capas desde el catálogo de la derecha, de fuera adentro.")
+                     : tr("Añada las capas desde el catálogo de la derecha, de arriba abajo."));
   vacio_->setProperty("papel", "nota");
   columna->addWidget(vacio_);
   columna->addLayout(OrdenesCapas());
@@ -109,8 +112,10 @@ QWidget* TFCrearMuro::LadoCapas() {
   // La rejilla se vuelve a llenar cuando su editor ya se ha cerrado.
   connect(lista_, &ListaCapas::EspesorTecleado, this, &TFCrearMuro::CambiarEspesor,
           Qt::QueuedConnection);
-  connect(lista_, &QTreeWidget::currentItemChanged, this,
-          [this] { seccion_->Poner(capas_, familia_, lista_->Elegida()); });
+  connect(lista_, &QTreeWidget::currentItemChanged, this, [this] {
+    seccion_->Poner(capas_, ranura_, lista_->Elegida());
+    EnsenarOrdenes(lista_->Elegida());
+  });
   connect(seccion_, &DibujoSeccion::Pulsada, this,
           [this](int capa) { lista_->setCurrentItem(lista_->topLevelItem(capa)); });
   return caja;
@@ -237,18 +242,23 @@ void TFCrearMuro::EnsenarVapor() {
 
 void TFCrearMuro::Ensenar(int elegida) {
   lista_->Poner(capas_, elegida);
-  seccion_->Poner(capas_, familia_, elegida);
+  seccion_->Poner(capas_, ranura_, elegida);
   const ResumenCerramiento r = ResumirCerramiento(capas_);
   resumen_->setText(tr("Espesor (cm) %1 · Peso (kg/m2) %2 · Resis.Vapor (adim.) %3")
                         .arg(Q(r.textoEspesor), Q(r.textoPeso), Q(r.textoVapor)));
   resumen_->setToolTip(
       tr("Espesor %1 cm").arg(Q(Fijo(static_cast<double>(r.espesor) * kCentimetros, 1))));
   vacio_->setVisible(capas_.empty());
-  const bool hay = elegida >= 0;
-  quitar_->setEnabled(hay);
-  vaciar_->setEnabled(!capas_.empty());
+  EnsenarOrdenes(elegida);
   EnsenarU();
   EnsenarVapor();
+}
+
+void TFCrearMuro::EnsenarOrdenes(int elegida) {
+  subir_->setEnabled(elegida > 0);
+  bajar_->setEnabled(elegida >= 0 && elegida + 1 < static_cast<int>(capas_.size()));
+  quitar_->setEnabled(elegida >= 0);
+  vaciar_->setEnabled(!capas_.empty());
 }
 
 void TFCrearMuro::keyPressEvent(QKeyEvent* evento) {

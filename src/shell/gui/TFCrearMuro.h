@@ -50,6 +50,7 @@ class TFCrearMuro : public QDialog {
   void CambiarEspesor(int capa, const QString& texto);
   void LeerPeliculas();
   void Ensenar(int elegida);
+  void EnsenarOrdenes(int elegida);
   void EnsenarU();
   void EnsenarVapor();
 

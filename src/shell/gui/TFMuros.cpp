@@ -117,7 +117,7 @@ QWidget* TFMuros::VistaPrevia() {
   columna->addWidget(resumen_);
   connect(seccion_, &DibujoSeccion::Pulsada, capas_, &QTableWidget::selectRow);
   connect(capas_, &QTableWidget::currentCellChanged, this, [this](int fila) {
-    if (const ComposicionCatalogo* c = Elegida()) seccion_->Poner(c->capas, familia_, fila);
+    if (const ComposicionCatalogo* c = Elegida()) seccion_->Poner(c->capas, ranura_, fila);
   });
   return caja;
 }
@@ -186,9 +186,12 @@ const ComposicionCatalogo* TFMuros::Elegida() const {
 
 void TFMuros::Ensenar() {
   const ComposicionCatalogo* c = Elegida();
-  for (QPushButton* b : {copiar_, eliminar_, subir_, bajar_, aceptar_}) b->setEnabled(c != nullptr);
+  for (QPushButton* b : {copiar_, eliminar_, aceptar_}) b->setEnabled(c != nullptr);
+  // En una búsqueda las vecinas en el catálogo no están a la vista.
+  const bool enOrden = buscar_->text().trimmed().isEmpty();
+  for (QPushButton* b : {subir_, bajar_}) b->setEnabled(c != nullptr && enOrden);
   titulo_->setText(c == nullptr ? QString() : Q(kNuevoElegido) + Q(c->nombre));
-  seccion_->Poner(c == nullptr ? std::vector<Capa>{} : c->capas, familia_);
+  seccion_->Poner(c == nullptr ? std::vector<Capa>{} : c->capas, ranura_);
   const ResumenCerramiento r = c == nullptr ? ResumenCerramiento{} : ResumirCerramiento(c->capas);
   PonerTabla(capas_, CapasNumeradas(r));
   resumen_->clear();
