@@ -23,11 +23,13 @@ std::vector<std::string> Numeros(std::size_t cuantos) {
   return numeros;
 }
 
-// Una lista de textos largos no ha de ensanchar la página.
+// Una lista de textos largos no ha de ensanchar la página, pero toma el sitio que haya.
 void Estrechar(QComboBox* lista) {
   lista->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   lista->setMinimumContentsLength(20);
   lista->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  for (auto* fila : lista->parentWidget()->findChildren<QHBoxLayout*>())
+    if (fila->indexOf(lista) >= 0) fila->setStretchFactor(lista, 100);
 }
 
 QFormLayout* Formulario() {
@@ -58,9 +60,8 @@ FichaHueco::FichaHueco(ContextoGui& contexto, Enlaces& enlaces, const CatalogoVi
   };
   seccion_ = new SeccionHueco(this);
   columna({CajaMedidas(), seccion_}, 3)->setStretch(1, 1);
-  columna({CajaVidrio(), CajaMarco(), CajaPermeabilidad(), CajaMultiplicadores()}, 4)
-      ->addStretch(1);
-  columna({CajaProteccion(), CajaPersiana()}, 4)->addStretch(1);
+  columna({CajaVidrio(), CajaMarco(), CajaPermeabilidad()}, 4)->addStretch(1);
+  columna({CajaProteccion(), CajaPersiana(), CajaMultiplicadores()}, 4)->addStretch(1);
   filas->addLayout(tres, 1);
 }
 

@@ -13,6 +13,12 @@ QString Cifra(float valor, int decimales = 2) {
   return Q(Fijo(static_cast<double>(valor), decimales)).replace('.', ',');
 }
 
+// La clase ya se lee encima: "Otros: Mixto" es "Mixto".
+QString SinClase(const QString& nombre) {
+  const QString clase = "Otros: ";
+  return nombre.startsWith(clase) ? nombre.mid(clase.size()) : nombre;
+}
+
 // La fila de un editor enlazado, que va en la caja de su unidad.
 void Mostrar(QFormLayout* formulario, const QWidget* editor, bool visible) {
   if (editor != nullptr) formulario->setRowVisible(editor->parentWidget(), visible);
@@ -44,7 +50,7 @@ void FichaHueco::RefrescarListas(const Huecos& g) {
     if (tipo < 0 || static_cast<std::size_t>(tipo) >= tabla.size()) return;
     const auto& filas = tabla[static_cast<std::size_t>(tipo)];
     for (std::size_t i = 0; i < filas.size(); ++i)
-      lista->addItem(Q(filas[i].nombre), Q(std::to_string(i)));
+      lista->addItem(SinClase(Q(filas[i].nombre)), Q(std::to_string(i)));
   };
   if (tipoMostrado_ != g.Indice_tipo_cristal) {
     llenar(vidrioConcreto_, catalogo_.vidrios, g.Indice_tipo_cristal);
@@ -61,6 +67,7 @@ void FichaHueco::RefrescarListas(const Huecos& g) {
     if (marco && marco->U == g.U_marco_W_m2K && marcoConcreto_->currentIndex() < 0)
       marcoConcreto_->setCurrentIndex(i);
   }
+  marcoConcreto_->setToolTip(marcoConcreto_->currentText());
   // Con un solo marco en su clase no hay nada más que elegir.
   marco_->setRowVisible(marcoConcreto_, marcoConcreto_->count() > 1);
 }

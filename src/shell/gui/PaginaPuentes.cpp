@@ -123,9 +123,9 @@ QWidget* PaginaPuentes::Origen() {
   pilares_ = ListaDe({"Pilar no aislado", "Pilar aislado por el exterior",
                       "Pilar aislado por el interior", "Sin pilares"},
                      "RGPuentesPilar", &Pantalla::pilares);
-  ventanas_ = ListaDe({tr("Sin aislamiento"), tr("Aislamiento en contacto con el marco"),
-                       tr("Aislamiento sin contacto con el marco")},
-                      "RGPuentesVentanas", &Pantalla::ventanas);
+  ventanas_ = ListaDe(
+      {"Sin aislamiento", "Aislamiento en contacto marco", "Aislamiento sin contacto marco"},
+      "RGPuentesVentanas", &Pantalla::ventanas);
   soluciones->addRow(tr("Forjados"), forjados_);
   soluciones->addRow(tr("Pilares"), pilares_);
   soluciones->addRow(tr("Huecos"), ventanas_);
