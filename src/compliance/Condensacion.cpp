@@ -173,6 +173,12 @@ CondensacionElemento ComprobarCondensacion(std::size_t ranura, const composicion
   return elemento;
 }
 
+bool SeCompruebaCondensacion(std::size_t ranura) {
+  return std::any_of(kGrupos.begin(), kGrupos.end(), [ranura](const Grupo& grupo) {
+    return ranura >= grupo.primera && ranura <= grupo.ultima;
+  });
+}
+
 std::vector<CondensacionElemento> CondensacionElementos(
     const Edificio& edificio, const CondicionesCondensacion& condiciones) {
   std::vector<CondensacionElemento> elementos;

@@ -54,6 +54,10 @@ struct CondensacionElemento {
   std::size_t InterfazPeor() const;
 };
 
+/// ¿Se comprueba la posición? Los cerramientos de lo acondicionado que dan al exterior y las
+/// cubiertas enterradas; no los exteriores de un espacio no acondicionado.
+bool SeCompruebaCondensacion(std::size_t ranura);
+
 /// Comprueba una composición: factor de temperatura de su superficie y, por el método de Glaser,
 /// presiones en sus interfaces.
 /// \param ranura posición de la envolvente, que da las películas y el lado por el que se empieza

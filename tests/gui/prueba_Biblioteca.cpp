@@ -251,16 +251,21 @@ TEST_F(EditorTest, MaterialesYEspesoresNuevosSoloEnUnGrupo) {
   EXPECT_TRUE(mensajes.recibidos.empty());
 }
 
+TEST_F(EditorTest, ElVaporSeDibujaSinHaberCalculado) {
+  const auto* dibujo = editor->findChild<DibujoVapor*>();
+  ASSERT_TRUE(sesion->Caso().GetDatosClimaticosSitio().Pvproyecto == 0.0F);
+  EXPECT_FALSE(dibujo->Vacio());
+  Pulsar(*editor, "vaciar");
+  EXPECT_TRUE(dibujo->Vacio());
+  // El muro de un local no acondicionado no se comprueba.
+  const TFCrearMuro local(*contexto, catalogo, ranura::MuroExt6, modelo);
+  EXPECT_EQ(local.findChild<QTabWidget*>()->count(), 1);
+}
+
 // Para el manual; las hace scripts/capturas.sh.
 TEST_F(EditorTest, CapturasDeLosDialogos) {
   const QString destino = qEnvironmentVariable("NOVEX_CAPTURAS");
   if (destino.isEmpty()) GTEST_SKIP() << "sin NOVEX_CAPTURAS";
-  contexto->Editar("clima", [](Edificio& e) {
-    DatosClimaticosSitio sitio;
-    sitio.Tproyecto = 4;
-    sitio.Pvproyecto = 600;
-    e.SetDatosClimaticosSitio(sitio);
-  });
   TFMuros biblioteca(*contexto, ranura::MuroExt1);
   biblioteca.show();
   biblioteca.findChild<QTableWidget*>("composiciones")->selectRow(20);

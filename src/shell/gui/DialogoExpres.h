@@ -59,7 +59,7 @@ class DialogoExpres : public QDialog {
   void Previsualizar();
   void Pedir() { espera_.start(); }
   void Definir(Edificio& edificio, Mensajes& mensajes) const;
-  bool EsResidencial() const { return perfil_ < 3; }
+  bool EsResidencial() const { return contexto_.Caso().GetDatosGenerales().EsResidencial(); }
 
   ContextoGui& contexto_;
   int perfil_;

@@ -126,8 +126,7 @@ void DibujoSeccion::paintEvent(QPaintEvent*) {
   pintor.setFont(letra);
   if (capas_.empty()) {
     pintor.setPen(palette().color(QPalette::Disabled, QPalette::WindowText));
-    pintor.drawText(rect().adjusted(12, 0, -12, 0), Qt::AlignCenter | Qt::TextWordWrap,
-                    tr("Sin capas. Elija o cree una composición, o escriba su U"));
+    pintor.drawText(rect().adjusted(12, 0, -12, 0), Qt::AlignCenter | Qt::TextWordWrap, vacio_);
     return;
   }
   const QColor borde = palette().color(QPalette::WindowText);

@@ -17,6 +17,8 @@ class DibujoSeccion : public QWidget {
   /// \param capas en el orden en que se guardan \param ranura la posición de la envolvente
   /// \param elegida posición de la capa resaltada, o -1
   void Poner(const std::vector<Capa>& capas, std::size_t ranura, int elegida = -1);
+  /// Lo que se lee cuando no hay capas.
+  void PonerVacio(const QString& texto) { vacio_ = texto; }
   QSize sizeHint() const override { return {280, 170}; }
   QSize minimumSizeHint() const override { return {180, 130}; }
 
@@ -40,6 +42,7 @@ class DibujoSeccion : public QWidget {
   std::vector<Capa> capas_;
   std::size_t ranura_ = 0;  ///< posición de la envolvente, que da las caras
   int elegida_ = -1;
+  QString vacio_;
 };
 
 }  // namespace novex::gui

@@ -17,6 +17,7 @@ class DibujoVapor : public QWidget {
   void Poner(const CondensacionElemento& elemento, const CondicionesCondensacion& condiciones);
   /// No hay nada que dibujar, y por qué.
   void Vaciar(const QString& motivo);
+  bool Vacio() const { return !motivo_.isEmpty(); }
   QSize minimumSizeHint() const override { return {180, 130}; }
 
  protected:

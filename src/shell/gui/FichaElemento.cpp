@@ -264,7 +264,8 @@ QWidget* FichaElemento::BarraComposicion(std::size_t tipo, bool exterior) {
   auto* fila = new QHBoxLayout(caja);
   fila->setContentsMargins(0, exterior ? 0 : 8, 0, 0);
   auto* rotulo = Rotulo(exterior ? tr("Exterior del local") : tr("Tipo %1").arg(tipo + 1),
-                        exterior ? "nota" : "seccion");
+                        exterior ? "nota" : nullptr);
+  if (!exterior) rotulo->setStyleSheet("font-weight: 600;");
   fila->addWidget(rotulo);
   auto* nombre = new BotonNombre(caja);
   fila->addWidget(nombre, 1);

@@ -111,8 +111,9 @@ QWidget* FichaHueco::Cabecera() {
                   {}});
   fila->addLayout(formulario);
   auto* reh = new QFormLayout;
-  enlaces_.Casilla(reh, Direccion("HuecoReh"),
-                   {tr("Se rehabilita"), {}, tr("El hueco se trata en la reforma"), {}, {}});
+  enlaces_.Casilla(
+      reh, Direccion("HuecoReh"),
+      {tr("Se reforma"), {}, tr("La reforma trata el hueco y ha de cumplir sus límites"), {}, {}});
   fila->addLayout(reh);
   fila->addStretch(1);
   cifras_ = new QLabel(caja);

@@ -94,6 +94,7 @@ QWidget* PaginaEnvolvente::Dibujos() {
   reparto_->setVisible(pagina_ == PaginaOpacos::Suelos);
   columna->addWidget(reparto_, 5);
   seccion_ = new DibujoSeccion(caja);
+  seccion_->PonerVacio(tr("Sin capas. Elija o cree una composición, o escriba su U"));
   columna->addWidget(seccion_, 4);
   pieSeccion_ = new QLabel(caja);
   pieSeccion_->setProperty("papel", "nota");

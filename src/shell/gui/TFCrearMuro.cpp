@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "base/NumeroTexto.h"
+#include "entry/VaporCerramiento.h"
 #include "model/CatalogoCampos.h"
 #include "shell/gui/TextoQt.h"
 
@@ -15,13 +16,6 @@ namespace novex::gui {
 namespace {
 
 constexpr double kCentimetros = 100;
-
-// El vapor se comprueba en lo que da al exterior.
-bool DaAlExterior(FamiliaCerramiento familia) {
-  return familia == FamiliaCerramiento::MurosExterior ||
-         familia == FamiliaCerramiento::ForjadosExteriorInterior ||
-         familia == FamiliaCerramiento::ForjadosInteriorExterior;
-}
 
 QLineEdit* Casilla(const char* nombre, QWidget* padre) {
   auto* casilla = new QLineEdit(padre);
@@ -100,9 +94,10 @@ QWidget* TFCrearMuro::LadoCapas() {
   U_->setProperty("papel", "titulo");
   dibujos_->setCornerWidget(U_, Qt::TopRightCorner);
   seccion_ = new DibujoSeccion(caja);
+  seccion_->PonerVacio(tr("Sin capas"));
   vapor_ = new DibujoVapor(caja);
   dibujos_->addTab(seccion_, tr("Sección"));
-  if (DaAlExterior(familia_))
+  if (SeCompruebaCondensacion(ranura_))
     dibujos_->addTab(vapor_, tr("Vapor"));
   else
     vapor_->hide();
@@ -228,16 +223,14 @@ void TFCrearMuro::EnsenarU() {
 }
 
 void TFCrearMuro::EnsenarVapor() {
-  if (!DaAlExterior(familia_)) return;
-  const CondicionesCondensacion condiciones = CondicionesDeCondensacion(contexto_.Caso());
-  if (capas_.empty()) return vapor_->Vaciar(tr("Sin capas no hay presiones que dibujar"));
-  if (condiciones.Pe <= 0)
-    return vapor_->Vaciar(
-        tr("El mes de proyecto se conoce al calcular: abra antes una página de resultados"));
-  Edificio solo;
-  ElegirComposicion(solo, ranura_, S(nombre_->text()), capas_);
-  vapor_->Poner(ComprobarCondensacion(ranura_, solo.GetComposicion(ranura_), condiciones),
-                condiciones);
+  if (!SeCompruebaCondensacion(ranura_)) return;
+  const auto vapor = VaporDeCapas(
+      contexto_.Caso(), contexto_.Ficheros().Xml("Capitales.xml", "CAPITALES"), ranura_, capas_);
+  if (vapor)
+    vapor_->Poner(vapor->elemento, vapor->condiciones);
+  else
+    vapor_->Vaciar(capas_.empty() ? tr("Sin capas no hay presiones que dibujar")
+                                  : tr("La provincia no está en la lista de capitales"));
 }
 
 void TFCrearMuro::Ensenar(int elegida) {

@@ -30,7 +30,7 @@ TFMuros::TFMuros(ContextoGui& contexto, std::size_t ranura, QWidget* padre)
       familia_(FamiliaDeRanura(ranura)),
       catalogo_(contexto.Ficheros().Espacio().Datos() / "Composiciones.xml") {
   setWindowTitle(tr("Biblioteca de composiciones · %1").arg(NombreLegible(familia_)));
-  resize(1080, 640);
+  resize(1240, 660);
   auto* todo = new QVBoxLayout(this);
   auto* fila = new QHBoxLayout;
   auto* izquierda = new QVBoxLayout;
@@ -43,8 +43,8 @@ TFMuros::TFMuros(ContextoGui& contexto, std::size_t ranura, QWidget* padre)
   vacia_->setProperty("papel", "nota");
   izquierda->addWidget(vacia_);
   izquierda->addLayout(Ordenes());
-  fila->addLayout(izquierda, 3);
-  fila->addWidget(VistaPrevia(), 2);
+  fila->addLayout(izquierda, 5);
+  fila->addWidget(VistaPrevia(), 4);
   todo->addLayout(fila, 1);
   todo->addLayout(Asignada());
   connect(composiciones_, &QTableWidget::currentCellChanged, this, [this] { Ensenar(); });
@@ -110,6 +110,8 @@ QWidget* TFMuros::VistaPrevia() {
   columna->addWidget(seccion_, 2);
   capas_ = CrearTablaDeFilas({tr("Capa"), "m", "k", "R", tr("Vapor"), "kg/m²"}, caja);
   capas_->setObjectName("capas");
+  capas_->setToolTip(
+      tr("Espesor (m), conductividad (W/mK), resistencia (m²K/W), espesor de vapor y peso"));
   columna->addWidget(capas_, 3);
   resumen_ = new QLabel(caja);
   resumen_->setObjectName("resumen");
