@@ -1,3 +1,5 @@
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTabWidget>
 #include <QTableWidget>
 
@@ -167,7 +169,16 @@ TEST_F(EditorTest, LasCapasSeOrdenanConBotonesTeclasYArrastrando) {
   EXPECT_EQ(lista->LugarEn({5, segunda.top() + 1}), 1);
   EXPECT_EQ(lista->LugarEn({5, segunda.bottom() - 1}), 2);
   EXPECT_EQ(lista->LugarEn({5, lista->viewport()->height() - 1}), 3);
-  emit lista->Movida(2, 0);
+  // La última se suelta sobre la mitad de arriba de la primera.
+  struct Abierta : ListaCapas {
+    using ListaCapas::dropEvent;
+  };
+  const QMimeData datos;
+  lista->setCurrentItem(lista->topLevelItem(2));
+  QDropEvent soltar(QPointF(5, lista->visualItemRect(lista->topLevelItem(0)).top() + 1),
+                    Qt::MoveAction, &datos, Qt::LeftButton, Qt::NoModifier);
+  (lista->*&Abierta::dropEvent)(&soltar);
+  EXPECT_EQ(soltar.dropAction(), Qt::IgnoreAction);  // Qt no ha de quitar nada
   EXPECT_EQ(Orden(), "ECT");
   EXPECT_EQ(lista->Elegida(), 0);
   EXPECT_EQ(lista->topLevelItemCount(), 3);

@@ -1,7 +1,10 @@
 #include "shell/gui/PaginaEnvolvente.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
+#include <QShowEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "base/ErrorFichero.h"
 #include "base/NumeroTexto.h"
@@ -17,6 +20,8 @@ namespace {
 const std::vector<std::string> kColores = {"0", "1", "2"};
 const std::vector<std::string> kRotulosColores = {
     "Claro (absortividad 0,6)", "Medio (absortividad 0,7)", "Oscuro (absortividad 0,8)"};
+
+constexpr int kAltoCapas = 190;
 
 QString Cifra(double valor, int decimales) {
   return Q(Fijo(valor, decimales)).replace('.', ',');
@@ -52,7 +57,6 @@ PaginaEnvolvente::PaginaEnvolvente(ContextoGui& contexto, PaginaOpacos pagina, Q
   capas_ = CrearTablaDeFilas(
       {tr("Capas"), "m", tr("k (W/mK)"), tr("R (m²K/W)"), tr("Vapor"), tr("kg/m²")}, this);
   capas_->setObjectName("capas");
-  capas_->setMaximumHeight(190);
   capas_->setFocusPolicy(Qt::NoFocus);
   centro->addWidget(capas_);
   fila->addLayout(centro, 1);
@@ -109,6 +113,11 @@ void PaginaEnvolvente::EnsenarSeccion(std::size_t ranura) {
   const ResumenCerramiento r = ResumirCerramiento(capas);
   capas_->setVisible(!capas.empty());
   PonerTabla(capas_, CapasNumeradas(r));
+  // No ocupa más que sus filas, para que una clase con muchos tipos quepa sin correr la página.
+  const int filas = capas_->rowCount() * capas_->verticalHeader()->defaultSectionSize();
+  capas_->setMaximumHeight(
+      std::min(kAltoCapas,
+               filas + capas_->horizontalHeader()->sizeHint().height() + 2 * capas_->frameWidth()));
   const composicion& puesta = contexto_.Caso().GetComposicion(ranura);
   QString texto = Q(puesta.nombre) + " · U " + Cifra(static_cast<double>(puesta.U), 2) + " W/m²K";
   if (!capas.empty()) {
@@ -146,7 +155,7 @@ void PaginaEnvolvente::ElegirMayor() {
 
 void PaginaEnvolvente::showEvent(QShowEvent* evento) {
   Pagina::showEvent(evento);
-  ElegirMayor();
+  if (!evento->spontaneous()) ElegirMayor();
 }
 
 void PaginaEnvolvente::Refrescar() {
