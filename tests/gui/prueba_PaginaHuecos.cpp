@@ -239,6 +239,9 @@ TEST_F(PaginaHuecosTest, CopiaDePropiedadesAOtrosGrupos) {
   EXPECT_EQ(Grupo(1).Indice_tipo_sombra_movil, 0);  // no se ha marcado
   sesion.Deshacer();
   EXPECT_EQ(Grupo(1).U_cristal_W_m2K, 5.7F);
+  const DialogoCopiaHuecos deUnaPuerta(ventana->Contexto(), 2, nullptr);
+  EXPECT_TRUE(deUnaPuerta.findChild<QLabel*>("resultado")->text().contains("puerta"));
+  EXPECT_TRUE(dialogo.findChild<QLabel*>("resultado")->text().startsWith("Copiado en 2"));
 }
 
 TEST_F(PaginaHuecosTest, LaGraficaDeSombraEsLaDelCaso) {

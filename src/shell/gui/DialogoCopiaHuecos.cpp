@@ -41,6 +41,7 @@ DialogoCopiaHuecos::DialogoCopiaHuecos(ContextoGui& contexto, std::size_t grupo,
   nota->setProperty("papel", "nota");
   columna->addWidget(nota);
   resultado_ = new QLabel(this);
+  resultado_->setObjectName("resultado");
   columna->addWidget(resultado_);
   auto* botones = new QDialogButtonBox(this);
   aplicar_ = botones->addButton(Q(kTextoAplicar), QDialogButtonBox::ApplyRole);
@@ -102,7 +103,8 @@ void DialogoCopiaHuecos::Revisar() {
   const QSignalBlocker callado(todos_);
   todos_->setChecked(posibles > 0 && destinos.size() == posibles);
   aplicar_->setEnabled(origen && !destinos.empty() && Conjuntos().any());
-  resultado_->clear();
+  resultado_->setText(origen ? QString()
+                             : tr("Las propiedades de una puerta o de un lucernario no se copian"));
 }
 
 void DialogoCopiaHuecos::Aplicar() {
