@@ -241,8 +241,15 @@ void TFMuros::Eliminar() {
 void TFMuros::Mover(Sentido sentido) {
   const ComposicionCatalogo* elegida = Elegida();
   if (elegida == nullptr) return;
-  const std::string nombre = elegida->nombre;
-  if (catalogo_.Mover(*elegida, sentido, contexto_.Sesion().Avisos())) Llenar(nombre);
+  // Por su lugar: dos de subtipos distintos pueden llamarse igual.
+  const std::size_t grupo = elegida->grupo;
+  const std::size_t lugar = elegida->indice + (sentido == Sentido::Arriba ? std::size_t(-1) : 1);
+  if (!catalogo_.Mover(*elegida, sentido, contexto_.Sesion().Avisos())) return;
+  Llenar();
+  const auto it = std::find_if(lista_.begin(), lista_.end(), [&](const ComposicionCatalogo& c) {
+    return c.grupo == grupo && c.indice == lugar;
+  });
+  if (it != lista_.end()) composiciones_->selectRow(static_cast<int>(it - lista_.begin()));
 }
 
 void TFMuros::Almacenar() {
