@@ -1,5 +1,8 @@
 #include "shell/gui/ContextoGui.h"
 
+#include <exception>
+
+#include "calculation/EjecutarCalculo.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -17,6 +20,20 @@ bool ContextoGui::EditarProyecto(const QString& nombre,
   const bool cambiado = sesion_.EditarProyecto(S(nombre), cambio);
   if (cambiado) emit ProyectoCambiado();
   return cambiado;
+}
+
+bool ContextoGui::Calcular() {
+  fallo_.clear();
+  Progreso progreso;
+  Entorno entorno{Ficheros(), sesion_.Avisos(), progreso};
+  try {
+    if (CalcularProyecto(sesion_.GestorParaCalcular(), entorno)) return true;
+    fallo_ = tr("No se ha podido calcular");
+  } catch (const std::exception& error) {
+    // Unos datos que pasan las comprobaciones y no tienen sentido físico, o un fichero que falta.
+    fallo_ = Q(error.what());
+  }
+  return false;
 }
 
 }  // namespace novex::gui

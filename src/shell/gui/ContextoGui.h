@@ -41,6 +41,10 @@ class ContextoGui : public QObject {
               bool recalcula = true);
   /// Edita el proyecto entero y lo anuncia.
   bool EditarProyecto(const QString& nombre, const SesionProyecto::CambioProyecto& cambio);
+  /// Calcula los casos del proyecto que no lo están: entrar en una página de resultados es
+  /// calcular. \returns si están todos; si no, por qué en `FalloCalculo`
+  bool Calcular();
+  const QString& FalloCalculo() const { return fallo_; }
   /// Lleva a donde se corrige lo que impide un cálculo.
   void IrA(const MensajePrevio& motivo) { emit Ir(motivo); }
   /// Lleva a una página y, en ella, a un campo.
@@ -58,6 +62,7 @@ class ContextoGui : public QObject {
 
  private:
   SesionProyecto& sesion_;
+  QString fallo_;
 };
 
 }  // namespace novex::gui

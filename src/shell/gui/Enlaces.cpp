@@ -1,5 +1,6 @@
 #include "shell/gui/Enlaces.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -138,6 +139,7 @@ QComboBox* Enlaces::Lista(QFormLayout* formulario, const std::string& direccion,
     lista->addItem(Q(i < rotulos.size() ? rotulos[i] : textos[i]), Q(textos[i]));
   lista->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   lista->setFocusPolicy(Qt::StrongFocus);
+  lista->installEventFilter(this);
   QLabel* avisos = nullptr;
   QWidget* caja = ConUnidadYAviso(lista, opciones.unidad, &avisos);
   if (opciones.rotulo.isEmpty())
@@ -168,6 +170,16 @@ QCheckBox* Enlaces::Casilla(QFormLayout* formulario, const std::string& direccio
   connect(casilla, &QCheckBox::clicked, this,
           [this, indice, si, no](bool marcada) { Guardar(indice, marcada ? si : no); });
   return casilla;
+}
+
+// La rueda que pasa por encima de una lista es para la página: solo cambia la que tiene el foco.
+bool Enlaces::eventFilter(QObject* objeto, QEvent* evento) {
+  const auto* editor = qobject_cast<QWidget*>(objeto);
+  if (evento->type() == QEvent::Wheel && editor != nullptr && !editor->hasFocus()) {
+    evento->ignore();
+    return true;
+  }
+  return QObject::eventFilter(objeto, evento);
 }
 
 void Enlaces::Guardar(std::size_t indice, const std::string& texto) {

@@ -43,4 +43,9 @@ void PaginaPestanas::Mostrar(const QString& titulo) {
     if (pestanas_->tabText(i) == titulo) pestanas_->setCurrentIndex(i);
 }
 
+void PaginaPestanas::Esconder(const QString& titulo, bool si) {
+  for (int i = 0; i < pestanas_->count(); ++i)
+    if (pestanas_->tabText(i) == titulo) pestanas_->setTabVisible(i, !si);
+}
+
 }  // namespace novex::gui

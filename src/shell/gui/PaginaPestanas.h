@@ -19,6 +19,8 @@ class PaginaPestanas : public Pagina {
   void Senalar(const MensajePrevio& motivo) override;
   /// Enseña la de ese título, si está.
   void Mostrar(const QString& titulo);
+  /// Esconde o enseña la de ese título.
+  void Esconder(const QString& titulo, bool si);
   const std::vector<Pagina*>& Paginas() const { return paginas_; }
 
  private:

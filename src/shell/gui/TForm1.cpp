@@ -26,6 +26,7 @@
 #include "shell/gui/PaginaUso.h"
 #include "shell/gui/TDefEdificio.h"
 #include "shell/gui/TFDefinicion.h"
+#include "shell/gui/TResultadosT.h"
 #include "shell/gui/TTEquipos.h"
 #include "shell/gui/TextoQt.h"
 
@@ -138,7 +139,7 @@ void TForm1::CrearPaginas() {
               global,
               new TDefEdificio(contexto_),
               new TTEquipos(contexto_),
-              new PaginaTablas(contexto_, Destino::Certificacion),
+              new TResultadosT(contexto_),
               new PaginaTablas(contexto_, Destino::Comparacion),
               new PaginaTablas(contexto_, Destino::HE),
               new TFDefinicion(contexto_)};

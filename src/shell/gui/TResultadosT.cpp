@@ -1,0 +1,47 @@
+#include "shell/gui/TResultadosT.h"
+
+#include <QVBoxLayout>
+
+#include "shell/gui/PaginaAnalisisTecnico.h"
+#include "shell/gui/PaginaCalificacion.h"
+#include "shell/gui/PaginaMensual.h"
+#include "shell/gui/PaginaReferencia.h"
+
+namespace novex::gui {
+namespace {
+
+constexpr const char* kMensuales = "Mensuales";
+constexpr const char* kReferencia = "Objeto_Referencia";
+
+}  // namespace
+
+TResultadosT::TResultadosT(ContextoGui& contexto, QWidget* padre)
+    : PaginaPestanas(contexto, padre) {
+  fallo_ = new QLabel(this);
+  fallo_->setProperty("papel", "aviso");
+  fallo_->setWordWrap(true);
+  fallo_->setContentsMargins(12, 6, 12, 6);
+  static_cast<QVBoxLayout*>(layout())->insertWidget(0, fallo_);
+  Anadir(new PaginaCalificacion(contexto), "Calificación");
+  Anadir(new PaginaMensual(contexto), kMensuales);
+  Anadir(new PaginaReferencia(contexto), kReferencia);
+  Anadir(new PaginaAnalisisTecnico(contexto), "Análisis técnico");
+}
+
+void TResultadosT::PonerPestanas() {
+  const DatosGenerales generales = contexto_.Caso().GetDatosGenerales();
+  const bool libre = generales.Tiposimulacion == "Simulacion";
+  Esconder(kReferencia, generales.EsResidencial() || libre);
+  if (!abierta_ && libre) Mostrar(kMensuales);
+  abierta_ = true;
+}
+
+void TResultadosT::Refrescar() {
+  const bool calculado = contexto_.Calcular();
+  fallo_->setText(contexto_.FalloCalculo());
+  fallo_->setVisible(!calculado);
+  PonerPestanas();
+  PaginaPestanas::Refrescar();
+}
+
+}  // namespace novex::gui

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "shell/gui/PaginaPestanas.h"
+
+namespace novex::gui {
+
+/// Los resultados de los casos. Entrar en ella es calcular los que no lo están; después enseña el
+/// caso activo en las páginas que le tocan.
+class TResultadosT : public PaginaPestanas {
+  Q_OBJECT
+
+ public:
+  explicit TResultadosT(ContextoGui& contexto, QWidget* padre = nullptr);
+  void Refrescar() override;
+
+ private:
+  void PonerPestanas();
+
+  QLabel* fallo_;
+  bool abierta_ = false;
+};
+
+}  // namespace novex::gui

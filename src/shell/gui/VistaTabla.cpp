@@ -1,0 +1,199 @@
+#include "shell/gui/VistaTabla.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+#include "base/ErrorFichero.h"
+#include "base/FicheroSeguro.h"
+#include "entry/HojaDeCalculo.h"
+#include "outputs/TextoTabla.h"
+#include "shell/gui/EtiquetaEnergetica.h"
+#include "shell/gui/TextoQt.h"
+
+namespace novex::gui {
+namespace {
+
+constexpr int kAnchoMaximo = 420;  // de una columna, en píxeles
+
+bool EsLetra(const QString& texto) {
+  return texto.size() == 1 && texto[0] >= 'A' && texto[0] <= 'G';
+}
+
+bool EsTotal(const std::vector<Celda>& fila) {
+  return !fila.empty() && Q(fila.front().texto).contains("total", Qt::CaseInsensitive);
+}
+
+QTableWidgetItem* Casilla(const Celda& celda, bool total) {
+  auto* casilla = new QTableWidgetItem(Q(celda.texto));
+  QFont letra = casilla->font();
+  if (celda.numero) casilla->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  if (EsLetra(casilla->text())) {
+    casilla->setTextAlignment(Qt::AlignCenter);
+    casilla->setBackground(ColorLetra(casilla->text()));
+    casilla->setForeground(TextoSobreLetra(casilla->text()));
+  }
+  if (total || EsLetra(casilla->text())) {
+    letra.setBold(true);
+    casilla->setFont(letra);
+  }
+  return casilla;
+}
+
+}  // namespace
+
+VistaTabla::VistaTabla(QWidget* padre) : QWidget(padre) {
+  auto* columna = new QVBoxLayout(this);
+  columna->setContentsMargins(0, 0, 0, 0);
+  columna->setSpacing(4);
+  auto* fila = new QHBoxLayout;
+  titulo_ = new QLabel(this);
+  titulo_->setProperty("papel", "seccion");
+  fila->addWidget(titulo_, 1);
+  menu_ = new QToolButton(this);
+  menu_->setText("⋯");
+  menu_->setToolTip(tr("Copiar o exportar la tabla"));
+  menu_->setAutoRaise(true);
+  menu_->setPopupMode(QToolButton::InstantPopup);
+  auto* ordenes = new QMenu(menu_);
+  ordenes->addAction(tr("Copiar"), this, &VistaTabla::Copiar);
+  ordenes->addAction(tr("Exportar…"), this, &VistaTabla::Exportar);
+  menu_->setMenu(ordenes);
+  fila->addWidget(menu_, 0, Qt::AlignBottom);
+  columna->addLayout(fila);
+  rejilla_ = new QTableWidget(this);
+  rejilla_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  rejilla_->verticalHeader()->hide();
+  rejilla_->setAlternatingRowColors(true);
+  rejilla_->setTabKeyNavigation(false);
+  rejilla_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  rejilla_->setContextMenuPolicy(Qt::CustomContextMenu);
+  rejilla_->installEventFilter(this);
+  connect(rejilla_, &QWidget::customContextMenuRequested, this,
+          [this](const QPoint& donde) { menu_->menu()->popup(rejilla_->mapToGlobal(donde)); });
+  columna->addWidget(rejilla_);
+  notas_ = new QLabel(this);
+  notas_->setWordWrap(true);
+  notas_->setProperty("papel", "nota");
+  columna->addWidget(notas_);
+}
+
+void VistaTabla::Poner(const Tabla& tabla) {
+  const bool mismas = tabla.cabeceras == tabla_.cabeceras && rejilla_->columnCount() > 0;
+  tabla_ = tabla;
+  titulo_->setText(Q(tabla.titulo));
+  std::size_t columnas = tabla.cabeceras.size();
+  for (const auto& fila : tabla.filas) columnas = std::max(columnas, fila.size());
+  rejilla_->setUpdatesEnabled(false);
+  rejilla_->setRowCount(static_cast<int>(tabla.filas.size()));
+  rejilla_->setColumnCount(static_cast<int>(columnas));
+  QStringList cabeceras;
+  for (const std::string& c : tabla.cabeceras) cabeceras << Q(c);
+  rejilla_->setHorizontalHeaderLabels(cabeceras);
+  rejilla_->horizontalHeader()->setVisible(!tabla.cabeceras.empty());
+  for (std::size_t f = 0; f < tabla.filas.size(); ++f)
+    for (std::size_t c = 0; c < columnas; ++c)
+      rejilla_->setItem(static_cast<int>(f), static_cast<int>(c),
+                        Casilla(c < tabla.filas[f].size() ? tabla.filas[f][c] : Celda(),
+                                EsTotal(tabla.filas[f])));
+  if (!mismas) {
+    rejilla_->resizeColumnsToContents();
+    for (int c = 0; c < rejilla_->columnCount(); ++c)
+      if (rejilla_->columnWidth(c) > kAnchoMaximo) rejilla_->setColumnWidth(c, kAnchoMaximo);
+  }
+  rejilla_->resizeRowsToContents();
+  rejilla_->setUpdatesEnabled(true);
+  QStringList notas;
+  for (const std::string& nota : tabla.notas) notas << Q(nota);
+  notas_->setText(notas.join('\n'));
+  notas_->setVisible(!notas.isEmpty());
+  AjustarAlto();
+}
+
+void VistaTabla::Estirar(bool si) {
+  estirada_ = si;
+  AjustarAlto();
+}
+
+void VistaTabla::AjustarAlto() {
+  if (estirada_) {
+    rejilla_->setMinimumHeight(0);
+    rejilla_->setMaximumHeight(QWIDGETSIZE_MAX);
+    return;
+  }
+  const QHeaderView* cabecera = rejilla_->horizontalHeader();
+  int alto = rejilla_->verticalHeader()->length() + 2 * rejilla_->frameWidth();
+  if (!cabecera->isHidden()) alto += cabecera->sizeHint().height();
+  if (cabecera->length() > rejilla_->width())
+    alto += rejilla_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  rejilla_->setFixedHeight(alto);
+}
+
+void VistaTabla::Copiar() const {
+  CasillasHoja casillas;
+  const auto elegidas = rejilla_->selectedRanges();
+  int primeraF = 0, ultimaF = rejilla_->rowCount() - 1;
+  int primeraC = 0, ultimaC = rejilla_->columnCount() - 1;
+  // Una casilla suelta es donde está el cursor, no una elección.
+  if (elegidas.size() == 1 && elegidas[0].rowCount() * elegidas[0].columnCount() > 1) {
+    primeraF = elegidas[0].topRow();
+    ultimaF = elegidas[0].bottomRow();
+    primeraC = elegidas[0].leftColumn();
+    ultimaC = elegidas[0].rightColumn();
+  }
+  const auto en = [&](const std::vector<Celda>& fila, int c) {
+    return static_cast<std::size_t>(c) < fila.size() ? fila[static_cast<std::size_t>(c)].texto
+                                                     : std::string();
+  };
+  if (!tabla_.cabeceras.empty()) {
+    auto& titulos = casillas.emplace_back();
+    for (int c = primeraC; c <= ultimaC; ++c)
+      titulos.push_back(static_cast<std::size_t>(c) < tabla_.cabeceras.size()
+                            ? tabla_.cabeceras[static_cast<std::size_t>(c)]
+                            : "");
+  }
+  for (int f = primeraF; f <= ultimaF; ++f) {
+    auto& fila = casillas.emplace_back();
+    for (int c = primeraC; c <= ultimaC; ++c)
+      fila.push_back(en(tabla_.filas[static_cast<std::size_t>(f)], c));
+  }
+  QApplication::clipboard()->setText(Q(TextoDeCasillas(casillas)));
+}
+
+void VistaTabla::Exportar() {
+  GuardarTextoPreguntando(this, Q(tabla_.titulo), tr("Texto separado por ; (*.csv *.txt)"),
+                          TextoSeparado(tabla_));
+}
+
+bool VistaTabla::eventFilter(QObject* objeto, QEvent* evento) {
+  if (evento->type() == QEvent::KeyPress &&
+      static_cast<QKeyEvent*>(evento)->matches(QKeySequence::Copy)) {
+    Copiar();
+    return true;
+  }
+  if (evento->type() == QEvent::Resize) AjustarAlto();
+  return QWidget::eventFilter(objeto, evento);
+}
+
+void GuardarTextoPreguntando(QWidget* padre, const QString& nombre, const QString& filtro,
+                             const std::string& texto) {
+  QString propuesta = nombre;
+  for (QChar& c : propuesta)
+    if (!c.isLetterOrNumber() && c != ' ' && c != '-') c = '_';
+  const QString ruta =
+      QFileDialog::getSaveFileName(padre, QObject::tr("Exportar"), propuesta.trimmed(), filtro);
+  if (ruta.isEmpty()) return;
+  try {
+    EscribirFichero(S(ruta), texto);
+  } catch (const ErrorFichero& error) {
+    QMessageBox::warning(padre, "AVISO", Q(error.what()));
+  }
+}
+
+}  // namespace novex::gui
