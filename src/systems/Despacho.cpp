@@ -5,6 +5,7 @@
 #include "systems/AtributosSistema.h"
 #include "systems/Calefaccion.h"
 #include "systems/Refrigeracion.h"
+#include "systems/RepartoSuperficies.h"
 
 namespace novex {
 namespace {
@@ -48,9 +49,7 @@ Despacho::Despacho(Edificio& edificio, const AjustesUso& ajustes, calculo& caso,
     auto sistema = std::make_unique<Sistema>();
     sistema->datos = &datos;
     sistema->tipo = TipoSistemaDe(datos.Tipo_sistema);
-    const Instalaciones& primera = datos.instalaciones.front();
-    sistema->deAire = EmisorDeVentilacion(primera.Emisor) ||
-                      ClaseGeneradorDe(primera.Seleccion) == ClaseGenerador::Rooftop;
+    sistema->deAire = EsSistemaDeAire(datos);
     for (const Instalaciones& i : datos.instalaciones) {
       haySistemasDeAire_ = haySistemasDeAire_ || EmisorDeVentilacion(i.Emisor) ||
                            ClaseGeneradorDe(i.Seleccion) == ClaseGenerador::Rooftop;
@@ -89,55 +88,14 @@ void Despacho::RepetirACS(const AnosACS& anos) {
       if (b->acs) b->acs->Repetir(anos.at(b->indice));
 }
 
-float Despacho::Potencia(const Sistema& s, Servicio servicio) const {
-  const Bloque& b = *s.bloques.front();
-  const Instalaciones& i = *b.generador.datos;
-  const auto n = static_cast<float>(i.NEquipos);
-  const ClaseGenerador c = b.generador.clase;
-  if (servicio == kRefrigeracion) return DaRefrigeracion(s.tipo) ? n * i.QFrioTot1 : 0.0F;
-  if (!DaCalefaccion(s.tipo)) return 0.0F;
-  if (EsAireAire(c)) return n * i.QcalorBC1;
-  switch (c) {
-    case ClaseGenerador::Caldera:
-    case ClaseGenerador::CalderaMixta:
-      return n * i.QcalorCaldera1;
-    case ClaseGenerador::BombaCalor:
-      return n * i.QcalorBC1;
-    case ClaseGenerador::BombaCalorCaldera:
-      return n * 0.5F * (i.QcalorCaldera1 + i.QcalorBC1);
-    case ClaseGenerador::Radiadores:
-      return n * i.RadiadorElectrico;
-    default:
-      return 0.0F;
-  }
-}
-
 void Despacho::RepartirSuperficies() {
-  // [de aire][servicio]: los sistemas de ventilación y los de zona reparten cada uno la superficie.
-  std::array<CargasHora, 2> total{};
-  const auto estacional = [](const Sistema& s) {
-    return EsEstacional(s.bloques.front()->generador.clase);
-  };
-  for (const auto& s : sistemas_) {
-    if (estacional(*s)) continue;
-    const bool deAire = s->deAire;
-    total[deAire][kCalefaccion] += Potencia(*s, kCalefaccion);
-    total[deAire][kRefrigeracion] += Potencia(*s, kRefrigeracion);
-  }
-  for (const auto& s : sistemas_) {
-    SistemaResidencial& d = *s->datos;
-    if (estacional(*s)) {
-      d.Sup_Calefaccion = DaCalefaccion(s->tipo) ? superficie_ : 0.0F;
-      d.Sup_Refrigeracion = DaRefrigeracion(s->tipo) ? superficie_ : 0.0F;
-    } else {
-      const CargasHora& grupo = total[s->deAire];
-      d.Sup_Calefaccion = superficie_ * Cociente(Potencia(*s, kCalefaccion), grupo[kCalefaccion]);
-      d.Sup_Refrigeracion =
-          superficie_ * Cociente(Potencia(*s, kRefrigeracion), grupo[kRefrigeracion]);
-    }
-    servida_[kACS] += d.Sup_ACS;
-    servida_[kCalefaccion] += d.Sup_Calefaccion;
-    servida_[kRefrigeracion] += d.Sup_Refrigeracion;
+  const auto servidas = SuperficiesServidas(edificio_);
+  for (std::size_t n = 0; n < servidas.size(); ++n) {
+    SistemaResidencial& d = edificio_.GetSistema(n);
+    if (d.instalaciones.empty()) continue;
+    d.Sup_Calefaccion = servidas[n][kCalefaccion];
+    d.Sup_Refrigeracion = servidas[n][kRefrigeracion];
+    for (std::size_t k = 0; k < kServiciosDemanda; ++k) servida_[k] += servidas[n][k];
   }
   for (float& area : servida_) area = std::min(area, superficie_);
 }

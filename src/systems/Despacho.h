@@ -44,7 +44,6 @@ class Despacho {
   struct Totales;
 
   void RepartirSuperficies();
-  float Potencia(const Sistema& s, Servicio servicio) const;
   RespuestaHora CorrerSistema(Sistema& s, const HoraSistemas& hora, const CargasHora& cargas,
                               Totales& totales);
   void Contabilizar(Bloque& b, const HoraSistemas& hora, const RespuestaHora& r);

@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include "systems/CasoSistemas.h"
+#include "systems/RepartoSuperficies.h"
 
 namespace novex {
 namespace {
@@ -320,6 +321,33 @@ TEST_F(Reparto, PotenciasQueReparten) {
   EXPECT_NEAR(c.edificio.GetSistema(1).Sup_Calefaccion, 25, 1e-3);
   EXPECT_EQ(c.edificio.GetSistema(2).Sup_Calefaccion, 0.0F);
   EXPECT_EQ(c.edificio.GetSistema(2).Sup_Refrigeracion, 100.0F);
+}
+
+// La caldera y el estacional no caben los dos enteros: al segundo le queda el cuarto que el primero
+// no toma, y al tercero nada. El de aire tiene toda la ventilación, aparte, salvo en una UTA.
+TEST_F(Reparto, PartesDeCadaSistema) {
+  c.Anadir("Calefaccion", Caldera(30));
+  c.Anadir("Calefaccion", BloqueCompleto("Rend. estacional"));
+  c.Anadir("Calefaccion", Caldera(10));
+  c.Anadir("Calefaccion", BloqueCompleto("Rooftop"));
+  Instalaciones termo = BloqueCompleto("1 Termo electrico");
+  c.Anadir("ACS", termo);
+  c.edificio.AnadirSistema({});  // sin bloques
+  for (std::size_t n = 0; n < 4; ++n) c.edificio.GetSistema(n).Sup_ACS = 0;
+  c.edificio.GetSistema(4).Sup_ACS = 60;
+  const RepartoServicios r = RepartirServicios(c.edificio, SistemaAire::Toma);
+  ASSERT_EQ(r.partes.size(), 6U);
+  EXPECT_NEAR(r.partes[0][kCalefaccion], 0.75, 1e-5);
+  EXPECT_NEAR(r.partes[1][kCalefaccion], 0.25, 1e-5);
+  EXPECT_NEAR(r.partes[2][kCalefaccion], 0, 1e-5);
+  EXPECT_NEAR(r.partes[3][kCalefaccion], 1, 1e-5);
+  EXPECT_NEAR(r.partes[4][kACS], 0.6, 1e-5);
+  EXPECT_NEAR(r.sinSistema[kACS], 0.4, 1e-5);
+  EXPECT_NEAR(r.sinSistema[kCalefaccion], 0, 1e-5);
+  EXPECT_NEAR(r.sinSistema[kRefrigeracion], 1, 1e-5);
+  EXPECT_NEAR(RepartirServicios(c.edificio, SistemaAire::UTA).partes[3][kCalefaccion], 0, 1e-5);
+  c.edificio.GetRecinto(0).Suelo_habitable_m2 = 0;
+  EXPECT_EQ(RepartirServicios(c.edificio, SistemaAire::Toma).partes[0][kCalefaccion], 0.0F);
 }
 
 // Cada consumo va a su vector y su mes, y las bombas en kWh.
