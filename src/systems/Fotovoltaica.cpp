@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Calendario.h"
 #include "demand/Solar.h"
 
 namespace novex {
@@ -21,6 +22,17 @@ float PotenciaFotovoltaica(const DatosGenerales& g, const SeriesClima& clima, fl
   // A una vivienda de un bloque le toca su parte de la instalación común.
   if (g.PerfilUso == 2) total = g.NVBloqueF == 0.0F ? 0.0F : total / g.NVBloqueF;
   return total;
+}
+
+TablaMensual ProduccionFotovoltaica(const DatosGenerales& g, const SeriesClima& clima) {
+  TablaMensual produccion{};
+  if (!HayFotovoltaica(g, 0)) return produccion;
+  int h = 1;
+  for (int m = 1; m <= kMeses; ++m)
+    for (; h <= kUltimaHoraMes[static_cast<std::size_t>(m)]; ++h)
+      SumarMes(produccion, m, PotenciaFotovoltaica(g, clima, 0, h));
+  SumarAno(produccion);
+  return produccion;
 }
 
 bool HayFotovoltaica(const DatosGenerales& g, float extraPico) {

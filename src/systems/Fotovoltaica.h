@@ -10,6 +10,9 @@ namespace novex {
 float PotenciaFotovoltaica(const DatosGenerales& generales, const SeriesClima& clima,
                            float extraPico, int h);
 
+/// Producción de cada mes y, en la posición 0, del año, kWh: la suma de `PotenciaFotovoltaica`.
+TablaMensual ProduccionFotovoltaica(const DatosGenerales& generales, const SeriesClima& clima);
+
 /// ¿Hay algún campo con potencia?
 bool HayFotovoltaica(const DatosGenerales& generales, float extraPico);
 

@@ -46,6 +46,21 @@ TEST_F(Campos, LaMedidaPoneElPrimerCampo) {
   EXPECT_EQ(Potencia(), 0.0F);
 }
 
+// Lo mismo a mediodía del 1 de enero y en la última hora de febrero, la 1416.
+TEST_F(Campos, SeSumaPorMeses) {
+  EXPECT_EQ(ProduccionFotovoltaica(g, *clima)[0], 0.0F);
+  clima->CENITS[1416] = 60;
+  clima->IDIRECTA[1416] = 800;
+  clima->IDIFUSA[1416] = 100;
+  clima->TSE[1416] = 20;
+  g.PotPico_FV[0] = 3;
+  const TablaMensual meses = ProduccionFotovoltaica(g, *clima);
+  EXPECT_NEAR(meses[1], 1.23, 1e-4);
+  EXPECT_NEAR(meses[2], 1.23, 1e-4);
+  EXPECT_EQ(meses[3], 0.0F);
+  EXPECT_NEAR(meses[0], 2.46, 1e-4);
+}
+
 TEST_F(Campos, AUnPisoLeTocaSuParte) {
   g.PotPico_FV[0] = 3;
   g.PerfilUso = 2;

@@ -1,12 +1,12 @@
 #include "shell/gui/FichaFotovoltaica.h"
 
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
 #include <algorithm>
 
 #include "base/NumeroTexto.h"
-#include "demand/calculo.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -66,7 +66,7 @@ void BarrasMeses::paintEvent(QPaintEvent*) {
 }
 
 FichaFotovoltaica::FichaFotovoltaica(ContextoGui& contexto, QWidget* padre)
-    : Pagina(contexto, padre) {
+    : Pagina(contexto, padre), prevista_(contexto.Ficheros()) {
   auto* columna = new QVBoxLayout(this);
   columna->setContentsMargins(12, 4, 12, 8);
   auto* titulo = new QLabel(tr("Fotovoltaica"), this);
@@ -79,16 +79,11 @@ FichaFotovoltaica::FichaFotovoltaica(ContextoGui& contexto, QWidget* padre)
   nota->setProperty("papel", "nota");
   nota->setWordWrap(true);
   columna->addWidget(nota);
-  columna->addWidget(CajaCampos());
-  columna->addWidget(Seccion(tr("Pérdidas"), this));
-  auto* formulario = new QFormLayout;
-  for (const FilaCampo& c : kPerdidas)
-    enlaces_.Linea(formulario, c.etiqueta, {tr(c.rotulo), Q(c.unidad), tr(c.ayuda), {}, {}});
-  enlaces_.Casilla(
-      formulario, "Existe_fotovoltaica",
-      {tr("Consta en el certificado que hay instalación fotovoltaica"), {}, {}, {}, {}}, "Si",
-      "No");
-  columna->addLayout(formulario);
+  auto* fila = new QHBoxLayout;
+  fila->setSpacing(32);
+  fila->addWidget(CajaCampos(), 0, Qt::AlignTop);
+  fila->addWidget(CajaDatos(), 1, Qt::AlignTop);
+  columna->addLayout(fila);
   columna->addWidget(Seccion(tr("Producción de cada mes, kWh"), this));
   produccion_ = new QLabel(this);
   produccion_->setProperty("papel", "nota");
@@ -128,23 +123,49 @@ QWidget* FichaFotovoltaica::CajaCampos() {
   return caja;
 }
 
+QWidget* FichaFotovoltaica::CajaDatos() {
+  auto* caja = new QWidget(this);
+  auto* formulario = new QFormLayout(caja);
+  formulario->setContentsMargins(0, 0, 0, 0);
+  formulario->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
+  formulario->setVerticalSpacing(4);
+  formulario->addRow(Seccion(tr("Pérdidas"), caja));
+  for (const FilaCampo& c : kPerdidas)
+    enlaces_.Linea(formulario, c.etiqueta, {tr(c.rotulo), Q(c.unidad), tr(c.ayuda), {}, {}});
+  formulario->addRow(Seccion(tr("Datos del proyecto"), caja));
+  const QString ayuda = tr("Consta en el proyecto; la simulación calcula lo suyo");
+  enlaces_.Linea(formulario, "Aporte_fotovoltaico_kwh_ano",
+                 {tr("Aporte previsto"), {}, ayuda, {}, {}, false});
+  enlaces_.Lista(formulario, "Uso_fotovoltaico",
+                 {"Refrigeracion", "Calefaccion", "ACS", "Iluminacion"},
+                 {tr("Uso previsto"), {}, ayuda, {}, {}, false},
+                 {"Refrigeración", "Calefacción", "ACS", "Iluminación"});
+  enlaces_.Casilla(
+      formulario, "Existe_fotovoltaica",
+      {tr("Consta en el certificado que hay instalación fotovoltaica"), {}, {}, {}, {}}, "Si",
+      "No");
+  return caja;
+}
+
 void FichaFotovoltaica::Refrescar() {
   PonerProduccion();
   Pagina::Refrescar();
 }
 
 void FichaFotovoltaica::PonerProduccion() {
-  const auto& calculado = contexto_.Caso().GetCalculo();
-  barras_->setVisible(calculado != nullptr);
-  if (!calculado) {
-    produccion_->setText(tr("Sin calcular: entre en «Certificación» para tener la producción."));
-    return;
+  const auto tabla = prevista_.Calcular(contexto_.Caso());
+  const bool produce = tabla && (*tabla)[0] != 0.0F;
+  barras_->setVisible(produce);
+  if (!tabla) {
+    produccion_->setText(tr("No está el año de clima de la zona: no se sabe la producción."));
+  } else if (!produce) {
+    produccion_->setText(tr("Ningún campo tiene potencia pico."));
+  } else {
+    std::array<float, 12> valores{};
+    std::copy(tabla->begin() + 1, tabla->begin() + 13, valores.begin());
+    barras_->Poner(valores);
+    produccion_->setText(tr("En el año: %1 kWh").arg(Q(Fijo(static_cast<double>((*tabla)[0]), 0))));
   }
-  const TablaMensual& tabla = calculado->meses.produccionFotovoltaica;
-  std::array<float, 12> valores{};
-  std::copy(tabla.begin() + 1, tabla.begin() + 13, valores.begin());
-  barras_->Poner(valores);
-  produccion_->setText(tr("En el año: %1 kWh").arg(Q(Fijo(static_cast<double>(tabla[0]), 0))));
 }
 
 }  // namespace novex::gui

@@ -3,6 +3,7 @@
 #include <QWidget>
 #include <array>
 
+#include "entry/ProduccionPrevista.h"
 #include "shell/gui/Pagina.h"
 
 namespace novex::gui {
@@ -15,6 +16,7 @@ class BarrasMeses : public QWidget {
   explicit BarrasMeses(QWidget* padre = nullptr);
   /// \param valores de enero a diciembre, kWh
   void Poner(const std::array<float, 12>& valores);
+  const std::array<float, 12>& Valores() const { return valores_; }
   QSize sizeHint() const override { return {480, 150}; }
 
  protected:
@@ -24,7 +26,7 @@ class BarrasMeses : public QWidget {
   std::array<float, 12> valores_{};
 };
 
-/// Los tres campos fotovoltaicos del edificio y lo que produjeron en el último cálculo.
+/// Los tres campos fotovoltaicos del edificio y lo que producen cada mes.
 class FichaFotovoltaica : public Pagina {
   Q_OBJECT
 
@@ -34,8 +36,10 @@ class FichaFotovoltaica : public Pagina {
 
  private:
   QWidget* CajaCampos();
+  QWidget* CajaDatos();
   void PonerProduccion();
 
+  ProduccionPrevista prevista_;
   QLabel* produccion_;
   BarrasMeses* barras_;
 };
