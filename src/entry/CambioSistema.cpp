@@ -163,6 +163,9 @@ bool PonerCampoSistema(Edificio& edificio, std::size_t numero, std::string_view 
     return CambiarClase(edificio, *lugar, bloque.Seleccion, std::string(texto), catalogo, mensajes);
   const std::string direccion =
       "Tipo_sistema[" + std::to_string(numero) + "]/" + std::string(etiqueta);
+  // Lo que ya tiene no se comprueba: un tamaño que ha puesto el programa puede no ser de los que se
+  // teclean, como una altura de bomba con decimales.
+  if (LectorCampos(edificio).Valor(direccion) == texto) return true;
   if (!PonerCampo(edificio, direccion, texto, mensajes)) return false;
   if (EstaEn(kPotencias, etiqueta)) RellenarSistema(edificio, sistema, mensajes);
   if (etiqueta == "Distribucion" || etiqueta == "Distribucion2")

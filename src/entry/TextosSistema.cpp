@@ -3,6 +3,7 @@
 #include "base/NumeroTexto.h"
 #include "entry/ListasSistemas.h"
 #include "systems/ClasesSistema.h"
+#include "systems/RepartoSuperficies.h"
 
 namespace novex {
 namespace {
@@ -35,6 +36,19 @@ bool SirveLaZona(const SistemaResidencial& sistema) {
   return DaCalefaccion(tipo) || DaRefrigeracion(tipo);
 }
 
+struct NombreServicio {
+  Servicio servicio;
+  const char* nombre;
+};
+constexpr NombreServicio kServiciosReparto[] = {
+    {kCalefaccion, "calefacción"}, {kRefrigeracion, "refrigeración"}, {kACS, "ACS"}};
+
+// "calefacción 75 %", tras un punto si ya hay otro.
+void AnadirParte(std::string& texto, const char* nombre, float parte) {
+  if (!texto.empty()) texto += " · ";
+  texto += std::string(nombre) + " " + Fijo(100 * static_cast<double>(parte), 0) + " %";
+}
+
 std::string SinBlancosEnMas(std::string texto) {
   constexpr std::string_view kMas = " + ";
   for (std::size_t i; (i = texto.find(kMas)) != std::string::npos;) texto.replace(i, 3, "+");
@@ -61,6 +75,31 @@ std::string EtiquetaClase(const SistemaResidencial& sistema) {
 
 std::string EtiquetaSistema(const SistemaResidencial& sistema) {
   return std::string(RotuloServicio(sistema.Tipo_sistema)) + ": " + EtiquetaClase(sistema);
+}
+
+std::string TextoReparto(const Edificio& edificio, std::size_t sistema) {
+  const SistemaResidencial& s = edificio.GetSistema(sistema);
+  const TipoSistema tipo = TipoSistemaDe(s.Tipo_sistema);
+  const SistemaAire aire = ResolverAjustes(edificio).aire;
+  const CargasHora partes = RepartirServicios(edificio, aire).partes.at(sistema);
+  std::string texto;
+  for (const auto& [servicio, nombre] : kServiciosReparto) {
+    const bool suyo = servicio == kACS           ? DaACS(tipo)
+                      : servicio == kCalefaccion ? DaCalefaccion(tipo)
+                                                 : DaRefrigeracion(tipo);
+    if (suyo) AnadirParte(texto, nombre, partes[servicio]);
+  }
+  const bool delAire = EsSistemaDeAire(s) && aire != SistemaAire::UTA;
+  return (delAire ? "Reparto del aire de ventilación: " : "Reparto: ") + texto;
+}
+
+std::string TextoSinSistema(const Edificio& edificio) {
+  constexpr float kDespreciable = 0.005F;
+  const CargasHora falta = RepartirServicios(edificio, ResolverAjustes(edificio).aire).sinSistema;
+  std::string texto;
+  for (const auto& [servicio, nombre] : kServiciosReparto)
+    if (falta[servicio] >= kDespreciable) AnadirParte(texto, nombre, falta[servicio]);
+  return texto.empty() ? texto : "Sin sistema: " + texto;
 }
 
 std::vector<std::string_view> NotasSistema(const Edificio& edificio,

@@ -65,6 +65,19 @@ TEST_F(CambioSistemaTest, UnaPotenciaRellenaCaudalesYMinimos) {
   EXPECT_FLOAT_EQ(Bloque().GEN1.Caudal, 500);
 }
 
+// La altura que da el dimensionado lleva decimales y se teclea en metros enteros: volver a poner la
+// que hay no la cambia.
+TEST_F(CambioSistemaTest, LoQueYaTieneNoSeComprueba) {
+  Anadir("Calefaccion", "1 Caldera");
+  EXPECT_TRUE(Poner(1, "PSBZ", "3.2"));
+  EXPECT_EQ(mensajes.recibidos.size(), 1U);
+  EXPECT_FLOAT_EQ(Bloque().SBZ.P, 3);
+  edificio->GetSistema(0).instalaciones[0].SBZ.P = 3.27F;
+  EXPECT_TRUE(Poner(1, "PSBZ", "3.27"));
+  EXPECT_TRUE(mensajes.recibidos.empty());
+  EXPECT_FLOAT_EQ(Bloque().SBZ.P, 3.27F);
+}
+
 TEST_F(CambioSistemaTest, OtraClaseDejaEleccionesQueAdmite) {
   Anadir("Calefaccion+Refrigeracion", "1 BC aire-agua");
   Bloque().Emisor = "Suelo radiante";

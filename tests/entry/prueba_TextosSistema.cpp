@@ -49,6 +49,30 @@ TEST(EtiquetaSistema, ServicioClaseYEmisor) {
   EXPECT_EQ(EtiquetaClase(s), "Vacío");
 }
 
+// 12 y 36 kW de calefacción, y agua caliente para 50 de los 100 m2.
+TEST(Reparto, LoQueLeTocaACadaSistemaYLoQueNoSirveNinguno) {
+  auto edificio = pruebas::EdificioD3(3, 100, 112);
+  SistemaResidencial s = pruebas::Sistema("ACS+Calefaccion", "1 Caldera", kI);
+  s.instalaciones[0].QcalorCaldera1 = 12;
+  s.instalaciones[0].NEquipos = 1;
+  s.Sup_ACS = 50;
+  edificio->AnadirSistema(s);
+  s.Tipo_sistema = "Calefaccion";
+  s.instalaciones[0].NEquipos = 3;
+  edificio->AnadirSistema(s);
+  EXPECT_EQ(TextoReparto(*edificio, 0), "Reparto: calefacción 25 % · ACS 50 %");
+  EXPECT_EQ(TextoReparto(*edificio, 1), "Reparto: calefacción 75 %");
+  EXPECT_EQ(TextoSinSistema(*edificio), "Sin sistema: refrigeración 100 % · ACS 50 %");
+  SistemaResidencial aire = pruebas::Sistema("Calefaccion+Refrigeracion", "Rooftop", kI);
+  aire.instalaciones[0].QFrioTot1 = aire.instalaciones[0].QcalorBC1 = 5;
+  aire.instalaciones[0].NEquipos = 1;
+  edificio->AnadirSistema(aire);
+  EXPECT_EQ(TextoReparto(*edificio, 2),
+            "Reparto del aire de ventilación: calefacción 100 % · refrigeración 100 %");
+  edificio->GetSistema(0).Sup_ACS = 100;
+  EXPECT_EQ(TextoSinSistema(*edificio), "");
+}
+
 TEST(NotasSistema, LasQueTocan) {
   auto edificio = pruebas::EdificioD3(0, 100, 112);
   SistemaResidencial s = pruebas::Sistema("Calefaccion", "1 Caldera", kI);

@@ -86,6 +86,28 @@ TEST_F(InstalacionesTest, ElArbolTieneServiciosGeneradoresYEmisores) {
   EXPECT_EQ(Buscar<QLineEdit>("Tipo_sistema[1]/QcalorCaldera1"), nullptr);
 }
 
+// Se pliegan dos servicios y se edita el sistema de uno: siguen plegados y el nodo elegido es el
+// suyo.
+TEST_F(InstalacionesTest, ElArbolSigueComoEstabaTrasUnaEdicion) {
+  Abrir("caldera_condensacion_solar_D3.xml");
+  EXPECT_EQ(Pieza<QLabel>("reparto")->text(), "Reparto: ACS 100 %");
+  EXPECT_TRUE(Pieza<QLabel>("sinSistema")->isHidden());
+  Elegir("Radiadores");
+  Arbol()->topLevelItem(0)->setExpanded(false);
+  Teclear(Buscar<QLineEdit>("Tipo_sistema[2]/QcalorCaldera1"), "40");
+  EXPECT_FALSE(Arbol()->topLevelItem(0)->isExpanded());
+  EXPECT_TRUE(Arbol()->topLevelItem(1)->isExpanded());
+  EXPECT_EQ(Arbol()->currentItem()->text(0), "Radiadores");
+  // Plegar lo elegido deja elegido su servicio, y otra edición no lo despliega.
+  Arbol()->setCurrentItem(Arbol()->topLevelItem(1));
+  Arbol()->topLevelItem(1)->setExpanded(false);
+  Teclear(Buscar<QLineEdit>("Tipo_sistema[2]/QcalorCaldera1"), "30");
+  EXPECT_FALSE(Arbol()->topLevelItem(1)->isExpanded());
+  EXPECT_EQ(Arbol()->currentItem(), Arbol()->topLevelItem(1));
+  Pieza<QPushButton>("eliminar")->click();
+  EXPECT_EQ(Pieza<QLabel>("sinSistema")->text(), "Sin sistema: calefacción 100 %");
+}
+
 TEST_F(InstalacionesTest, UnaPotenciaSeTecleaRellenaSeRechazaYSeDeshace) {
   Abrir("caldera_condensacion_solar_D3.xml");
   Elegir("1 Caldera (Radiadores)");
@@ -160,6 +182,11 @@ TEST_F(InstalacionesTest, SeCreaSeRechazaYSeElimina) {
     d.findChild<QPushButton*>("BitBtn3")->click();
   });
   ASSERT_EQ(sesion.Caso().NumeroSistemas(), 4U);
+  sesion.Deshacer();
+  EXPECT_EQ(sesion.Caso().NumeroSistemas(), 3U);
+  sesion.Rehacer();
+  ASSERT_EQ(sesion.Caso().NumeroSistemas(), 4U);
+  emit ventana->Contexto().Editado();
   EXPECT_EQ(sesion.Caso().GetSistema(3).Nombre_sistema, "Baños");
   EXPECT_FLOAT_EQ(sesion.Caso().GetSistema(3).Sup_Calefaccion, 40);
   EXPECT_NE(Buscar<QLineEdit>("Tipo_sistema[4]/RadiadorElectrico"), nullptr);
@@ -197,11 +224,14 @@ TEST_F(InstalacionesTest, SeDimensionaSoloLoMarcado) {
   EXPECT_FLOAT_EQ(Bloque(1).QcalorCaldera1, 16);
   EXPECT_FLOAT_EQ(Bloque(1).GEN1.Caudal, caudal);
   EXPECT_EQ(sesion.QueDeshace(), "Dimensionado");
+  sesion.Deshacer();
+  EXPECT_FLOAT_EQ(Bloque(1).QcalorCaldera1, 60);
 }
 
 TEST_F(InstalacionesTest, UnModeloDelCatalogoLlenaElEquipo) {
   Abrir("caldera_condensacion_solar_D3.xml");
   Elegir("Equipo Split (Unid.Interior)");
+  const Instalaciones antes = Bloque(2);
   EnDialogo<DialogoCatalogo>(Boton("Catálogo…"), [&](DialogoCatalogo& d) {
     auto* fabricantes = d.findChild<QComboBox*>("fabricantes");
     auto* tabla = d.findChild<QTableWidget*>("modelos");
@@ -218,6 +248,8 @@ TEST_F(InstalacionesTest, UnModeloDelCatalogoLlenaElEquipo) {
     EXPECT_EQ(Bloque(2).Fabricante, fabricantes->currentText().toStdString());
   });
   EXPECT_EQ(sesion.QueDeshace(), "Modelo del catálogo");
+  sesion.Deshacer();
+  EXPECT_EQ(Bloque(2), antes);
 }
 
 TEST_F(InstalacionesTest, LasCurvasSeCambianYDejanDeSerLasDelModelo) {
@@ -256,13 +288,21 @@ TEST_F(InstalacionesTest, SolarYFotovoltaica) {
   Elegir("Fotovoltaica");
   Teclear(Buscar<QLineEdit>("PotPico_FV2"), "3");
   EXPECT_FLOAT_EQ(sesion.Caso().GetDatosGenerales().PotPico_FV[1], 3);
+  Teclear(Buscar<QLineEdit>("Aporte_fotovoltaico_kwh_ano"), "4000");
+  EXPECT_FLOAT_EQ(sesion.Caso().GetDatosGenerales().Aporte_fotovoltaico_kwh_ano, 4000);
+  ElegirLista("Uso_fotovoltaico", "ACS");
+  EXPECT_EQ(sesion.Caso().GetDatosGenerales().Uso_fotovoltaico, "ACS");
+  // La producción se ve sin calcular y es la del cálculo.
   auto* barras = Pieza<BarrasMeses>("produccionFV");
-  EXPECT_TRUE(barras->isHidden());
+  EXPECT_FALSE(barras->isHidden());
   Progreso progreso;
   Entorno entorno{ficheros, mensajes, progreso};
   ASSERT_TRUE(CalcularProyecto(sesion.GestorParaCalcular(), entorno));
-  ventana->Mostrar(Destino::Instalaciones);
-  EXPECT_FALSE(barras->isHidden());
+  for (std::size_t m = 0; m < 12; ++m)
+    EXPECT_FLOAT_EQ(barras->Valores()[m],
+                    sesion.Caso().GetCalculo()->meses.produccionFotovoltaica[m + 1]);
+  Teclear(Buscar<QLineEdit>("PotPico_FV2"), "0");
+  EXPECT_TRUE(barras->isHidden());
 }
 
 TEST_F(InstalacionesTest, CapturasDeInstalaciones) {

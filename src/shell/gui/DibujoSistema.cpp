@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kColumnas = 5;
 constexpr double kAltoFila = 92, kPasoMaximo = 190;
-constexpr double kAnchoPieza = 108, kAltoPieza = 54;
+constexpr double kAnchoPieza = 108, kAltoPieza = 54, kAltoUltima = 82;  // con su rótulo
 constexpr QRgb kCaliente = 0xffc8553d, kSolar = 0xffd9921a;
 
 QString Cifra(float valor, int decimales, const char* unidad) {
@@ -43,7 +43,7 @@ DibujoSistema::DibujoSistema(QWidget* padre) : QWidget(padre) {
 }
 
 QSize DibujoSistema::sizeHint() const {
-  return {640, static_cast<int>(kAltoFila * filas_) + 8};
+  return {640, static_cast<int>(kAltoFila * (filas_ - 1) + kAltoUltima)};
 }
 
 std::size_t DibujoSistema::Anadir(Pieza pieza) {

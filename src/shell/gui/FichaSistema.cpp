@@ -79,8 +79,12 @@ void FichaSistema::CrearCabecera(QVBoxLayout* columna) {
   columna->addLayout(fila);
   instalacion_ = Nota("nota", {}, this);
   columna->addWidget(instalacion_);
-  modelo_ = Nota("nota", {}, this);
-  columna->addWidget(modelo_);
+  reparto_ = Nota("nota", {}, this);
+  reparto_->setObjectName("reparto");
+  reparto_->setToolTip(
+      tr("La carga de cada servicio que le toca al sistema: en calefacción y refrigeración, por su "
+         "potencia entre las de todos; en ACS, por la superficie que sirve"));
+  columna->addWidget(reparto_);
   aviso_ = Nota("aviso", {}, this);
   aviso_->setText(
       tr("La distribución y la alimentación no forman ningún arreglo: elija otra "
@@ -118,10 +122,13 @@ void FichaSistema::AnadirGrupo(QFormLayout* formulario, GrupoCampos grupo,
   formulario->addRow(Nota("seccion", TituloDeGrupo(grupo), contenido_));
   for (const CampoMostrado& campo : campos)
     if (suyo(campo)) Anadir(formulario, campo);
-  if (grupo == GrupoCampos::Superficies)
+  const auto repartida = [](const CampoMostrado& c) {
+    return c.etiqueta == "Sup_Calefaccion" || c.etiqueta == "Sup_Refrigeracion";
+  };
+  if (grupo == GrupoCampos::Superficies && std::any_of(campos.begin(), campos.end(), repartida))
     formulario->addRow(Nota("nota",
-                            tr("El cálculo reparte de nuevo la superficie entre los sistemas, por "
-                               "su potencia."),
+                            tr("El cálculo reparte de nuevo las de calefacción y refrigeración "
+                               "entre los sistemas, por su potencia."),
                             contenido_));
 }
 
@@ -223,17 +230,18 @@ void FichaSistema::Refrescar() {
   const Firma firma{numero_, CamposMostrados(e, sistema, bloque)};
   if (!(firma == firma_)) Rehacer(firma);
   PonerCabecera(sistema, bloque);
+  reparto_->setText(Q(TextoReparto(e, lugar->sistema)));
   dibujo_->Poner(sistema, bloque);
   enlaces_.Refrescar();
 }
 
 void FichaSistema::PonerCabecera(const SistemaResidencial& sistema, const Instalaciones& bloque) {
   titulo_->setText(Q(EtiquetaSistema(sistema)));
-  instalacion_->setText(
-      Q(EtiquetaInstalacion(contexto_.Caso().GetDatosGenerales(), bloque.TipoInstalacionesG)));
+  QString instalacion =
+      Q(EtiquetaInstalacion(contexto_.Caso().GetDatosGenerales(), bloque.TipoInstalacionesG));
   const bool conModelo = !TipoDeCatalogo(bloque.Seleccion).familia.empty();
-  modelo_->setText(conModelo ? ModeloDe(bloque) : QString());
-  modelo_->setVisible(conModelo);
+  if (conModelo) instalacion += ". " + ModeloDe(bloque);
+  instalacion_->setText(instalacion);
   catalogo_->setVisible(conModelo);
   curvas_->setVisible(conModelo);
   aviso_->setVisible(ArregloSinDefinir(sistema, bloque));

@@ -94,7 +94,7 @@ constexpr RotuloBomba kBombas[] = {
     {"DT", "Salto", "Salto de temperatura del circuito"},
     {"Rend", "Rendimiento", "Hidráulico y eléctrico de la bomba, de 0,3 a 1"},
     {"control", "Control", "Cómo baja la bomba con la carga"},
-    {"P", "Altura", "Presión que ha de vencer"}};
+    {"P", "Altura", "Presión que ha de vencer. Se teclea en metros enteros"}};
 
 constexpr std::pair<std::string_view, const char*> kCircuitos[] = {
     {"SBZ", "Zona"},     {"GEN1", "Generador 1"},   {"GEN2", "Generador 2"},

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSet>
 #include <QVBoxLayout>
 #include <map>
 
@@ -21,7 +22,7 @@
 namespace novex::gui {
 namespace {
 
-constexpr int kFicha = Qt::UserRole, kNumero = Qt::UserRole + 1;
+constexpr int kFicha = Qt::UserRole, kNumero = Qt::UserRole + 1, kRuta = Qt::UserRole + 2;
 
 QString RotuloBloque(const SistemaResidencial& sistema, const Instalaciones& bloque) {
   SistemaResidencial uno;
@@ -61,8 +62,15 @@ QWidget* TTEquipos::CajaArbol() {
   arbol_->setObjectName("LVSistemas");
   arbol_->setHeaderHidden(true);
   arbol_->setIndentation(14);
+  arbol_->setExpandsOnDoubleClick(false);
   arbol_->setAccessibleName(tr("Sistemas"));
   columna->addWidget(arbol_, 1);
+  sinSistema_ = new QLabel(caja);
+  sinSistema_->setObjectName("sinSistema");
+  sinSistema_->setProperty("papel", "nota");
+  sinSistema_->setWordWrap(true);
+  sinSistema_->setToolTip(tr("La parte de cada servicio que no sirve ningún sistema"));
+  columna->addWidget(sinSistema_);
   auto* crear = new QPushButton(tr("Crear instalación…"), caja);
   crear->setObjectName("crear");
   columna->addWidget(crear);
@@ -125,7 +133,8 @@ TTEquipos::Nodo TTEquipos::NodoDe(const QTreeWidgetItem* item) {
           static_cast<std::size_t>(item->data(0, kNumero).toUInt())};
 }
 
-QTreeWidgetItem* TTEquipos::Anadir(QTreeWidgetItem* padre, const QString& texto, Nodo nodo) {
+QTreeWidgetItem* TTEquipos::Anadir(QTreeWidgetItem* padre, const QString& texto, Nodo nodo,
+                                   const QString& ruta) {
   auto* item = new QTreeWidgetItem(QStringList{texto});
   if (padre == nullptr)
     arbol_->addTopLevelItem(item);
@@ -133,6 +142,7 @@ QTreeWidgetItem* TTEquipos::Anadir(QTreeWidgetItem* padre, const QString& texto,
     padre->addChild(item);
   item->setData(0, kFicha, static_cast<int>(nodo.ficha));
   item->setData(0, kNumero, static_cast<uint>(nodo.numero));
+  item->setData(0, kRuta, ruta);
   item->setToolTip(0, texto);
   return item;
 }
@@ -147,40 +157,68 @@ void TTEquipos::PonerSistemas() {
       const Nodo nodo{Nodo::Ficha::Sistema, ++numero};
       QTreeWidgetItem*& servicio = servicios[sistema.Tipo_sistema];
       if (servicio == nullptr)
-        servicio = Anadir(nullptr, Q(RotuloServicio(sistema.Tipo_sistema)), nodo);
-      QTreeWidgetItem* generador = Anadir(servicio, RotuloBloque(sistema, bloque), nodo);
+        servicio =
+            Anadir(nullptr, Q(RotuloServicio(sistema.Tipo_sistema)), nodo, Q(sistema.Tipo_sistema));
+      const QString ruta = QString::number(numero);
+      QTreeWidgetItem* generador = Anadir(servicio, RotuloBloque(sistema, bloque), nodo, ruta);
       generador->setToolTip(0, Q(sistema.Nombre_sistema));
       const TipoSistema tipo = TipoSistemaDe(sistema.Tipo_sistema);
       if ((DaCalefaccion(tipo) || DaRefrigeracion(tipo)) && !bloque.Emisor.empty())
-        Anadir(generador, Q(bloque.Emisor), nodo);
+        Anadir(generador, Q(bloque.Emisor), nodo, ruta + "/emisor");
       if (ResolverArreglo(tipo, bloque).deposito)
         Anadir(generador, tr("Depósito %1 l").arg(Q(Fijo(static_cast<double>(bloque.Volumen), 0))),
-               nodo);
+               nodo, ruta + "/depósito");
     }
   }
 }
 
-void TTEquipos::LlenarArbol() {
-  const QSignalBlocker callado(arbol_);
-  arbol_->clear();
-  PonerSistemas();
-  Anadir(nullptr, tr("Solar térmica"), {Nodo::Ficha::Solar, 0});
-  Anadir(nullptr, tr("Fotovoltaica"), {Nodo::Ficha::Fotovoltaica, 0});
-  arbol_->expandAll();
-  // El sistema elegido puede haberse ido, al borrarlo o con otro caso.
+// El elegido puede haberse ido, al borrar su sistema o con otro caso.
+void TTEquipos::AjustarElegido() {
   while (elegido_.ficha == Nodo::Ficha::Sistema && elegido_.numero > 0 &&
          !LugarDeBloque(contexto_.Caso(), elegido_.numero))
     --elegido_.numero;
   if (elegido_.ficha == Nodo::Ficha::Sistema && elegido_.numero == 0) elegido_ = {};
   if (elegido_.ficha == Nodo::Ficha::Ninguna && contexto_.Caso().NumeroSistemas() > 0)
     elegido_ = {Nodo::Ficha::Sistema, 1};
+}
+
+// El nodo de una ruta, si enseña lo elegido; si no, el del generador, o su servicio si está
+// plegado.
+QTreeWidgetItem* TTEquipos::ItemElegido(const QString& ruta) const {
   QTreeWidgetItem* mejor = nullptr;
-  for (QTreeWidgetItemIterator it(arbol_); *it != nullptr; ++it)
-    if (NodoDe(*it) == elegido_ && (mejor == nullptr || mejor == (*it)->parent())) {
-      mejor = *it;
-      if (mejor->parent() != nullptr) break;
+  for (QTreeWidgetItemIterator it(arbol_); *it != nullptr; ++it) {
+    if (NodoDe(*it) != elegido_) continue;
+    if ((*it)->data(0, kRuta).toString() == ruta) return *it;
+    if (mejor == nullptr || mejor == (*it)->parent()) {
+      const QTreeWidgetItem* padre = (*it)->parent();
+      const bool generador = padre != nullptr && padre->parent() == nullptr;
+      if (mejor == nullptr || generador) mejor = *it;
     }
-  arbol_->setCurrentItem(mejor);
+  }
+  if (mejor != nullptr && mejor->parent() != nullptr && !mejor->parent()->isExpanded())
+    return mejor->parent();
+  return mejor;
+}
+
+void TTEquipos::LlenarArbol() {
+  const QSignalBlocker callado(arbol_);
+  QSet<QString> plegados;
+  for (QTreeWidgetItemIterator it(arbol_); *it != nullptr; ++it)
+    if ((*it)->childCount() > 0 && !(*it)->isExpanded())
+      plegados.insert((*it)->data(0, kRuta).toString());
+  const QTreeWidgetItem* actual = arbol_->currentItem();
+  const QString ruta = actual != nullptr ? actual->data(0, kRuta).toString() : QString();
+  arbol_->clear();
+  PonerSistemas();
+  Anadir(nullptr, tr("Solar térmica"), {Nodo::Ficha::Solar, 0}, "solar");
+  Anadir(nullptr, tr("Fotovoltaica"), {Nodo::Ficha::Fotovoltaica, 0}, "fotovoltaica");
+  for (QTreeWidgetItemIterator it(arbol_); *it != nullptr; ++it)
+    (*it)->setExpanded(!plegados.contains((*it)->data(0, kRuta).toString()));
+  AjustarElegido();
+  arbol_->setCurrentItem(ItemElegido(ruta));
+  const QString falta = Q(TextoSinSistema(contexto_.Caso()));
+  sinSistema_->setText(falta);
+  sinSistema_->setVisible(!falta.isEmpty());
 }
 
 void TTEquipos::Elegir(Nodo nodo) {

@@ -34,9 +34,13 @@ class TTEquipos : public Pagina {
 
   QWidget* CajaArbol();
   QWidget* PaginaVacia();
-  QTreeWidgetItem* Anadir(QTreeWidgetItem* padre, const QString& texto, Nodo nodo);
+  /// \param ruta lo que distingue al nodo de los demás mientras el árbol se rehace
+  QTreeWidgetItem* Anadir(QTreeWidgetItem* padre, const QString& texto, Nodo nodo,
+                          const QString& ruta);
   static Nodo NodoDe(const QTreeWidgetItem* item);
   void LlenarArbol();
+  void AjustarElegido();
+  QTreeWidgetItem* ItemElegido(const QString& ruta) const;
   void PonerSistemas();
   void Elegir(Nodo nodo);
   void Ensenar();
@@ -48,6 +52,7 @@ class TTEquipos : public Pagina {
   FichaSistema* sistema_;
   FichaSolar* solar_;
   FichaFotovoltaica* fotovoltaica_;
+  QLabel* sinSistema_;
   QPushButton *eliminar_, *renombrar_;
   Nodo elegido_;
 };
