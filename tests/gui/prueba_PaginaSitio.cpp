@@ -1,6 +1,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineSeries>
+#include <QListView>
 #include <QTabWidget>
 
 #include "gui/VentanaPrueba.h"
@@ -60,6 +61,21 @@ TEST_F(PaginaSitioTest, DeLaListaSeEligeConLasFlechas) {
   ASSERT_NE(QApplication::activePopupWidget(), nullptr);
   Teclear(municipio, "jaca");
   EXPECT_EQ(Lugar().Municipio, "Jaca");
+}
+
+// Con el ratón: volver a elegir la provincia que hay enseña sus municipios.
+TEST_F(PaginaSitioTest, SeEligeSinTeclear) {
+  auto* provincia = Buscar<QComboBox>("Provincia");
+  emit provincia->activated(provincia->currentIndex());
+  auto* lista = qobject_cast<QListView*>(QApplication::activePopupWidget());
+  ASSERT_NE(lista, nullptr);
+  ASSERT_GT(lista->model()->rowCount(), 200);  // la provincia tiene 266
+  const QModelIndex segundo = lista->model()->index(1, 0);
+  const QString texto = segundo.data().toString();
+  QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, lista->visualRect(segundo).center());
+  EXPECT_EQ(Lugar().Provincia, "Valencia/València");
+  EXPECT_TRUE(texto.startsWith(Q(Lugar().Municipio) + "  ·"));
+  EXPECT_NE(Lugar().Municipio, "Valencia");
 }
 
 TEST_F(PaginaSitioTest, UnNombreQueNoBastaNoCambiaNada) {

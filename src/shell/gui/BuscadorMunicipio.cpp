@@ -55,7 +55,8 @@ BuscadorMunicipio::BuscadorMunicipio(QFormLayout* formulario, Catalogo catalogo,
   connect(provincia_, &QComboBox::activated, this, [this] {
     municipio_->clear();
     municipio_->setFocus();
-    Ofrecer({});
+    // Sin teclear nada se elige en los de la provincia, aunque sea la que había.
+    OfrecerEn({}, S(provincia_->currentText()));
   });
 }
 
@@ -83,10 +84,13 @@ void BuscadorMunicipio::Restaurar() {
 // Con la provincia del caso a la vista se busca en toda España; con otra, solo en ella.
 void BuscadorMunicipio::Ofrecer(const QString& letras) {
   const bool acotada = provincia_->currentText() != suProvincia_;
-  const std::string provincia = acotada ? S(provincia_->currentText()) : std::string();
+  OfrecerEn(letras, acotada ? S(provincia_->currentText()) : std::string());
+}
+
+void BuscadorMunicipio::OfrecerEn(const QString& letras, const std::string& provincia) {
   candidatos_->clear();
   aviso_->hide();
-  if (letras.trimmed().isEmpty() && !acotada) return lista_->popup()->hide();
+  if (letras.trimmed().isEmpty() && provincia.empty()) return lista_->popup()->hide();
   std::size_t cuantos = 0;
   for (const Municipio* m : catalogo_().Empiezan(S(letras), provincia)) {
     if (++cuantos > kMaximoOfrecidos) break;

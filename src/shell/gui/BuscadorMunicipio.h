@@ -36,6 +36,8 @@ class BuscadorMunicipio : public QObject {
  private:
   void LlenarProvincias();
   void Ofrecer(const QString& letras);
+  /// \param provincia vacía, toda España
+  void OfrecerEn(const QString& letras, const std::string& provincia);
   void Tomar(const QModelIndex& fila);
   void AlPulsarIntro();
   void Restaurar();
