@@ -40,6 +40,11 @@ std::string TextoCifra(float valor) {
   return Fijo(static_cast<double>(valor), kDecimales);
 }
 
+bool ConSonda(std::string_view modulacion) {
+  return modulacion == "Proporcional al nº personas (sonda CO2)" ||
+         modulacion == "SondaCO2 con freecooling";
+}
+
 // El valor pasa por la misma comprobación que si se tecleara.
 void GuardarRenovaciones(Edificio& edificio, std::string_view texto, const char* segunHS3,
                          Mensajes& mensajes) {
@@ -105,15 +110,24 @@ void PonerSegunHS3(Edificio& edificio, bool segunHS3, Mensajes& mensajes) {
 bool PonerModulacionAire(Edificio& edificio, std::string_view texto, Mensajes& mensajes) {
   const auto textos = TextosDeCampo("TipoCO2");
   if (std::find(textos.begin(), textos.end(), texto) == textos.end()) return false;
-  const bool conSonda =
-      texto == "Proporcional al nº personas (sonda CO2)" || texto == "SondaCO2 con freecooling";
-  if (conSonda && edificio.GetDatosGenerales().Sensibleocupantes <= 0.0F) {
+  if (ConSonda(texto) && edificio.GetDatosGenerales().Sensibleocupantes <= 0.0F) {
     mensajes.Avisar("AVISO",
                     "La sonda de CO2 necesita la ocupación: defina antes el calor sensible de los "
                     "ocupantes");
     return false;
   }
   CambiarGenerales(edificio, [&](DatosGenerales& g) { g.TipoCO2 = texto; });
+  return true;
+}
+
+bool PonerOcupacionSensible(Edificio& edificio, std::string_view texto, Mensajes& mensajes) {
+  const float sensible = ComprobarValor(texto, "RatioQS", mensajes);
+  if (sensible <= 0.0F && ConSonda(edificio.GetDatosGenerales().TipoCO2)) {
+    mensajes.Avisar("AVISO",
+                    "El aire sigue a una sonda de CO2: la ocupación tiene que ser mayor que cero");
+    return false;
+  }
+  CambiarGenerales(edificio, [&](DatosGenerales& g) { g.Sensibleocupantes = sensible; });
   return true;
 }
 

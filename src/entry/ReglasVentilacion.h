@@ -38,6 +38,10 @@ void PonerSegunHS3(Edificio& edificio, bool segunHS3, Mensajes& mensajes);
 /// \returns si la ha puesto; falso también si el texto no es de la lista
 bool PonerModulacionAire(Edificio& edificio, std::string_view texto, Mensajes& mensajes);
 
+/// Pone el calor sensible de los ocupantes de un uso terciario, W/m2. Mientras el aire siga a una
+/// sonda de CO2 no puede ser 0: se avisa y no cambia. \returns si lo ha puesto
+bool PonerOcupacionSensible(Edificio& edificio, std::string_view texto, Mensajes& mensajes);
+
 /// Clases de calidad del aire interior de los usos terciarios (RITE, IT 1.1.4.2.2).
 enum class ClaseAire : std::size_t { IDA1, IDA2, IDA3 };
 

@@ -111,6 +111,14 @@ TEST(ModulacionAire, LaSondaNecesitaOcupantes) {
   EXPECT_EQ(modulacion(), "SondaCO2 con freecooling");
   EXPECT_FALSE(PonerModulacionAire(e, "otra", m));
   EXPECT_EQ(m.recibidos.size(), 1U);
+  // Y mientras la haya no se quedan en nada.
+  EXPECT_FALSE(PonerOcupacionSensible(e, "0", m));
+  EXPECT_EQ(m.recibidos.size(), 2U);
+  EXPECT_EQ(e.GetDatosGenerales().Sensibleocupantes, 6.0F);
+  EXPECT_TRUE(PonerOcupacionSensible(e, "8,5", m));
+  EXPECT_EQ(e.GetDatosGenerales().Sensibleocupantes, 8.5F);
+  EXPECT_TRUE(PonerModulacionAire(e, "Coef. operacionales", m));
+  EXPECT_TRUE(PonerOcupacionSensible(e, "0", m));
 }
 
 }  // namespace

@@ -74,6 +74,15 @@ TEST_F(PaginaUsoTest, LasRenovacionesSiguenALasViviendasYAlVolumen) {
   EXPECT_EQ(Generales().ConsumoAgua_litros_dia, 140);  // 28 l por cada una de 5 personas
 }
 
+TEST_F(PaginaUsoTest, SeEnsenanLosTiposDeViviendaQueHayYUnoMas) {
+  Abrir("vivienda_unifamiliar_D3.xml");
+  EXPECT_TRUE(SeVe("Tipologia[2]/N_viviendas"));
+  EXPECT_FALSE(SeVe("Tipologia[3]/N_viviendas"));
+  Teclear(Buscar<QLineEdit>("Tipologia[2]/N_viviendas"), "3");
+  EXPECT_TRUE(SeVe("Tipologia[3]/N_cuartos_de_banyo"));
+  EXPECT_FALSE(SeVe("Tipologia[4]/N_viviendas"));
+}
+
 TEST_F(PaginaUsoTest, ElRecuperadorEnsenaSoloSusDatos) {
   Abrir("vivienda_unifamiliar_D3.xml");
   Elegir("Recuperador", 1);  // sensible sin by-pass
@@ -114,6 +123,12 @@ TEST_F(PaginaUsoTest, ElTerciarioTieneSuAireYSuIluminacion) {
   EXPECT_EQ(Generales().EPotIluMax, 25);
   Teclear(Buscar<QLineEdit>("Iluminacion"), "27");  // como mucho 26: vale 5
   EXPECT_EQ(Generales().Iluminacion, 5);
+  Teclear(Buscar<QLineEdit>("Sensibleocupantes"), "8");
+  Teclear(Buscar<QLineEdit>("Latenteocupantes"), "5");
+  Teclear(Buscar<QLineEdit>("Equipos"), "41");  // como mucho 40: vale 0
+  EXPECT_EQ(Generales().Sensibleocupantes, 8);
+  EXPECT_EQ(Generales().Latenteocupantes, 5);
+  EXPECT_EQ(Generales().Equipos, 0);
 }
 
 TEST_F(PaginaUsoTest, RefrescarEsRapido) {

@@ -122,7 +122,9 @@ QWidget* PaginaUso::CajaViviendas() {
   for (std::size_t t = 0; t < kTipologias; ++t) {
     const int fila = static_cast<int>(t) + 1;
     const QString tipo = QString(QChar(u'A' + static_cast<int>(t)));
-    rejilla->addWidget(new QLabel(tr("Tipo %1").arg(tipo), caja), fila, 0);
+    auto* rotulo = new QLabel(tr("Tipo %1").arg(tipo), caja);
+    rejilla->addWidget(rotulo, fila, 0);
+    filasViviendas_.push_back({rotulo});
     for (std::size_t c = 0; c < kCampos.size(); ++c) {
       const std::string direccion = "Tipologia[" + std::to_string(t + 1) + "]/" + kCampos[c];
       const int posicion = static_cast<int>(c);
@@ -132,11 +134,14 @@ QWidget* PaginaUso::CajaViviendas() {
                  direccion),
           aviso);
       rejilla->addWidget(celda, fila, posicion + 1);
+      filasViviendas_.back().push_back(celda);
     }
     personas_.push_back(new QLabel(caja));
     caudales_.push_back(new QLabel(caja));
     rejilla->addWidget(personas_.back(), fila, 5, Qt::AlignRight);
     rejilla->addWidget(caudales_.back(), fila, 6, Qt::AlignRight);
+    filasViviendas_.back().insert(filasViviendas_.back().end(),
+                                  {personas_.back(), caudales_.back()});
   }
   columna->addLayout(rejilla);
   columna->addWidget(aviso);
@@ -160,6 +165,11 @@ QWidget* PaginaUso::CajaAgua() {
            filas, "Nm2_p",
            Opciones(tr("Superficie por persona"),
                     tr("Ocupación para el agua caliente y para la clase de aire"), "m²/persona")),
+       Terciario);
+  Solo(filas,
+       enlaces_.Linea(filas, "CriterioACS",
+                      OpcionesSinCalculo(tr("Criterio de demanda"),
+                                         tr("El del proyecto, si no es el de la actividad"))),
        Terciario);
   enlaces_.Linea(filas, "ConsumoAgua_litros_dia",
                  Opciones(tr("Demanda diaria"), tr("Consumo del edificio a 60 ºC")));
@@ -272,15 +282,27 @@ QWidget* PaginaUso::CajaIluminacion() {
 }
 
 QWidget* PaginaUso::CajaCarga() {
-  auto* caja = new QGroupBox(tr("Carga interna media"), this);
-  auto* columna = new QVBoxLayout(caja);
-  PonerMargenes(caja);
+  const auto [caja, filas] = NuevaCaja(tr("Carga interna"), this);
+  const QString ayuda = tr("Valor máximo del uso: sus horarios van en % de él");
+  OpcionesCampo sensible = Opciones(tr("Ocupantes, sensible"), ayuda);
+  sensible.poner = [](Edificio& e, std::string_view texto, Mensajes& mensajes) {
+    PonerOcupacionSensible(e, texto, mensajes);
+  };
+  Solo(filas, enlaces_.Linea(filas, "Sensibleocupantes", sensible), Terciario);
+  Solo(filas, enlaces_.Linea(filas, "Latenteocupantes", Opciones(tr("Ocupantes, latente"), ayuda)),
+       Terciario);
+  Solo(filas, enlaces_.Linea(filas, "Equipos", Opciones(tr("Equipos"), ayuda)), Terciario);
+  auto* fila = new QHBoxLayout;
   carga_ = new QLabel(caja);
   carga_->setToolTip(
-      tr("Ocupación sensible, iluminación y equipos en el año (CTE DB-HE, anejo A)"));
-  columna->addWidget(carga_);
+      tr("Carga interna media: ocupación sensible, iluminación y equipos en el año (CTE DB-HE, "
+         "anejo A)"));
+  fila->addWidget(carga_);
+  fila->addSpacing(12);
   nivel_ = NotaCorta(caja);
-  columna->addWidget(nivel_);
+  fila->addWidget(nivel_);
+  fila->addStretch(1);
+  filas->addRow(fila);
   return caja;
 }
 
@@ -312,7 +334,12 @@ void PaginaUso::TomarAguaDeReferencia() {
 
 void PaginaUso::RefrescarViviendas() {
   const Ventilacion& v = contexto_.Caso().GetVentilacion();
+  // Los tipos que hay y uno más, para añadirlo.
+  std::size_t alaVista = 1;
+  for (std::size_t t = 0; t < kTipologias; ++t)
+    if (v.tipologias[t].N_viviendas > 0) alaVista = t + 2;
   for (std::size_t t = 0; t < kTipologias; ++t) {
+    for (QWidget* pieza : filasViviendas_[t]) pieza->setVisible(t < alaVista);
     const TipologiaVivienda& tipo = v.tipologias[t];
     const bool usada = tipo.N_viviendas > 0;
     personas_[t]->setText(usada ? Cifra(PersonasVivienda(tipo.N_dormitorios_dobles), 1) : "–");

@@ -58,6 +58,7 @@ class PaginaUso : public Pagina {
   QLabel *notaRecuperador_ = nullptr, *potenciaMaxima_ = nullptr, *carga_ = nullptr;
   QLabel* nivel_ = nullptr;
   std::vector<QLabel*> personas_, caudales_, clases_;
+  std::vector<std::vector<QWidget*>> filasViviendas_;  ///< las piezas de la fila de cada tipo
 };
 
 }  // namespace novex::gui
