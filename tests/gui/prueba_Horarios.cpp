@@ -98,6 +98,14 @@ TEST_F(HorariosTest, SeCopiaYSePegaConUnaHojaDeCalculo) {
   QTest::keyClick(rejilla, Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(Ahora().tabla[CIlu][3][7], 55);
   EXPECT_EQ(Ahora().tabla[CIlu][4][6], 55);
+  // Lo mismo con el menú: copiar, pegar y poner 0.
+  ASSERT_EQ(rejilla->actions().size(), 3);
+  rejilla->actions()[0]->trigger();
+  EXPECT_EQ(QApplication::clipboard()->text(), "55\t55\n55\t55\n");
+  rejilla->actions()[2]->trigger();
+  EXPECT_EQ(Ahora().tabla[CIlu][4][6], 0);
+  rejilla->actions()[1]->trigger();
+  EXPECT_EQ(Ahora().tabla[CIlu][4][6], 55);
 }
 
 TEST_F(HorariosTest, UnDiaSeCopiaAOtrosYSeReponeElDelUso) {

@@ -135,7 +135,7 @@ QWidget* FichaFotovoltaica::CajaDatos() {
   formulario->addRow(Seccion(tr("Datos del proyecto"), caja));
   const QString ayuda = tr("Consta en el proyecto; la simulación calcula lo suyo");
   enlaces_.Linea(formulario, "Aporte_fotovoltaico_kwh_ano",
-                 {tr("Aporte previsto"), {}, ayuda, {}, {}, false});
+                 {tr("Aporte previsto"), tr("kWh/año"), ayuda, {}, {}, false});
   enlaces_.Lista(formulario, "Uso_fotovoltaico",
                  {"Refrigeracion", "Calefaccion", "ACS", "Iluminacion"},
                  {tr("Uso previsto"), {}, ayuda, {}, {}, false},

@@ -16,11 +16,13 @@
 namespace novex::gui {
 namespace {
 
-// En qué columna va cada grupo; las bombas van debajo, a lo ancho.
+// En qué columna va cada grupo; los últimos, en la que quede más corta, y las bombas debajo, a lo
+// ancho.
 constexpr GrupoCampos kIzquierda[] = {GrupoCampos::Servicio, GrupoCampos::Generador,
-                                      GrupoCampos::Unidades, GrupoCampos::Superficies};
+                                      GrupoCampos::Unidades};
 constexpr GrupoCampos kDerecha[] = {GrupoCampos::Deposito, GrupoCampos::Control,
-                                    GrupoCampos::Emisores, GrupoCampos::Retorno};
+                                    GrupoCampos::Emisores};
+constexpr GrupoCampos kUltimos[] = {GrupoCampos::Superficies, GrupoCampos::Retorno};
 constexpr std::array<const char*, 5> kColumnasBomba = {"Caudal", "Altura", "Rendimiento", "Salto",
                                                        "Control"};
 constexpr std::array<const char*, 5> kUnidadesBomba = {"l/h", "m.c.a.", "", "°C", ""};
@@ -57,16 +59,32 @@ FichaSistema::FichaSistema(ContextoGui& contexto, QWidget* padre) : Pagina(conte
 }
 
 void FichaSistema::CrearCabecera(QVBoxLayout* columna) {
-  auto* fila = new QHBoxLayout;
   titulo_ = new QLabel(this);
   titulo_->setProperty("papel", "titulo");
-  titulo_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  fila->addWidget(titulo_, 1);
+  titulo_->setWordWrap(true);
+  columna->addWidget(titulo_);
+  auto* fila = new QHBoxLayout;
+  auto* textos = new QVBoxLayout;
+  instalacion_ = Nota("nota", {}, this);
+  textos->addWidget(instalacion_);
+  reparto_ = Nota("nota", {}, this);
+  reparto_->setObjectName("reparto");
+  reparto_->setToolTip(
+      tr("La carga de cada servicio que le toca al sistema: en calefacción y refrigeración, por su "
+         "potencia entre las de todos; en ACS, por la superficie que sirve"));
+  modelo_ = new QLabel(this);
+  modelo_->setProperty("papel", "nota");
+  auto* debajo = new QHBoxLayout;
+  debajo->setSpacing(18);
+  debajo->addWidget(modelo_);
+  debajo->addWidget(reparto_, 1);
+  textos->addLayout(debajo);
+  fila->addLayout(textos, 1);
   const auto boton = [&](const QString& texto, const QString& ayuda,
                          void (FichaSistema::*hacer)()) {
     auto* b = new QPushButton(texto, this);
     b->setToolTip(ayuda);
-    fila->addWidget(b);
+    fila->addWidget(b, 0, Qt::AlignTop);
     connect(b, &QPushButton::clicked, this, hacer);
     return b;
   };
@@ -77,14 +95,6 @@ void FichaSistema::CrearCabecera(QVBoxLayout* columna) {
   curvas_ =
       boton(tr("Curvas…"), tr("Las curvas de prestaciones del equipo"), &FichaSistema::Curvas);
   columna->addLayout(fila);
-  instalacion_ = Nota("nota", {}, this);
-  columna->addWidget(instalacion_);
-  reparto_ = Nota("nota", {}, this);
-  reparto_->setObjectName("reparto");
-  reparto_->setToolTip(
-      tr("La carga de cada servicio que le toca al sistema: en calefacción y refrigeración, por su "
-         "potencia entre las de todos; en ACS, por la superficie que sirve"));
-  columna->addWidget(reparto_);
   aviso_ = Nota("aviso", {}, this);
   aviso_->setText(
       tr("La distribución y la alimentación no forman ningún arreglo: elija otra "
@@ -201,15 +211,19 @@ void FichaSistema::Rehacer(const Firma& firma) {
   todo->setContentsMargins(0, 0, 0, 0);
   auto* fila = new QHBoxLayout;
   fila->setSpacing(24);
-  const auto anadir = [&](std::span<const GrupoCampos> grupos) {
-    auto* formulario = new QFormLayout;
+  std::array<QFormLayout*, 2> columnas{};
+  for (QFormLayout*& formulario : columnas) {
+    formulario = new QFormLayout;
     formulario->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
     formulario->setVerticalSpacing(4);
-    for (const GrupoCampos grupo : grupos) AnadirGrupo(formulario, grupo, firma.campos);
     fila->addLayout(formulario, 1);
-  };
-  anadir(kIzquierda);
-  anadir(kDerecha);
+  }
+  for (const GrupoCampos g : kIzquierda) AnadirGrupo(columnas[0], g, firma.campos);
+  for (const GrupoCampos g : kDerecha) AnadirGrupo(columnas[1], g, firma.campos);
+  for (const GrupoCampos g : kUltimos) {
+    const bool derecha = columnas[1]->rowCount() < columnas[0]->rowCount();
+    AnadirGrupo(columnas[derecha ? 1 : 0], g, firma.campos);
+  }
   todo->addLayout(fila);
   if (QWidget* bombas = CajaBombas(firma.campos)) todo->addWidget(bombas);
   columna_->insertWidget(columna_->indexOf(notas_), contenido_);
@@ -237,11 +251,11 @@ void FichaSistema::Refrescar() {
 
 void FichaSistema::PonerCabecera(const SistemaResidencial& sistema, const Instalaciones& bloque) {
   titulo_->setText(Q(EtiquetaSistema(sistema)));
-  QString instalacion =
-      Q(EtiquetaInstalacion(contexto_.Caso().GetDatosGenerales(), bloque.TipoInstalacionesG));
+  instalacion_->setText(
+      Q(EtiquetaInstalacion(contexto_.Caso().GetDatosGenerales(), bloque.TipoInstalacionesG)));
   const bool conModelo = !TipoDeCatalogo(bloque.Seleccion).familia.empty();
-  if (conModelo) instalacion += ". " + ModeloDe(bloque);
-  instalacion_->setText(instalacion);
+  modelo_->setText(conModelo ? ModeloDe(bloque) : QString());
+  modelo_->setVisible(conModelo);
   catalogo_->setVisible(conModelo);
   curvas_->setVisible(conModelo);
   aviso_->setVisible(ArregloSinDefinir(sistema, bloque));

@@ -49,7 +49,7 @@ class FichaSistema : public Pagina {
   Firma firma_;
   QVBoxLayout* columna_;
   QWidget* contenido_ = nullptr;
-  QLabel *titulo_, *instalacion_, *reparto_, *aviso_, *notas_;
+  QLabel *titulo_, *instalacion_, *modelo_, *reparto_, *aviso_, *notas_;
   QPushButton *catalogo_, *curvas_;
   DibujoSistema* dibujo_;
 };

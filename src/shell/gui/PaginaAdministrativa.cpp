@@ -221,7 +221,9 @@ void PaginaAdministrativa::RefrescarCatastro() {
   const DatosPantalla& pantalla = contexto_.Caso().GetDatosPantalla();
   const auto rotulos = RotulosCatastro(pantalla.Registro);
   QStringList titulos;
-  for (const std::string_view rotulo : rotulos) titulos << Q(rotulo).replace(" (", "\n(");
+  // El guion y la raya van juntos en su línea.
+  for (const std::string_view rotulo : rotulos)
+    titulos << Q(rotulo).replace(" (", "\n(").replace("-_", QString("-") + QChar(0x2060) + "_");
   catastro_->PonerTitulos(titulos);
   RejillaTextos::Filas filas;
   for (const ReferenciaCatastral& r : pantalla.referencias)

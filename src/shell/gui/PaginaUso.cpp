@@ -172,11 +172,12 @@ QWidget* PaginaUso::CajaAgua() {
                                          tr("El del proyecto, si no es el de la actividad"))),
        Terciario);
   enlaces_.Linea(filas, "ConsumoAgua_litros_dia",
-                 Opciones(tr("Demanda diaria"), tr("Consumo del edificio a 60 ºC")));
+                 Opciones(tr("Demanda diaria"), tr("Consumo del edificio a 60 ºC"), tr("l/día")));
   auto* fila = new QHBoxLayout;
   notaAgua_ = new QLabel(caja);
   notaAgua_->setProperty("papel", "nota");
   fila->addWidget(notaAgua_);
+  fila->addSpacing(8);
   auto* tomar = new QPushButton(tr("Tomarla"), caja);
   tomar->setObjectName("TomarAguaDeReferencia");
   tomar->setToolTip(tr("Pone la demanda de referencia (CTE DB-HE, anejo F)"));

@@ -1,5 +1,6 @@
 #include "shell/gui/RejillaHorarios.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
@@ -56,7 +57,16 @@ RejillaHorarios::RejillaHorarios(QWidget* padre)
                  horizontalHeader()->sizeHint().height() + 2 * frameWidth());
   setToolTip(
       tr("Lo que se teclea va a todas las horas elegidas. Ctrl+C y Ctrl+V copian y pegan con "
-         "una hoja de cálculo; Supr pone 0."));
+         "una hoja de cálculo; Supr pone 0. También con el botón derecho."));
+  setContextMenuPolicy(Qt::ActionsContextMenu);
+  const auto orden = [this](const QString& texto, auto hacer) {
+    auto* accion = new QAction(texto, this);
+    connect(accion, &QAction::triggered, this, hacer);
+    addAction(accion);
+  };
+  orden(tr("Copiar"), [this] { QApplication::clipboard()->setText(TextoElegido()); });
+  orden(tr("Pegar"), [this] { Pegar(); });
+  orden(tr("Poner 0"), [this] { emit Tecleado(Elegidas(), "0"); });
   connect(this, &QTableWidget::itemChanged, this, [this](const QTableWidgetItem* celda) {
     auto casillas = Elegidas();
     const CasillaHoraria cambiada = CasillaDe(celda->row(), celda->column());

@@ -55,7 +55,7 @@ TTEquipos::TTEquipos(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, p
 
 QWidget* TTEquipos::CajaArbol() {
   auto* caja = new QWidget(this);
-  caja->setFixedWidth(236);
+  caja->setFixedWidth(256);
   auto* columna = new QVBoxLayout(caja);
   columna->setContentsMargins(0, 0, 0, 8);
   arbol_ = new QTreeWidget(caja);
