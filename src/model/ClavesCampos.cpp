@@ -24,6 +24,9 @@ constexpr std::array kEtiquetas = std::to_array<Par>({
     {"VEII", "EVEIIIlu"},
     {"VEIIMax", "EVEIIMax"},
     {"Lux", "Lux"},
+    {"Nm2_p", "Area"},
+    {"NVBloqueF", "NViviendas"},
+    {"Valorn50", "Renov"},
     {"ConsumoAgua_litros_dia", "Consumo_agua_litros_dias"},
     {"Aporte_solar_tanto_por_cien", "Porcentaje_solar"},
     {"Aporte_fotovoltaico_kwh_ano", "kWh_ano_Fotovoltaico"},
@@ -71,6 +74,8 @@ constexpr std::array kEtiquetas = std::to_array<Par>({
     {"Pot_perdida_m_tub", "PerCalor_m"},
     {"Distanciaext_int", "Long"},
     {"Perdida_m_tub_ext_int", "Perextint_m"},
+    {"AintermbD", "Area"},
+    {"AintermbD2", "Area"},
     {"Volumen", "VolumenAcu"},
     {"UA_deposito", "UA"},
     {"LD_deposito", "LD"},
@@ -104,6 +109,20 @@ constexpr std::array kEtiquetas = std::to_array<Par>({
     {"QFrioSen2", "QSRef"},
     {"WeFrio1", "CSRef"},
     {"WeFrio2", "CSRef"},
+    {"Sup_ACS", "Area"},
+    {"Sup_Calefaccion", "Area"},
+    {"Sup_Refrigeracion", "Area"},
+    // Solar térmica
+    {"N_colec_term", "NEquipos"},
+    {"Sup_colec_term", "Area"},
+    {"Area_Serp_ST", "Area"},
+    {"Volumen_Dep_ST", "VolumenAcu"},
+    {"UA_Dep_ST", "UA"},
+    {"LD_Dep_ST", "LD"},
+    {"Efi_Inter_ST", "EfiRecuperador"},
+    {"Long_Tub_ST", "Long"},
+    {"PerdCalor_Tub_ST", "PerCalor_m"},
+    {"Control_Tmin_ST", "DT"},
     // Materiales
     {"Espesor", "Espesor"},
     {"Conductividad", "K"},
@@ -133,6 +152,7 @@ constexpr std::array kComienzos = std::to_array<Par>({
     {"Ventana_", "Long"},
     {"Valor_multiplicativo_", "Valor"},
     {"PotPico_FV", "Valor"},
+    {"Super_FV", "Area"},
 });
 
 // Comienzos de obstáculos y de bombas, que llevan detrás una dirección o un circuito.

@@ -277,6 +277,11 @@ TEST_F(InstalacionesTest, SolarYFotovoltaica) {
   Elegir("Solar térmica");
   Teclear(Buscar<QLineEdit>("Incli_colec_term"), "50");
   EXPECT_FLOAT_EQ(sesion.Caso().GetDatosGenerales().Incli_colec_term, 50);
+  // Un depósito no puede ser negativo ni más esbelto que 10: vale lo de la sustitución.
+  Teclear(Buscar<QLineEdit>("Volumen_Dep_ST"), "-5");
+  EXPECT_FLOAT_EQ(sesion.Caso().GetDatosGenerales().Volumen_Dep_ST, 100);
+  Teclear(Buscar<QLineEdit>("LD_Dep_ST"), "11");
+  EXPECT_FLOAT_EQ(sesion.Caso().GetDatosGenerales().LD_Dep_ST, 1);
   auto* fluido = Pieza<QLabel>("fluido");
   EXPECT_EQ(fluido->text(), "Calor específico 4184 J/kgK · densidad 984 kg/m³");
   const auto botones = Pieza<QWidget>("RBGlicol")->findChildren<QRadioButton*>();

@@ -76,7 +76,8 @@ TEST(ClavesCampos, TodasEstanEnElCatalogo) {
   for (const char* etiqueta :
        {"asnm", "Muro_ext_norte_m2", "U_Suelo_terreno_W_m2K", "U_cristal_W_m2K", "CaudalGEN1",
         "PSBZ", "RendRET", "DTINT", "Ventana_sur_altura_obstaculo_sur", "Sur_Altura",
-        "Perimetro_Ext_Suelo_Terreno_m", "QcalorCaldera2", "Teminrec", "Long_pilares_Sur"}) {
+        "Perimetro_Ext_Suelo_Terreno_m", "QcalorCaldera2", "Teminrec", "Long_pilares_Sur",
+        "Volumen_Dep_ST", "Super_FV3", "Sup_ACS", "AintermbD2", "NVBloqueF"}) {
     const std::string_view clave = ClaveDeCampo(etiqueta);
     EXPECT_NE(BuscarCampo(clave), nullptr) << etiqueta << ' ' << clave;
   }
