@@ -14,6 +14,8 @@ constexpr int kUltimoPerfil = 15;
 // En un uso terciario las ventanas no se abren de noche en verano.
 constexpr const char* kVentanasAbiertas = "Abiertas";
 constexpr const char* kVentanasCerradas = "Cerradas";
+constexpr const char* kUsoVivienda = "ResidencialPrivado";
+constexpr const char* kUsoSinDecir = "Otro";
 
 }  // namespace
 
@@ -42,6 +44,8 @@ bool CambiarPerfilUso(Edificio& edificio, int perfil, const XMLNode& perfilesUso
   d.PerfilUso = perfil;
   const bool cambiaGrupo = eraResidencial != d.EsResidencial();
   if (cambiaGrupo) {
+    // El uso de una vivienda no es de los que se eligen en un terciario.
+    if (eraResidencial && (d.Uso.empty() || d.Uso == kUsoVivienda)) d.Uso = kUsoSinDecir;
     d.ManejoVentanas2 = eraResidencial ? kVentanasCerradas : kVentanasAbiertas;
     while (edificio.NumeroSistemas() > 0) edificio.BorrarSistema(edificio.NumeroSistemas() - 1);
   }

@@ -53,7 +53,12 @@ TEST_F(Proyecto, CambiarDeGrupoDeUsoBorraLosSistemas) {
   EXPECT_TRUE(PerfilBorraSistemas(E(), 3));
   EXPECT_TRUE(CambiarPerfilUso(E(), 1, perfiles, mensajes));
   EXPECT_EQ(E().NumeroSistemas(), 1U);
+  // Un proyecto leído trae el uso de una vivienda, que en un terciario no se ofrece.
+  DatosGenerales leido = E().GetDatosGenerales();
+  leido.Uso = "ResidencialPrivado";
+  E().SetDatosGenerales(leido);
   EXPECT_TRUE(CambiarPerfilUso(E(), 3, perfiles, mensajes));
+  EXPECT_EQ(E().GetDatosGenerales().Uso, "Otro");
   EXPECT_EQ(E().NumeroSistemas(), 0U);
   EXPECT_EQ(E().GetDatosGenerales().Tipo, "8hB");
   EXPECT_EQ(E().GetDatosGenerales().ManejoVentanas2, "Cerradas");

@@ -52,6 +52,11 @@ TEST_F(PaginaUsoTest, PasarATerciarioPreguntaAntesDeBorrarLosSistemas) {
   for (const char* deVivienda : {"Tipologia[1]/N_viviendas", "TipoVentilacion2", "NVBloqueF",
                                  "Calcular_Renov_h_segun_HS3", "ManejoVentanas2"})
     EXPECT_FALSE(SeVe(deVivienda)) << deVivienda;
+  // Sin superficie por persona una clase de aire no tiene caudal: no se puede aceptar.
+  EXPECT_FALSE(Buscar<QPushButton>("AceptarIDA1")->isEnabled());
+  Teclear(Buscar<QLineEdit>("Nm2_p"), "10");
+  EXPECT_TRUE(Buscar<QPushButton>("AceptarIDA1")->isEnabled());
+  sesion.Deshacer();
   sesion.Deshacer();
   EXPECT_EQ(sesion.Caso().NumeroSistemas(), sistemas);
 }

@@ -91,6 +91,12 @@ QWidget* PaginaUso::CajaUso() {
                         "Volumen_total_m3"));
   notaAltura_ = NotaCorta(caja);
   filas->addRow(QString(), notaAltura_);
+  Solo(filas,
+       enlaces_.Linea(
+           filas, "Nm2_p",
+           Opciones(tr("Superficie por persona"),
+                    tr("Ocupación para el agua caliente y para la clase de aire"), "m²/persona")),
+       Terciario);
   enlaces_.Linea(filas, "NPlantasSobreRasante", Opciones(tr("Plantas sobre rasante")));
   enlaces_.Linea(filas, "NPlantasBajoRasante", Opciones(tr("Plantas bajo rasante")));
   Solo(filas,
@@ -161,12 +167,6 @@ QWidget* PaginaUso::CajaAgua() {
                                                    "DB-HE, anejo F)"))),
        Terciario);
   Solo(filas,
-       enlaces_.Linea(
-           filas, "Nm2_p",
-           Opciones(tr("Superficie por persona"),
-                    tr("Ocupación para el agua caliente y para la clase de aire"), "m²/persona")),
-       Terciario);
-  Solo(filas,
        enlaces_.Linea(filas, "CriterioACS",
                       OpcionesSinCalculo(tr("Criterio de demanda"),
                                          tr("El del proyecto, si no es el de la actividad"))),
@@ -235,9 +235,13 @@ QWidget* PaginaUso::CajaClaseAire() {
     aceptar->setObjectName(QString("AceptarIDA%1").arg(fila));
     aceptar->setToolTip(tr("Toma las renovaciones de esta clase"));
     rejilla->addWidget(aceptar, fila, 1);
+    aceptarClase_.push_back(aceptar);
     connect(aceptar, &QPushButton::clicked, this, [this, clase] { TomarClaseAire(clase); });
   }
   rejilla->setColumnStretch(2, 1);
+  faltaClase_ = NotaCorta(caja, "aviso");
+  faltaClase_->setText(tr("Defina antes la superficie por persona y el volumen"));
+  rejilla->addWidget(faltaClase_, rejilla->rowCount(), 0, 1, 3);
   return caja;
 }
 
@@ -365,6 +369,9 @@ void PaginaUso::RefrescarVentilacion(const AjustesUso& ajustes) {
     renovaciones->setEnabled(!ajustes.residencial || v.Calcular_Renov_h_segun_HS3 != "Si");
   for (std::size_t clase = 0; clase < clases_.size(); ++clase)
     clases_[clase]->setText(Q(TextoClaseAire(e, static_cast<ClaseAire>(clase))));
+  const bool seSabe = CalcularClaseAire(e, ClaseAire::IDA1).renovaciones > 0.0F;
+  for (QPushButton* aceptar : aceptarClase_) aceptar->setEnabled(seSabe);
+  faltaClase_->setVisible(!seSabe);
 }
 
 void PaginaUso::RefrescarIluminacion() {

@@ -6,6 +6,8 @@
 #include "demand/AjustesUso.h"
 #include "shell/gui/Pagina.h"
 
+class QPushButton;
+
 namespace novex::gui {
 
 /// El uso del edificio y sus medidas: perfil, superficie, viviendas, ventilación, iluminación y
@@ -58,6 +60,8 @@ class PaginaUso : public Pagina {
   QLabel *notaRecuperador_ = nullptr, *potenciaMaxima_ = nullptr, *carga_ = nullptr;
   QLabel* nivel_ = nullptr;
   std::vector<QLabel*> personas_, caudales_, clases_;
+  std::vector<QPushButton*> aceptarClase_;
+  QLabel* faltaClase_ = nullptr;
   std::vector<std::vector<QWidget*>> filasViviendas_;  ///< las piezas de la fila de cada tipo
 };
 

@@ -70,15 +70,17 @@ RejillaTextos::RejillaTextos(int columnas, const QString& anadir, const QString&
   auto* botones = new QHBoxLayout;
   auto* mas = new QPushButton(anadir, this);
   mas->setObjectName("AnadirFila");
-  auto* menos = new QPushButton(tr("Quitar"), this);
-  menos->setObjectName("QuitarFila");
-  menos->setToolTip(tr("Quita la fila de la celda elegida"));
+  quitar_ = new QPushButton(tr("Quitar"), this);
+  quitar_->setObjectName("QuitarFila");
+  quitar_->setToolTip(tr("Quita la fila de la celda elegida"));
   botones->addWidget(mas);
-  botones->addWidget(menos);
+  botones->addWidget(quitar_);
   botones->addStretch(1);
   columna->addLayout(botones);
   connect(mas, &QPushButton::clicked, this, &RejillaTextos::Anadir);
-  connect(menos, &QPushButton::clicked, this, &RejillaTextos::Quitar);
+  connect(quitar_, &QPushButton::clicked, this, &RejillaTextos::Quitar);
+  connect(tabla_, &QTableWidget::currentCellChanged, this,
+          [this](int fila) { quitar_->setEnabled(fila >= 0); });
   connect(tabla_, &QTableWidget::cellChanged, this, [this] { emit Cambiada(Leer()); });
 }
 
@@ -113,6 +115,7 @@ void RejillaTextos::PonerFilas(const Filas& filas) {
     for (int c = 0; c < tabla_->columnCount(); ++c)
       Celda(f, c)->setText(filas[static_cast<std::size_t>(f)].value(c));
   vacia_->setVisible(filas.empty());
+  quitar_->setEnabled(tabla_->currentRow() >= 0);
   tabla_->setVisible(!filas.empty());
   const int vista = std::min(cuantas, kFilasALaVista);
   tabla_->setFixedHeight(tabla_->horizontalHeader()->height() +

@@ -5,6 +5,8 @@
 #include <QWidget>
 #include <vector>
 
+class QPushButton;
+
 namespace novex::gui {
 
 /// Una rejilla de textos a la que se añaden y quitan filas. Copia y pega con una hoja de cálculo.
@@ -42,6 +44,7 @@ class RejillaTextos : public QWidget {
 
   QTableWidget* tabla_;
   QWidget* vacia_;
+  QPushButton* quitar_;
 };
 
 }  // namespace novex::gui

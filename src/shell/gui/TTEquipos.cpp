@@ -112,12 +112,13 @@ QWidget* TTEquipos::PaginaVacia() {
   auto* caja = new QWidget(this);
   auto* columna = new QVBoxLayout(caja);
   auto* texto = new QLabel(
-      tr("El edificio no tiene sistemas. Cree el de agua caliente, que hace falta para calcular, y "
-         "los de calefacción y refrigeración. Lo que no cubra ninguno lo hará el equipo por "
-         "defecto."),
+      tr("El edificio no tiene sistemas. Cree el de agua caliente, que en una vivienda hace falta "
+         "para calcular, y los de calefacción y refrigeración. Lo que no cubra ninguno lo hará el "
+         "equipo por defecto."),
       caja);
   texto->setWordWrap(true);
-  texto->setMaximumWidth(420);
+  constexpr int kAncho = 420;
+  texto->setFixedSize(kAncho, texto->heightForWidth(kAncho));
   auto* crear = new QPushButton(tr("Crear instalación…"), caja);
   connect(crear, &QPushButton::clicked, this, &TTEquipos::Crear);
   columna->addStretch(1);
