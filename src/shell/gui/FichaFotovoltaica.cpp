@@ -140,10 +140,9 @@ QWidget* FichaFotovoltaica::CajaDatos() {
                  {"Refrigeracion", "Calefaccion", "ACS", "Iluminacion"},
                  {tr("Uso previsto"), {}, ayuda, {}, {}, false},
                  {"Refrigeración", "Calefacción", "ACS", "Iluminación"});
-  enlaces_.Casilla(
-      formulario, "Existe_fotovoltaica",
-      {tr("Consta en el certificado que hay instalación fotovoltaica"), {}, {}, {}, {}}, "Si",
-      "No");
+  enlaces_.Casilla(formulario, "Existe_fotovoltaica",
+                   {tr("El edificio tiene instalación fotovoltaica"), {}, ayuda, {}, {}, false},
+                   "Si", "No");
   return caja;
 }
 
