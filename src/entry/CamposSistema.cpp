@@ -158,8 +158,8 @@ void Generador(const Contexto& c, Lista& l) {
 
 void Unidades(const Edificio& edificio, const Contexto& c, Lista& l) {
   if (!EsEstacional(c.clase) || c.clase == C::EstacionalAgua) l.Campo(G::Unidades, "NEquipos");
-  // Cada depósito individual de un bloque es el de las viviendas de un tipo.
-  if (c.arreglo.deposito && c.bloque.TipoInstalacionesG == kIndividual &&
+  // El agua caliente individual de un bloque es la de las viviendas de un tipo.
+  if (DaACS(c.tipo) && c.bloque.TipoInstalacionesG == kIndividual &&
       edificio.GetDatosGenerales().PerfilUso == kEdificiosEnBloque)
     l.Campo(G::Unidades, "Nradiadores", kIndicesVivienda, kTiposVivienda);
 }

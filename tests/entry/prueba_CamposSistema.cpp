@@ -114,8 +114,12 @@ TEST(CamposMostrados, LosCambianLasElecciones) {
   const auto e = EdificioD3(1, 100, 112);
   SistemaResidencial s = Nuevo(*e, "ACS", "1 Caldera", kI);
   Instalaciones& b = s.instalaciones[0];
-  // Un depósito individual de un bloque es de un tipo de vivienda.
+  // El agua caliente individual de un bloque es de un tipo de vivienda, también sin depósito: se
+  // cuenta si hay tantos equipos como viviendas de cada uno.
   EXPECT_TRUE(Etiquetas(*e, s).contains("Nradiadores"));
+  EXPECT_TRUE(Etiquetas(*e, Nuevo(*e, "ACS", "1 Calentador", kI)).contains("Nradiadores"));
+  EXPECT_FALSE(Etiquetas(*e, Nuevo(*e, "ACS", "1 Caldera", kC)).contains("Nradiadores"));
+  EXPECT_FALSE(Etiquetas(*e, Nuevo(*e, "Calefaccion", "1 Caldera", kI)).contains("Nradiadores"));
   b.TipoGenerador1 = "Biomasa";
   EXPECT_TRUE(Etiquetas(*e, s).contains("CombCalorBio1"));
   EXPECT_FALSE(Etiquetas(*e, s).contains("CombCalor1"));
