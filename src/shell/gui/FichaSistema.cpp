@@ -49,7 +49,7 @@ QLabel* Nota(const char* papel, const QString& texto, QWidget* padre) {
 
 FichaSistema::FichaSistema(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, padre) {
   columna_ = new QVBoxLayout(this);
-  columna_->setContentsMargins(12, 4, 12, 8);
+  columna_->setContentsMargins(12, 4, 4, 8);
   CrearCabecera(columna_);
   dibujo_ = new DibujoSistema(this);
   columna_->addWidget(dibujo_);
@@ -210,7 +210,7 @@ void FichaSistema::Rehacer(const Firma& firma) {
   auto* todo = new QVBoxLayout(contenido_);
   todo->setContentsMargins(0, 0, 0, 0);
   auto* fila = new QHBoxLayout;
-  fila->setSpacing(24);
+  fila->setSpacing(16);
   std::array<QFormLayout*, 2> columnas{};
   for (QFormLayout*& formulario : columnas) {
     formulario = new QFormLayout;

@@ -55,7 +55,7 @@ TTEquipos::TTEquipos(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, p
 
 QWidget* TTEquipos::CajaArbol() {
   auto* caja = new QWidget(this);
-  caja->setFixedWidth(256);
+  caja->setFixedWidth(236);
   auto* columna = new QVBoxLayout(caja);
   columna->setContentsMargins(0, 0, 0, 8);
   arbol_ = new QTreeWidget(caja);
@@ -218,7 +218,9 @@ void TTEquipos::LlenarArbol() {
   AjustarElegido();
   arbol_->setCurrentItem(ItemElegido(ruta));
   const QString falta = Q(TextoSinSistema(contexto_.Caso()));
-  sinSistema_->setText(falta);
+  // Se parte entre servicios, no entre una cifra y lo suyo.
+  QStringList partes = falta.split(" · ");
+  sinSistema_->setText(partes.replaceInStrings(" ", QString(QChar::Nbsp)).join(" · "));
   sinSistema_->setVisible(!falta.isEmpty());
 }
 
