@@ -9,6 +9,7 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
+#include <QWheelEvent>
 
 #include "gui/VentanaPrueba.h"
 #include "shell/gui/CalendarioUso.h"
@@ -160,6 +161,19 @@ TEST_F(HorariosTest, LaAccionDeUnMesSeElige) {
   emit lista->activated(lista->currentIndex());
   EXPECT_EQ(Ahora().AccionMes[8], "Nada");
   EXPECT_EQ(sesion.QueDeshace(), "acción de agosto");
+  // La rueda que pasa por encima no la cambia; con el foco, sí.
+  const auto rodar = [lista] {
+    QWheelEvent rueda(QPointF(5, 5), lista->mapToGlobal(QPointF(5, 5)), {}, {0, 120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(lista, &rueda);
+  };
+  lista->clearFocus();
+  rodar();
+  EXPECT_EQ(Ahora().AccionMes[8], "Nada");
+  Activar();
+  lista->setFocus();
+  rodar();
+  EXPECT_NE(Ahora().AccionMes[8], "Nada");
 }
 
 TEST_F(HorariosTest, Capturas) {

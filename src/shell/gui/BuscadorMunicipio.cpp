@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "shell/gui/Filas.h"
+#include "shell/gui/ListaSinRueda.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -21,7 +22,7 @@ constexpr int kVisibles = 14;
 BuscadorMunicipio::BuscadorMunicipio(QFormLayout* formulario, Catalogo catalogo, QWidget* pagina)
     : QObject(pagina),
       catalogo_(std::move(catalogo)),
-      provincia_(new QComboBox(pagina)),
+      provincia_(new ListaSinRueda(pagina)),
       municipio_(new QLineEdit(pagina)),
       aviso_(NuevaNota(pagina, "aviso")),
       lista_(new QCompleter(this)),

@@ -16,6 +16,7 @@
 #include "shell/gui/CalendarioUso.h"
 #include "shell/gui/ColoresDia.h"
 #include "shell/gui/GraficoHorario.h"
+#include "shell/gui/ListaSinRueda.h"
 #include "shell/gui/MapaAno.h"
 #include "shell/gui/RejillaHorarios.h"
 #include "shell/gui/TextoQt.h"
@@ -188,7 +189,7 @@ QWidget* PaginaHorarios::CajaMeses() {
   titulo->setFixedHeight(CalendarioUso::kAltoCabecera);
   columna->addWidget(titulo);
   for (std::size_t m = 1; m <= kMeses; ++m) {
-    auto* lista = new QComboBox(caja);
+    auto* lista = new ListaSinRueda(caja);
     lista->setObjectName(QString("AccionMes[%1]").arg(m));
     lista->setAccessibleName(tr("Acción de %1").arg(Q(kNombreMesCompleto.at(m))));
     lista->setToolTip(tr("Qué sistemas pueden funcionar en %1: sin calefacción o sin refrigeración "
@@ -196,7 +197,6 @@ QWidget* PaginaHorarios::CajaMeses() {
                           .arg(Q(kNombreMesCompleto.at(m)).toLower()));
     for (const std::string_view accion : kAccionesMes) lista->addItem(Q(accion));
     lista->setFixedHeight(CalendarioUso::kAltoFila - 2);
-    lista->setFocusPolicy(Qt::StrongFocus);
     columna->addWidget(lista);
     columna->addSpacing(2);
     acciones_.at(m) = lista;
