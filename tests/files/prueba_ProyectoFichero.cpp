@@ -5,7 +5,6 @@
 #include <cstdint>
 
 #include "CarpetaTemporal.h"
-#include "ProyectoDePrueba.h"
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
 
@@ -16,6 +15,7 @@ using pruebas::CarpetaTemporal;
 
 constexpr const char* kTitulo = "No se abre ningún fichero nuevo";
 constexpr const char* kVersion = "NOVEX 2026.09.30";
+constexpr const char* kEjemplo = NOVEX_RAIZ_DATOS "/proyectos/hotel_24h_A3.xml";
 
 // Un proyecto de `n` casos casi vacíos, con su título.
 std::string ProyectoDe(int n, const std::string& version = kVersion) {
@@ -223,10 +223,7 @@ TEST_F(ProyectoFichero, LosBloquesDeResultadosSoloVanEnElPrimerCaso) {
 }
 
 TEST_F(ProyectoFichero, UnFicheroCortadoNoSeAbreNiRompeNada) {
-  GestorEdifActivo lleno;
-  lleno.NuevoProyecto();
-  pruebas::LlenarCaso(lleno.Activo(), 1000);
-  const std::string entero = LeerFichero(GuardarProyecto(lleno, carpeta_ / "e.xml"));
+  const std::string entero = LeerFichero(kEjemplo);
   ASSERT_GT(entero.size(), 60'000U);
   const std::string_view utiles = std::string_view(entero).substr(0, entero.rfind('>'));
   for (std::size_t n = 0; n < utiles.size(); n += n + 300 < utiles.size() ? 877 : 1)
@@ -234,10 +231,7 @@ TEST_F(ProyectoFichero, UnFicheroCortadoNoSeAbreNiRompeNada) {
 }
 
 TEST_F(ProyectoFichero, UnFicheroEstropeadoSeAbreOFallaComoFichero) {
-  GestorEdifActivo lleno;
-  lleno.NuevoProyecto();
-  pruebas::LlenarCaso(lleno.Activo(), 1000);
-  const std::string entero = LeerFichero(GuardarProyecto(lleno, carpeta_ / "e.xml"));
+  const std::string entero = LeerFichero(kEjemplo);
   constexpr std::string_view kBytes = "<>&;\"/=9-x\xE1\0 ";
   // Sucesión congruente: las mismas roturas en toda máquina.
   std::uint32_t azar = 12345;
