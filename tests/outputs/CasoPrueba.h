@@ -1,7 +1,10 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
+#include "base/Tabla.h"
 #include "outputs/CasoCalculado.h"
 #include "rating/Escala.h"
 
@@ -23,15 +26,66 @@ struct CasoDePrueba {
     return Mostrar();
   }
   ResultadosCaso& Resultados() { return resultado->resultados; }
-  void Poner(int perfilUso, const std::string& zona, const std::string& modo) {
+  template <class Cambio>
+  void Generales(Cambio cambio) {
     DatosGenerales generales = edificio->GetDatosGenerales();
-    generales.PerfilUso = perfilUso;
-    generales.Modo_trabajo = modo;
-    edificio->SetDatosGenerales(generales);
+    cambio(generales);
+    edificio->SetDatosGenerales(std::move(generales));
+  }
+  void PonerSimulacionLibre() {
+    Generales([](DatosGenerales& g) { g.Tiposimulacion = "Simulacion"; });
+  }
+  /// Energía final de un vector en un servicio, kWh del edificio en el año.
+  void PonerFinal(Servicio s, VectorEnergetico v, float kWh) {
+    Resultados().servicio[s].finalPorVector[Indice(v)][0] = kWh;
+  }
+  /// Añade un sistema de un bloque, con su sitio en las sumas del cálculo.
+  Instalaciones& AnadirSistema(const std::string& tipo, const std::string& seleccion = "",
+                               const std::string& nombre = "", int equipos = 1) {
+    SistemaResidencial sistema;
+    sistema.Tipo_sistema = tipo;
+    sistema.Nombre_sistema = nombre;
+    Instalaciones& i = sistema.instalaciones.emplace_back();
+    i.Seleccion = seleccion;
+    i.NEquipos = equipos;
+    edificio->AnadirSistema(std::move(sistema));
+    resultado->sumasBloques.emplace_back();
+    return edificio->GetSistema(edificio->NumeroSistemas() - 1).instalaciones[0];
+  }
+  void Poner(int perfilUso, const std::string& zona, const std::string& modo) {
+    Generales([&](DatosGenerales& g) {
+      g.PerfilUso = perfilUso;
+      g.Modo_trabajo = modo;
+    });
     Localizacion lugar = edificio->GetLocalizacion();
     lugar.ZonaClimatica = zona;
     edificio->SetLocalizacion(lugar);
   }
 };
+
+/// Una capa con lo que se compara y se muestra de ella.
+inline material Capa(const std::string& nombre, float espesor, float conductividad,
+                     float resistencia = 0) {
+  material m;
+  m.Material = nombre;
+  m.Espesor = espesor;
+  m.Conductividad = conductividad;
+  m.Resistencia_termica = resistencia;
+  return m;
+}
+
+using Textos = std::vector<std::string>;
+
+/// Los textos de una fila o de una columna de una tabla.
+inline Textos FilaDe(const Tabla& tabla, std::size_t i) {
+  Textos textos;
+  for (const Celda& celda : tabla.filas.at(i)) textos.push_back(celda.texto);
+  return textos;
+}
+inline Textos ColumnaDe(const Tabla& tabla, std::size_t i) {
+  Textos textos;
+  for (const auto& fila : tabla.filas) textos.push_back(fila.at(i).texto);
+  return textos;
+}
 
 }  // namespace novex::pruebas

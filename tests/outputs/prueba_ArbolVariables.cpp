@@ -17,12 +17,6 @@ using testing::IsSupersetOf;
 using testing::Not;
 
 struct CasoSeries : pruebas::CasoDePrueba {
-  template <class Cambio>
-  void Generales(Cambio cambio) {
-    DatosGenerales g = edificio->GetDatosGenerales();
-    cambio(g);
-    edificio->SetDatosGenerales(std::move(g));
-  }
   SerieHoraria& Atributo(const char* nombre) {
     AtributoSistema& a = resultado->atributos.emplace_back();
     a.nombre = nombre;
@@ -88,14 +82,9 @@ TEST(ArbolVariables, LoQueDependeDeLaVentilacion) {
 
 TEST(ArbolVariables, UnGrupoPorInstalacion) {
   CasoSeries caso;
-  SistemaResidencial sistema;
-  sistema.Nombre_sistema = "Caldera y frío";
-  sistema.instalaciones.resize(1);
-  sistema.instalaciones[0].NEquipos = 3;
-  sistema.Tipo_sistema = "ACS";
-  sistema.instalaciones[0].Seleccion = "1 Termo electrico";
-  sistema.instalaciones[0].Alimentacion4 = "Recirculado solar intercambiador";
-  caso.edificio->AnadirSistema(sistema);
+  std::string& alimentacion =
+      caso.AnadirSistema("ACS", "1 Termo electrico", "Caldera y frío", 3).Alimentacion4;
+  alimentacion = "Recirculado solar intercambiador";
   // Fuera de orden, y con los del sistema 11, que no está.
   for (const char* nombre :
        {"WVEMIC1",  "WGEN1C1",  "WSBZR1",      "TD5_1",    "TD1_1",    "PDACS1",    "PRET1",
@@ -117,7 +106,7 @@ TEST(ArbolVariables, UnGrupoPorInstalacion) {
   EXPECT_EQ(nodos.back().codigo, "BRECS");
 
   // Sin depósitos no hay sus temperaturas, y los captadores siguen.
-  caso.edificio->GetSistema(0).instalaciones[0].Alimentacion4.clear();
+  alimentacion.clear();
   EXPECT_THAT(caso.Codigos("Instalación Caldera y frío (3 equipos)"), Not(Contains("TD1_1")));
   EXPECT_THAT(caso.Codigos("Inst.Solar térmica"), ElementsAre("RTC", "EASC", "PTCS", "BCS"));
 }
@@ -144,12 +133,7 @@ TEST(SerieDeVariable, CadaUnidadEsLaDeSuTexto) {
   caso.Atributo("WVEMI1")[1] = 80;
   caso.Atributo("PTCS")[1] = 0.25F;
   caso.Atributo("WDEPS")[8760] = 33;
-  SistemaResidencial solar;
-  solar.Tipo_sistema = "ACS";
-  solar.instalaciones.resize(1);
-  solar.instalaciones[0].Seleccion = "1 Termo electrico";
-  solar.instalaciones[0].Alimentacion4 = "Directo solar intercambiador";
-  caso.edificio->AnadirSistema(solar);
+  caso.AnadirSistema("ACS", "1 Termo electrico").Alimentacion4 = "Directo solar intercambiador";
   caso.Generales([](DatosGenerales& g) {
     g.Equipos_Defecto = "SI";
     g.ConsumoAgua_litros_dia = 200;
@@ -161,26 +145,15 @@ TEST(SerieDeVariable, CadaUnidadEsLaDeSuTexto) {
   sitio.aguaRed[12] = 11;
   caso.edificio->SetDatosClimaticosSitio(sitio);
 
-  EXPECT_FLOAT_EQ(caso.Valor("DT"), -1.5F);
-  EXPECT_FLOAT_EQ(caso.Valor("WL"), 10);
-  EXPECT_FLOAT_EQ(caso.Valor("WE"), 8);
-  EXPECT_FLOAT_EQ(caso.Valor("RTHz"), 0.25F);
-  EXPECT_FLOAT_EQ(caso.Valor("DOCUP"), 0.5F);
-  EXPECT_FLOAT_EQ(caso.Valor("QV"), 150);      // la mitad de 300 m3/h
-  EXPECT_FLOAT_EQ(caso.Valor("QV", 2), 1200);  // cuatro renovaciones
-  EXPECT_FLOAT_EQ(caso.Valor("CAE"), 210);
-  EXPECT_FLOAT_EQ(caso.Valor("CW60"), 10);
-  EXPECT_FLOAT_EQ(caso.Valor("QIR"), 1.5F);
-  EXPECT_FLOAT_EQ(caso.Valor("QEH"), 2);
-  EXPECT_FLOAT_EQ(caso.Valor("CV"), 70);
-  EXPECT_FLOAT_EQ(caso.Valor("DACSD"), 3);
-  EXPECT_FLOAT_EQ(caso.Valor("CACSD"), 4);
-  EXPECT_FLOAT_EQ(caso.Valor("CREFD", 8760), 0.5F);
-  EXPECT_FLOAT_EQ(caso.Valor("TWR"), 9);
-  EXPECT_FLOAT_EQ(caso.Valor("TWR", 8760), 11);
-  EXPECT_FLOAT_EQ(caso.Valor("WVEMI1"), 0.08F);
-  EXPECT_FLOAT_EQ(caso.Valor("PTCS"), 0.25F);
-  EXPECT_FLOAT_EQ(caso.Valor("BDEPS", 8760), 33);
+  // La ventilación es la mitad de 300 m3/h y, con las ventanas abiertas, cuatro renovaciones.
+  const std::tuple<const char*, int, float> esperados[] = {
+      {"DT", 1, -1.5F},   {"WL", 1, 10},        {"WE", 1, 8},          {"RTHz", 1, 0.25F},
+      {"DOCUP", 1, 0.5F}, {"QV", 1, 150},       {"QV", 2, 1200},       {"CAE", 1, 210},
+      {"CW60", 1, 10},    {"QIR", 1, 1.5F},     {"QEH", 1, 2},         {"CV", 1, 70},
+      {"DACSD", 1, 3},    {"CACSD", 1, 4},      {"CREFD", 8760, 0.5F}, {"TWR", 1, 9},
+      {"TWR", 8760, 11},  {"WVEMI1", 1, 0.08F}, {"PTCS", 1, 0.25F},    {"BDEPS", 8760, 33}};
+  for (const auto& [codigo, h, valor] : esperados)
+    EXPECT_FLOAT_EQ(caso.Valor(codigo, h), valor) << codigo << " " << h;
   caso.Generales([](DatosGenerales& g) { g.Equipos_Defecto = "NO"; });
   EXPECT_EQ(caso.Valor("CACSD"), 0);
 }

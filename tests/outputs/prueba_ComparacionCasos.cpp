@@ -9,13 +9,8 @@
 namespace novex {
 namespace {
 
-using Textos = std::vector<std::string>;
-
-Textos Fila(const Tabla& tabla, std::size_t i) {
-  Textos textos;
-  for (const Celda& celda : tabla.filas.at(i)) textos.push_back(celda.texto);
-  return textos;
-}
+using pruebas::FilaDe;
+using pruebas::Textos;
 
 // La base y una mejora que gasta menos en calefacción y nada en agua caliente, como la base.
 class CasosTest : public testing::Test {
@@ -88,31 +83,27 @@ TEST_F(CasosTest, TablaDeLosCasosDeMejora) {
   EXPECT_EQ(tablas[1].cabeceras[0], "  (kgCO2/m2 año)");
   EXPECT_EQ(tablas[0].cabeceras[12], "Total %");
   EXPECT_EQ(tablas[1].cabeceras[12], "Total Cali,%");
-  EXPECT_EQ(Fila(tablas[0], 0), (Textos{"base", "8.00", "0.00", "12.00", "0.00", "0.00", "", "0.00",
-                                        "", "0.00", "", "20.00", "0.00"}));
+  EXPECT_EQ(FilaDe(tablas[0], 0), (Textos{"base", "8.00", "0.00", "12.00", "0.00", "0.00", "",
+                                          "0.00", "", "0.00", "", "20.00", "0.00"}));
   // La letra va sola donde la base no da ahorro.
-  EXPECT_EQ(Fila(tablas[1], 1), (Textos{"Mejora_1", "6.00", "B,25.00", "12.00", "D,0.00", "0.00",
-                                        "A", "0.00", "A", "0.00", "", "18.00", "F,10.00"}));
+  EXPECT_EQ(FilaDe(tablas[1], 1), (Textos{"Mejora_1", "6.00", "B,25.00", "12.00", "D,0.00", "0.00",
+                                          "A", "0.00", "A", "0.00", "", "18.00", "F,10.00"}));
   // 16 + 5 + 2 de la base y 12 + 5 de la mejora.
-  EXPECT_EQ(Fila(tablas[3], 0)[11], "23.00");
-  EXPECT_EQ(Fila(tablas[3], 1), (Textos{"Mejora_1", "12.00", "D,25.00", "5.00", "B,0.00", "0.00",
-                                        "", "0.00", "100.00", "0.00", "", "17.00", "26.09"}));
+  EXPECT_EQ(FilaDe(tablas[3], 0)[11], "23.00");
+  EXPECT_EQ(FilaDe(tablas[3], 1), (Textos{"Mejora_1", "12.00", "D,25.00", "5.00", "B,0.00", "0.00",
+                                          "", "0.00", "100.00", "0.00", "", "17.00", "26.09"}));
 }
 
 TEST_F(CasosTest, SinRefrigeracionEnLaTablaDeMejoras) {
   PonerZona(0, "E1");
   const auto tablas = TablasAnalisisTecnico(Casos());
   for (const Tabla& tabla : tablas) {
-    EXPECT_EQ(Fila(tabla, 1)[3], "( - )");
-    EXPECT_EQ(Fila(tabla, 1)[4], "( - )");
+    EXPECT_EQ(FilaDe(tabla, 1)[3], "( - )");
+    EXPECT_EQ(FilaDe(tabla, 1)[4], "( - )");
   }
-  EXPECT_EQ(Fila(tablas[3], 1)[11], "12.00");
-  for (auto* c : {&base, &mejora}) {
-    DatosGenerales g = c->edificio->GetDatosGenerales();
-    g.Tiposimulacion = "Simulacion";
-    c->edificio->SetDatosGenerales(g);
-  }
-  EXPECT_EQ(Fila(TablasAnalisisTecnico(Casos())[1], 1)[3], "12.00");
+  EXPECT_EQ(FilaDe(tablas[3], 1)[11], "12.00");
+  for (auto* c : {&base, &mejora}) c->PonerSimulacionLibre();
+  EXPECT_EQ(FilaDe(TablasAnalisisTecnico(Casos())[1], 1)[3], "12.00");
 }
 
 TEST_F(CasosTest, ObjetoYReferencia) {
@@ -124,30 +115,30 @@ TEST_F(CasosTest, ObjetoYReferencia) {
   escala.DemandaACS_solar_minima = 3;
   escala.iluminacionReferencia = 5;
   base.resultado->meses.iluminacion[12] = 200;  // 4 kWh/m2
-  SistemaResidencial sistema;
-  sistema.Tipo_sistema = "Calefaccion";
-  base.edificio->AnadirSistema(sistema);
+  base.AnadirSistema("Calefaccion");
   const Tabla tabla =
       TablaObjetoReferencia(base.MostrarCalificado(), UnidadesReferencia::Totales).value();
   ASSERT_EQ(tabla.filas.size(), 17U);
-  EXPECT_EQ(Fila(tabla, 0), (Textos{"Demanda calefacción (kWh)", "800.00", "500.00", "1.60", "F"}));
-  EXPECT_EQ(Fila(tabla, 2), (Textos{"Demanda ACS (kWh)", "0.00", "150.00", "0.00", ""}));
-  EXPECT_EQ(Fila(tabla, 3), (Textos{"Energía iluminación (kWh)", "200.00", "250.00", "0.80", ""}));
-  EXPECT_EQ(Fila(tabla, 5),
+  EXPECT_EQ(FilaDe(tabla, 0),
+            (Textos{"Demanda calefacción (kWh)", "800.00", "500.00", "1.60", "F"}));
+  EXPECT_EQ(FilaDe(tabla, 2), (Textos{"Demanda ACS (kWh)", "0.00", "150.00", "0.00", ""}));
+  EXPECT_EQ(FilaDe(tabla, 3),
+            (Textos{"Energía iluminación (kWh)", "200.00", "250.00", "0.80", ""}));
+  EXPECT_EQ(FilaDe(tabla, 5),
             (Textos{"Emisiones Calefacción (kgCO2)", "400.00", "200.00", "2.00", "C"}));
   // Sin referencia no hay índice; sin equipos no hay letra.
-  EXPECT_EQ(Fila(tabla, 6), (Textos{"Emisiones Refrigeración (kgCO2)", "600.00", "0.00", "",
-                                    "No existe equipo Refri."}));
-  EXPECT_EQ(Fila(tabla, 7)[4], "No existe equipo ACS");
-  EXPECT_EQ(Fila(tabla, 10),
+  EXPECT_EQ(FilaDe(tabla, 6), (Textos{"Emisiones Refrigeración (kgCO2)", "600.00", "0.00", "",
+                                      "No existe equipo Refri."}));
+  EXPECT_EQ(FilaDe(tabla, 7)[4], "No existe equipo ACS");
+  EXPECT_EQ(FilaDe(tabla, 10),
             (Textos{"Emisiones Totales (kgCO2)", "1000.00", "800.00", "1.25", "G"}));
   EXPECT_EQ(tabla.notas.size(), 1U);
   const Tabla porM2 =
       TablaObjetoReferencia(base.MostrarCalificado(), UnidadesReferencia::PorM2).value();
-  EXPECT_EQ(Fila(porM2, 0),
+  EXPECT_EQ(FilaDe(porM2, 0),
             (Textos{"Demanda calefacción (kWh/m2)", "16.00", "10.00", "1.60", "F"}));
-  EXPECT_EQ(Fila(porM2, 4)[0], "Energía ventilación (kWh)");
-  EXPECT_EQ(Fila(porM2, 16)[0], "* Energia primaria no renovable Totales (kWh/m2)");
+  EXPECT_EQ(FilaDe(porM2, 4)[0], "Energía ventilación (kWh)");
+  EXPECT_EQ(FilaDe(porM2, 16)[0], "* Energia primaria no renovable Totales (kWh/m2)");
   PonerZona(0, "D3");
   EXPECT_FALSE(
       TablaObjetoReferencia(base.MostrarCalificado(), UnidadesReferencia::PorM2).has_value());
@@ -160,8 +151,8 @@ TEST_F(CasosTest, SinLaBaseNoHayConQueComparar) {
   EXPECT_EQ(ahorros.back().grafico.posiciones, Textos{"Mejora_1"});
   EXPECT_EQ(ahorros.back().LineaLetras(), "Mejora_1: F");
   const Tabla emisiones = TablasAnalisisTecnico(sola)[1];
-  EXPECT_EQ(Fila(emisiones, 0)[0], "Mejora_1");
-  EXPECT_EQ(Fila(emisiones, 0)[2], "B");
+  EXPECT_EQ(FilaDe(emisiones, 0)[0], "Mejora_1");
+  EXPECT_EQ(FilaDe(emisiones, 0)[2], "B");
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 namespace novex {
 namespace {
 
-using Textos = std::vector<std::string>;
+using pruebas::Textos;
 
 class HojaTest : public testing::Test {
  protected:
@@ -17,16 +17,6 @@ class HojaTest : public testing::Test {
   }
   HojaCalificacion Hoja(BaseCalificacion base = BaseCalificacion::Emisiones) {
     return HojaDeCalificacion(caso.MostrarCalificado(), base);
-  }
-  void Simulacion(const std::string& tipo) {
-    DatosGenerales g = caso.edificio->GetDatosGenerales();
-    g.Tiposimulacion = tipo;
-    caso.edificio->SetDatosGenerales(g);
-  }
-  void Sistema(const std::string& tipo) {
-    SistemaResidencial sistema;
-    sistema.Tipo_sistema = tipo;
-    caso.edificio->AnadirSistema(sistema);
   }
   pruebas::CasoDePrueba caso;
 };
@@ -95,13 +85,13 @@ TEST_F(HojaTest, ViviendaDeZonaSinRefrigeracion) {
   }
   EXPECT_EQ(hoja.notaZona, "No se contabiliza refrigeración por estar en zona D1");
   EXPECT_EQ(TablasHoja(hoja)[1].notas, Textos{hoja.notaZona});
-  Simulacion("Simulacion");
+  caso.PonerSimulacionLibre();
   hoja = Hoja();
   EXPECT_FALSE(hoja.rellena);
   EXPECT_EQ(hoja.notaZona, "");
   EXPECT_TRUE(TablasHoja(hoja).empty());
   // Un terciario sí se califica.
-  Simulacion("Certificacion");
+  caso.Generales([](DatosGenerales& g) { g.Tiposimulacion = "Certificacion"; });
   caso.Poner(3, "D1", "Existente");
   EXPECT_EQ(Hoja().demanda[1].letra, "A");
   EXPECT_EQ(Hoja().notaZona, "");
@@ -133,12 +123,12 @@ TEST_F(HojaTest, ServiciosConEquipo) {
   const std::string no = "No existe equipos";
   EXPECT_EQ(avisos(), (Textos{no, no, no}));
   // El de los tres servicios no cuenta para calefacción.
-  Sistema("ACS+Calefaccion+Refrigeracion");
+  caso.AnadirSistema("ACS+Calefaccion+Refrigeracion");
   EXPECT_EQ(avisos(), (Textos{no, "", ""}));
   caso.edificio->BorrarSistema(0);
-  Sistema("ACS+Calefaccion");
+  caso.AnadirSistema("ACS+Calefaccion");
   EXPECT_EQ(avisos(), (Textos{"", no, ""}));
-  Sistema("Refrigeracion");
+  caso.AnadirSistema("Refrigeracion");
   EXPECT_EQ(avisos(), (Textos{"", "", ""}));
   EXPECT_EQ(TablasHoja(Hoja())[1].filas[0].size(), TablasHoja(Hoja())[1].cabeceras.size());
 }

@@ -44,15 +44,12 @@ TEST_F(JsonResultadosTest, CadaUnidadYServicioEnSuSitio) {
   const char* bloques[] = {"energia_final", "energia_primaria_total",
                            "energia_primaria_no_renovable", "energia_primaria_renovable",
                            "emisiones"};
-  for (std::size_t u = 0; u < kUnidadesEnergia; ++u) {
-    const double unidad = static_cast<double>(u);
-    EXPECT_EQ(j.at(bloques[u]).at("acs"), 0 + unidad);
-    EXPECT_EQ(j.at(bloques[u]).at("calefaccion"), 10 + unidad);
-    EXPECT_EQ(j.at(bloques[u]).at("refrigeracion"), 20 + unidad);
-    EXPECT_EQ(j.at(bloques[u]).at("ventilacion"), 30 + unidad);
-    EXPECT_EQ(j.at(bloques[u]).at("iluminacion"), 40 + unidad);
-    EXPECT_EQ(j.at(bloques[u]).at("total"), 90 + unidad);
-  }
+  const std::pair<const char*, double> servicios[] = {
+      {"acs", 0},          {"calefaccion", 10}, {"refrigeracion", 20},
+      {"ventilacion", 30}, {"iluminacion", 40}, {"total", 90}};
+  for (std::size_t u = 0; u < kUnidadesEnergia; ++u)
+    for (const auto& [servicio, base] : servicios)
+      EXPECT_EQ(j.at(bloques[u]).at(servicio), base + static_cast<double>(u)) << servicio;
 }
 
 TEST_F(JsonResultadosTest, LosMesesVanDeEneroADiciembreYLaCalefaccionEnPositivo) {
@@ -83,9 +80,7 @@ TEST_F(JsonResultadosTest, SoloLasLetrasQueTiene) {
   caso.Poner(0, "C2", "Nuevo");
   EXPECT_EQ(Caso({}).at("letras").size(), 10U);
   EXPECT_FALSE(Caso({}).at("letras").contains("EmisionesIlu"));
-  DatosGenerales generales = caso.edificio->GetDatosGenerales();
-  generales.Tiposimulacion = "Simulacion";
-  caso.edificio->SetDatosGenerales(generales);
+  caso.PonerSimulacionLibre();
   EXPECT_EQ(Caso({}).at("letras").size(), 0U);
 }
 

@@ -42,7 +42,7 @@ class Informe : public testing::Test {
  protected:
   Informe() {
     caso.Poner(0, "D3", "Existente");
-    Cambiar([](DatosGenerales& g) { g.TipoCertificado = "Existente"; });
+    caso.Generales([](DatosGenerales& g) { g.TipoCertificado = "Existente"; });
     Lugar("Madrid");
     Recinto& recinto = caso.edificio->GetRecinto(0);
     recinto.Suelo_habitable_m2 = 100;
@@ -68,12 +68,6 @@ class Informe : public testing::Test {
     i.finalPorVector[Indice(v)][0] = kWh;
     i.porUnidad[kPrimariaNoRenovable][0] = nren;
     i.porUnidad[kEmisiones][0] = co2;
-  }
-  template <class Cambio>
-  void Cambiar(Cambio cambio) {
-    DatosGenerales g = caso.edificio->GetDatosGenerales();
-    cambio(g);
-    caso.edificio->SetDatosGenerales(g);
   }
   void Lugar(const std::string& provincia) {
     Localizacion lugar = caso.edificio->GetLocalizacion();
@@ -151,7 +145,7 @@ TEST_F(Informe, SinRefrigeracionQueCalificarNoSeCuentaEnNada) {
 
 TEST_F(Informe, EnTerciarioVanLaReferenciaYLaIluminacion) {
   caso.Poner(14, "D3", "Existente");
-  Cambiar([](DatosGenerales& g) {
+  caso.Generales([](DatosGenerales& g) {
     g.TipoCertificado = "ProyectoReforma";
     g.Iluminacion = 8.5F;
     g.Lux = 500;
@@ -190,7 +184,7 @@ TEST_F(Informe, EnTerciarioVanLaReferenciaYLaIluminacion) {
 // El humectador no enfría, y el primer perfil terciario no prueba el enfriamiento gratuito.
 TEST_F(Informe, LaUnidadDeAireEsLaDelCertificado) {
   caso.Poner(3, "D3", "Existente");
-  Cambiar([](DatosGenerales& g) {
+  caso.Generales([](DatosGenerales& g) {
     g.ManejoVentilacion = "UTAprimario_Ventilacion_indep.";
     g.UTAHumectacion = "HumectadorSi";
     g.TipoCO2 = "SondaCO2 con freecooling";
@@ -201,12 +195,12 @@ TEST_F(Informe, LaUnidadDeAireEsLaDelCertificado) {
   EXPECT_EQ(dice("Nombre"), "UTAprimario");
   EXPECT_EQ(dice("EnfriamientoEvaporativo"), "No");
   EXPECT_EQ(dice("EnfriamientoGratuito"), "No");
-  Cambiar([](DatosGenerales& g) { g.TipoCO2 = "Proporcional al nº personas (sonda CO2)"; });
+  caso.Generales([](DatosGenerales& g) { g.TipoCO2 = "Proporcional al nº personas (sonda CO2)"; });
   EXPECT_EQ(dice("TipoControl"), "Proporcional al nº personas (sonda CO2)");
 }
 
 TEST_F(Informe, ExigenciasDeUnaViviendaQueSeVerifica) {
-  Cambiar([](DatosGenerales& g) {
+  caso.Generales([](DatosGenerales& g) {
     g.TipoCertificado = "ProyectoReforma";
     g.Reforma = "Reforma <25% envolvente";
   });
@@ -221,7 +215,7 @@ TEST_F(Informe, ExigenciasDeUnaViviendaQueSeVerifica) {
   EXPECT_EQ(Texto(n, "Demanda/Exigencias/LimiteRefrigeracionVivienda"), "15.00");
   EXPECT_FALSE(En(n, "Consumo/Exigencias"));  // a esa reforma no se le exige el consumo
   caso.Poner(0, "D3", "Nuevo");
-  Cambiar([](DatosGenerales& g) { g.TipoCertificado = "ObraNuevaConstruccion"; });
+  caso.Generales([](DatosGenerales& g) { g.TipoCertificado = "ObraNuevaConstruccion"; });
   EXPECT_EQ(Texto(Leer(), "Consumo/Exigencias/LimiteViviendaGlobalEPNR"), "65.00");
 }
 
@@ -237,16 +231,8 @@ TEST_F(Informe, LaEnvolventeLlevaLaTransmitanciaQueSeVerifica) {
   res.Uequivalente.fill(0.25F);
   res.bU.fill(0.1F);
   e.GetComposicion(ranura::MuroExt2).nombre = "Ladrillo & cámara";
-  material ladrillo;
-  ladrillo.Material = "Ladrillo";
-  ladrillo.Espesor = 0.115F;
-  ladrillo.Conductividad = 0.667F;
-  e.AnadirMaterial(ladrillo, ranura::MuroExt2);
-  material camara;
-  camara.Material = "Cámara";
-  camara.Espesor = 0.05F;
-  camara.Resistencia_termica = 0.18F;
-  e.AnadirMaterial(camara, ranura::MuroExt2);
+  e.AnadirMaterial(pruebas::Capa("Ladrillo", 0.115F, 0.667F), ranura::MuroExt2);
+  e.AnadirMaterial(pruebas::Capa("Cámara", 0.05F, 0, 0.18F), ranura::MuroExt2);
   Huecos& g = e.GetHuecos(0);
   g.Nombre_hueco = "Salón";
   g.Ancho_m = 2;
@@ -326,7 +312,7 @@ TEST_F(Informe, LosTextosDelUsuarioLleganEnteros) {
       "uno\x01"
       "dos\x1f\x0b"
       "tres";
-  Cambiar([&](DatosGenerales& g) {
+  caso.Generales([&](DatosGenerales& g) {
     g.Edificio_Titulo = malo;
     g.Certificador_Nombre = conControl;
     g.Direccion =
@@ -394,23 +380,17 @@ TEST_F(Informe, LasMedidasSeComparanConLaBase) {
 }
 
 TEST_F(Informe, LoQueNoSeCalificaNoTieneInforme) {
-  Cambiar([](DatosGenerales& g) { g.Tiposimulacion = "Simulacion"; });
+  caso.PonerSimulacionLibre();
   EXPECT_THROW(Escribir(), ErrorCalculo);
 }
 
 TEST_F(Informe, UnGeneradorQueNoHaTrabajadoConservaSuRendimiento) {
-  SistemaResidencial sistema;
-  sistema.Tipo_sistema = "ACS+Calefaccion";
-  sistema.Nombre_sistema = "Sala";
-  sistema.Sup_Calefaccion = 60;
-  Instalaciones& i = sistema.instalaciones.emplace_back();
-  i.Seleccion = "1 Caldera";
-  i.NEquipos = 2;
+  Instalaciones& i = caso.AnadirSistema("ACS+Calefaccion", "1 Caldera", "Sala", 2);
+  caso.edificio->GetSistema(0).Sup_Calefaccion = 60;
   i.QcalorCaldera1 = 24;
   i.RendCalor1 = 0.92F;
   i.CombCalor1 = "GLP";
-  caso.edificio->AnadirSistema(sistema);
-  SumasBloque& s = caso.resultado->sumasBloques.emplace_back();
+  SumasBloque& s = caso.resultado->sumasBloques[0];
   s.dado[0][kCalefaccion] = 900;
   s.consumo[0][kCalefaccion] = 1000;
   const XMLNode n = Leer();

@@ -50,21 +50,6 @@ class Bloque : public testing::Test {
  protected:
   void SetUp() override { caso.edificio->GetRecinto(0).Suelo_habitable_m2 = 50; }
 
-  void CambiarGenerales(pruebas::CasoDePrueba& c, void (*cambio)(DatosGenerales&)) {
-    DatosGenerales d = c.edificio->GetDatosGenerales();
-    cambio(d);
-    c.edificio->SetDatosGenerales(d);
-  }
-  Instalaciones& AnadirSistema(const std::string& tipo, const std::string& seleccion) {
-    SistemaResidencial sistema;
-    sistema.Tipo_sistema = tipo;
-    sistema.instalaciones.resize(1);
-    sistema.instalaciones[0].Seleccion = seleccion;
-    sistema.instalaciones[0].NEquipos = 1;
-    caso.edificio->AnadirSistema(std::move(sistema));
-    caso.resultado->sumasBloques.emplace_back();
-    return caso.edificio->GetSistema(caso.edificio->NumeroSistemas() - 1).instalaciones[0];
-  }
   // Una magnitud que vale `W` en las diez primeras horas.
   void AnadirAtributo(const std::string& nombre, float W) {
     AtributoSistema& a = caso.resultado->atributos.emplace_back();
@@ -92,7 +77,7 @@ TEST_F(Bloque, LosBloquesSonDeLaBaseYCadaCasoVaEnSuLugar) {
 }
 
 TEST_F(Bloque, LasEtiquetasDeUnSistemaSonLasDelAno) {
-  Instalaciones& i = AnadirSistema("Calefaccion+Refrigeracion", "1 BC aire-agua");
+  Instalaciones& i = caso.AnadirSistema("Calefaccion+Refrigeracion", "1 BC aire-agua");
   i.NEquipos = 2;
   i.GEN1.Caudal = 500;
   i.GEN1.P = 3;
@@ -128,7 +113,7 @@ TEST_F(Bloque, LasEtiquetasDeUnSistemaSonLasDelAno) {
 }
 
 TEST_F(Bloque, UnaCalderaNoTieneSCOP) {
-  AnadirSistema("ACS+Calefaccion", "1 Caldera").CombCalor1 = "GasNatural";
+  caso.AnadirSistema("ACS+Calefaccion", "1 Caldera").CombCalor1 = "GasNatural";
   SumasBloque& s = caso.resultado->sumasBloques[0];
   s.dado[0] = {800, 0, 0};
   s.consumo[0] = {1000, 0, 0};
@@ -174,7 +159,7 @@ TEST_F(Bloque, LosIndicadoresYSusLetras) {
 }
 
 TEST_F(Bloque, UnaSimulacionLibreNoLlevaLetras) {
-  CambiarGenerales(caso, [](DatosGenerales& d) { d.Tiposimulacion = "Simulacion"; });
+  caso.PonerSimulacionLibre();
   const NodoConservado b = Bloques({caso.MostrarCalificado()});
   EXPECT_TRUE(Hijo(b, "Calificacion/Emisiones").hijos.empty());
   EXPECT_TRUE(Hijo(b, "Escalas/Demanda").hijos.empty());
@@ -245,14 +230,14 @@ TEST_F(Bloque, LoTomadoDelAmbienteSeProduceEntero) {
 
 TEST_F(Bloque, MejorasVisitasEIntervenciones) {
   pruebas::CasoDePrueba mejora;
-  CambiarGenerales(mejora, [](DatosGenerales& d) {
+  mejora.Generales([](DatosGenerales& d) {
     d.MedidaMejora = "Caldera <nueva>";
     d.Coste = 2;
     d.PlazoAmortizacion = 9;  // no es de la lista
     d.CBConfort = d.CBIncendios = true;
     d.Memo[0] = {"Una", "dos"};
   });
-  CambiarGenerales(caso, [](DatosGenerales& d) {
+  caso.Generales([](DatosGenerales& d) {
     d.NumeroVisitas = 1;
     d.FechaVisita = {"1/2/2024", "3/4/2024", ""};
     d.Memo[1] = {"Planos"};

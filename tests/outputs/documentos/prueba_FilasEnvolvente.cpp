@@ -1,5 +1,6 @@
 #include "outputs/documentos/FilasEnvolvente.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "outputs/CasoPrueba.h"
@@ -7,14 +8,15 @@
 namespace novex {
 namespace {
 
+using testing::_;
+using testing::ElementsAre;
+using testing::FieldsAre;
+
 constexpr std::size_t kMuro = ranura::MuroExt2;
 
+// Ladrillo o aislante con todos sus datos.
 material Capa(const char* nombre, float espesor, float conductividad) {
-  material m;
-  m.Material = nombre;
-  m.Espesor = espesor;
-  m.Conductividad = conductividad;
-  m.Resistencia_termica = espesor / conductividad;
+  material m = pruebas::Capa(nombre, espesor, conductividad, espesor / conductividad);
   m.Densidad = 1000;
   m.CalorEspecifico = 840;
   m.Resisvidad_relativa_vapor = 10;
@@ -43,26 +45,20 @@ TEST_F(FilasEnvolvente, UnCerramientoPorOrientacionYUnaComposicion) {
   caso.Resultados().Uefectiva[kMuro] = 0.349F;
   FilasCerramientos(caso.Mostrar(), modelo);
 
-  ASSERT_EQ(modelo.cerramientos.size(), 4U);
-  EXPECT_EQ(modelo.cerramientos[0].tipo, "Cubierta Incl. Exterior 30ºN");
-  EXPECT_EQ(modelo.cerramientos[0].definicion, "Definido por el usuario");
-  EXPECT_EQ(modelo.cerramientos[0].composicion, "");
-  const MC_CERRAMIENTO& muro = modelo.cerramientos[1];
-  EXPECT_EQ(muro.tipo, "Muro Exterior O");
-  EXPECT_EQ(muro.area, "12.3");
-  EXPECT_EQ(muro.U, "0.3");
-  EXPECT_EQ(muro.definicion, "En función de su composición");
-  EXPECT_EQ(muro.composicion, "Muro &#95;NIF&#95;");
-  EXPECT_EQ(modelo.cerramientos[2].tipo, "Muro Exterior SE");
-  EXPECT_EQ(modelo.cerramientos[3].tipo, "Suelo a vacio sanitario");
-  EXPECT_EQ(modelo.cerramientos[3].definicion, "Defecto existentes. Doble hoja");
+  constexpr const char* kCapas = "En función de su composición";
+  constexpr const char* kNombre = "Muro &#95;NIF&#95;";
+  EXPECT_THAT(
+      modelo.cerramientos,
+      ElementsAre(
+          FieldsAre("Cubierta Incl. Exterior 30ºN", _, _, "Definido por el usuario", "", _),
+          FieldsAre("Muro Exterior O", "12.3", "0.3", kCapas, kNombre, _),
+          FieldsAre("Muro Exterior SE", "5.0", "0.3", kCapas, kNombre, _),
+          FieldsAre("Suelo a vacio sanitario", "60.0", _, "Defecto existentes. Doble hoja", _, _)));
 
   ASSERT_EQ(modelo.composiciones.size(), 2U);  // la de la cubierta no tiene nombre ni capas
   ASSERT_EQ(modelo.composiciones[0].capas.size(), 2U);
-  const MC_CAPA& capa = modelo.composiciones[0].capas[0];
-  EXPECT_EQ(capa.nombre, "Ladrillo &lt;1/2 pie&gt;");
-  EXPECT_EQ(capa.calorEspecifico, "0.84");  // kJ/kgK
-  EXPECT_EQ(capa.espesor, "0.12");
+  EXPECT_THAT(modelo.composiciones[0].capas[0],
+              FieldsAre("Ladrillo &lt;1/2 pie&gt;", _, _, "0.84" /* kJ/kgK */, _, _, "0.12"));
   EXPECT_TRUE(modelo.composiciones[1].capas.empty());
 }
 
@@ -105,16 +101,13 @@ TEST_F(FilasEnvolvente, UnHuecoPorGrupoYOrientacion) {
   lucernario.Indice_tipo_cristal = 5;
   e.AnadirHuecos(lucernario);
   FilasHuecos(e, modelo);
-  ASSERT_EQ(modelo.huecos.size(), 4U);
-  EXPECT_EQ(modelo.huecos[0].orientacionYArea, "N 2.00");
-  EXPECT_EQ(modelo.huecos[0].definicion, "Función de su composición");
-  EXPECT_EQ(modelo.huecos[1].orientacionYArea, "E 6.00");
-  EXPECT_EQ(modelo.huecos[1].clase, "Ventanas");
-  EXPECT_EQ(modelo.huecos[1].vidrio, "Dobles");
-  EXPECT_EQ(modelo.huecos[2].grupo, "Grupo 2");
-  EXPECT_EQ(modelo.huecos[2].orientacionYArea, "30ºS 2.00");
-  EXPECT_EQ(modelo.huecos[2].definicion, "Definido por usuario");
-  EXPECT_EQ(modelo.huecos[3].orientacionYArea, "Hz 2.00");
+  constexpr const char* kFuncion = "Función de su composición";
+  constexpr const char* kUsuario = "Definido por usuario";
+  EXPECT_THAT(modelo.huecos,
+              ElementsAre(FieldsAre(_, "Ventanas", "Dobles", _, _, _, kFuncion, "N 2.00"),
+                          FieldsAre(_, "Ventanas", "Dobles", _, _, _, kFuncion, "E 6.00"),
+                          FieldsAre("Grupo 2", _, _, _, _, _, kUsuario, "30ºS 2.00"),
+                          FieldsAre("Grupo 2", _, _, _, _, _, kUsuario, "Hz 2.00")));
 }
 
 TEST_F(FilasEnvolvente, LosOchoPuentesConSuValorYSuLongitud) {
@@ -128,24 +121,18 @@ TEST_F(FilasEnvolvente, LosOchoPuentesConSuValorYSuLongitud) {
   c.Perimetro_suelo_terreno = 39;
   c.Long_pilares = {1, 2, 3, 4, 5, 6};
   FilasPuentes(c, modelo);
-  const std::array<std::array<const char*, 3>, 8> esperados = {
-      {{"FRENTE&#95;FORJADO", "1.50", "10.00"},
-       {"UNION&#95;CUBIERTA", "2.50", "37.00"},
-       {"ESQUINA&#95;CONVEXA&#95;FORJADO", "3.50", "35.00"},
-       {"ESQUINA&#95;CONCAVA&#95;CERRAMIENTO", "4.50", "30.00"},
-       {"ESQUINA&#95;CONVEXA&#95;CERRAMIENTO", "4.50", "30.00"},
-       {"PILAR", "5.50", "21.00"},
-       {"UNION&#95;SOLERA&#95;PAREDEXT", "6.50", "39.00"},
-       {"HUECO&#95;VENTANA", "0.50", "20.00"}}};
-  ASSERT_EQ(modelo.puentes.size(), esperados.size());
-  for (std::size_t i = 0; i < esperados.size(); ++i) {
-    const PUENTETERMICO& p = modelo.puentes[i];
-    EXPECT_EQ(p.vacio, "");
-    EXPECT_EQ(p.clase, esperados[i][0]);
-    EXPECT_EQ(p.transmitancia, esperados[i][1]) << p.clase;
-    EXPECT_EQ(p.longitud, esperados[i][2]) << p.clase;
-    EXPECT_EQ(p.origen, "SDINT");
-  }
+  const auto fila = [](const char* clase, const char* psi, const char* longitud) {
+    return FieldsAre("", clase, psi, longitud, "SDINT");
+  };
+  EXPECT_THAT(modelo.puentes,
+              ElementsAre(fila("FRENTE&#95;FORJADO", "1.50", "10.00"),
+                          fila("UNION&#95;CUBIERTA", "2.50", "37.00"),
+                          fila("ESQUINA&#95;CONVEXA&#95;FORJADO", "3.50", "35.00"),
+                          fila("ESQUINA&#95;CONCAVA&#95;CERRAMIENTO", "4.50", "30.00"),
+                          fila("ESQUINA&#95;CONVEXA&#95;CERRAMIENTO", "4.50", "30.00"),
+                          fila("PILAR", "5.50", "21.00"),
+                          fila("UNION&#95;SOLERA&#95;PAREDEXT", "6.50", "39.00"),
+                          fila("HUECO&#95;VENTANA", "0.50", "20.00")));
 }
 
 }  // namespace

@@ -1,8 +1,7 @@
 #include "outputs/documentos/VariablesEquipos.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 #include "outputs/CasoPrueba.h"
 #include "outputs/documentos/ConsumosServicio.h"
@@ -10,31 +9,16 @@
 namespace novex {
 namespace {
 
-// Un sistema con un bloque que se termina de llenar a mano.
-Instalaciones& Anadir(pruebas::CasoDePrueba& caso, const std::string& tipo,
-                      const std::string& nombre, const std::string& seleccion, int equipos) {
-  SistemaResidencial sistema;
-  sistema.Tipo_sistema = tipo;
-  sistema.Nombre_sistema = nombre;
-  sistema.instalaciones.resize(1);
-  sistema.instalaciones[0].Seleccion = seleccion;
-  sistema.instalaciones[0].NEquipos = equipos;
-  caso.edificio->AnadirSistema(std::move(sistema));
-  caso.resultado->sumasBloques.emplace_back();
-  return caso.edificio->GetSistema(caso.edificio->NumeroSistemas() - 1).instalaciones[0];
-}
-
-std::string Valor(const NOVEX_TO_MODELOCERTIFICADO& modelo, const std::string& nombre) {
-  const auto v = std::find_if(modelo.variables.begin(), modelo.variables.end(),
-                              [&](const VBLE& x) { return x.nombre == nombre; });
-  return v == modelo.variables.end() ? "(falta)" : v->valor;
-}
+using testing::ElementsAre;
+using testing::FieldsAre;
+using testing::IsSupersetOf;
 
 // Bomba de calor con caldera de biomasa para los dos servicios de calor.
 class Conjunto : public testing::Test {
  protected:
   Conjunto() {
-    Instalaciones& i = Anadir(caso, "ACS+Calefaccion", "Sala <b>", "1 BC aire-agua + 1 Caldera", 2);
+    Instalaciones& i =
+        caso.AnadirSistema("ACS+Calefaccion", "1 BC aire-agua + 1 Caldera", "Sala <b>", 2);
     i.QcalorBC1 = 10;
     i.WeCalor1 = 4;
     i.QcalorCaldera2 = 24;
@@ -59,23 +43,17 @@ TEST_F(Conjunto, LosDosGeneradoresSonDosFilasPorServicio) {
   ASSERT_EQ(modelo.equiposCalefaccion.size(), 2U);
   ASSERT_EQ(modelo.equiposACS.size(), 2U);
   EXPECT_TRUE(modelo.equiposRefrigeracion.empty());
-  const EQUIPO& bomba = modelo.equiposCalefaccion[0];
-  EXPECT_EQ(bomba.nombre, "Sala &lt;b&gt;");
-  EXPECT_EQ(bomba.generador, "2x) BC aire-agua");
-  EXPECT_EQ(bomba.potencia, "20.00");
-  EXPECT_EQ(bomba.rendimientoNominal, "250.00");
-  EXPECT_EQ(bomba.rendimientoEstacional, "300.00");
-  EXPECT_EQ(bomba.vector, "Electricidad");
-  const EQUIPO& caldera = modelo.equiposCalefaccion[1];
-  EXPECT_EQ(caldera.generador, "2x) Caldera");
-  EXPECT_EQ(caldera.rendimientoEstacional, "80.00");
-  EXPECT_EQ(caldera.vector, "Biomasa_Pellet");
+  EXPECT_THAT(modelo.equiposCalefaccion[0], FieldsAre("Sala &lt;b&gt;", "2x) BC aire-agua", "20.00",
+                                                      "250.00", "300.00", "Electricidad"));
+  EXPECT_THAT(modelo.equiposCalefaccion[1], FieldsAre("Sala &lt;b&gt;", "2x) Caldera", "48.00",
+                                                      "92.00", "80.00", "Biomasa_Pellet"));
   // La caldera no ha hecho agua caliente: no tiene rendimiento del año en ella.
   EXPECT_EQ(modelo.equiposACS[0].rendimientoEstacional, "250.00");
   EXPECT_EQ(modelo.equiposACS[1].rendimientoEstacional, "Definido por usuario");
-  EXPECT_EQ(Valor(modelo, "TOTALPOTCAL"), "68.00");  // 2 por 10 y 2 por 24
-  EXPECT_EQ(Valor(modelo, "POTNOMCALEF"), "68.00");
-  EXPECT_EQ(Valor(modelo, "POTNOMREFRIG"), "0.00");
+  // 2 por 10 y 2 por 24.
+  EXPECT_THAT(modelo.variables,
+              IsSupersetOf({VBLE{"TOTALPOTCAL", "68.00"}, VBLE{"POTNOMCALEF", "68.00"},
+                            VBLE{"POTNOMREFRIG", "0.00"}}));
 
   NOVEX_TO_MODELOCERTIFICADO razones;
   VariablesEquipos(caso.Mostrar(), FormaRendimiento::Razon, razones);
@@ -85,23 +63,19 @@ TEST_F(Conjunto, LosDosGeneradoresSonDosFilasPorServicio) {
 
 TEST_F(Conjunto, LosConsumosVanPorVectorConSusBombas) {
   caso.resultado->meses.ventilacion[0] = 123.456F;
-  caso.Resultados().servicio[kACS].finalPorVector[Indice(VectorEnergetico::Energiasolartermica)]
-                                                 [0] = 700;
+  caso.PonerFinal(kACS, VectorEnergetico::Energiasolartermica, 700);
   NOVEX_TO_MODELOCERTIFICADO modelo;
   ListaConsumos(caso.Mostrar(), modelo);
-  std::vector<std::string> filas;
-  for (const CONSUMO& c : modelo.consumos)
-    filas.push_back(c.servicio + "|" + c.vector + "|" + c.generador + "|" + c.energia);
-  const std::vector<std::string> esperadas = {
-      "CAL|ELECTRICIDAD|2x) BC aire-agua|1050.00",
-      "CAL|MEDIOAMBIENTE|2x) BC aire-agua|2000.00",
-      "CAL|BIOMASA|2x) Caldera|1000.00",
-      "ACS|ELECTRICIDAD|2x) BC aire-agua|410.00",
-      "ACS|MEDIOAMBIENTE|2x) BC aire-agua|600.00",
-      "ACS|BIOMASA|2x) Caldera|0.00",
-      "ACS|MEDIOAMBIENTE|Inst.solar termica|700.00",
-      "VEN|ELECTRICIDAD|EQUIPO EXCLUSIVO VENTILACION|123.46"};
-  EXPECT_EQ(filas, esperadas);
+  EXPECT_THAT(
+      modelo.consumos,
+      ElementsAre(FieldsAre("ELECTRICIDAD", "2x) BC aire-agua", "CAL", "1050.00"),
+                  FieldsAre("MEDIOAMBIENTE", "2x) BC aire-agua", "CAL", "2000.00"),
+                  FieldsAre("BIOMASA", "2x) Caldera", "CAL", "1000.00"),
+                  FieldsAre("ELECTRICIDAD", "2x) BC aire-agua", "ACS", "410.00"),
+                  FieldsAre("MEDIOAMBIENTE", "2x) BC aire-agua", "ACS", "600.00"),
+                  FieldsAre("BIOMASA", "2x) Caldera", "ACS", "0.00"),
+                  FieldsAre("MEDIOAMBIENTE", "Inst.solar termica", "ACS", "700.00"),
+                  FieldsAre("ELECTRICIDAD", "EQUIPO EXCLUSIVO VENTILACION", "VEN", "123.46")));
 }
 
 TEST(Equipos, CadaClaseTieneSuPotenciaYSuRendimiento) {
@@ -126,7 +100,7 @@ TEST(Equipos, CadaClaseTieneSuPotenciaYSuRendimiento) {
        0, 0.7F}};
   for (const Esperado& e : clases) {
     pruebas::CasoDePrueba caso;
-    Instalaciones& i = Anadir(caso, e.tipo, "U", e.seleccion, 3);
+    Instalaciones& i = caso.AnadirSistema(e.tipo, e.seleccion, "U", 3);
     i.QcalorCaldera1 = 20;
     i.RendCalor1 = 0.9F;
     i.QcalorBC1 = 12;
@@ -151,29 +125,21 @@ TEST(Equipos, CadaClaseTieneSuPotenciaYSuRendimiento) {
 TEST(Equipos, ElEquipoPorDefectoVaElUltimo) {
   pruebas::CasoDePrueba caso;
   caso.Poner(0, "D3", "Nuevo");
-  Anadir(caso, "Calefaccion", "U", "1 Caldera", 1);
+  caso.AnadirSistema("Calefaccion", "1 Caldera", "U", 1);
   caso.resultado->meses.defecto[kCalefaccion][0] = 500;
   caso.Resultados().defecto.rendimiento[kCalefaccion] = 0.92F;
   // Sin "SI" nada se le carga al servicio.
   EXPECT_EQ(GeneradoresDeServicio(caso.Mostrar(), kCalefaccion).size(), 1U);
-  DatosGenerales generales = caso.edificio->GetDatosGenerales();
-  generales.Equipos_Defecto = "SI";
-  caso.edificio->SetDatosGenerales(generales);
+  caso.Generales([](DatosGenerales& g) { g.Equipos_Defecto = "SI"; });
   NOVEX_TO_MODELOCERTIFICADO modelo;
   VariablesEquipos(caso.Mostrar(), FormaRendimiento::TantoPorCiento, modelo);
   ASSERT_EQ(modelo.equiposCalefaccion.size(), 2U);
-  const EQUIPO& fila = modelo.equiposCalefaccion[1];
-  EXPECT_EQ(fila.nombre, "Sistema sustitución");
-  EXPECT_EQ(fila.generador, "Rend. constante");
-  EXPECT_EQ(fila.potencia, "");
-  EXPECT_EQ(fila.rendimientoNominal, "92.00");
-  EXPECT_EQ(fila.rendimientoEstacional, "Definido por defecto");
-  EXPECT_EQ(fila.vector, "GasNatural");
+  EXPECT_THAT(modelo.equiposCalefaccion[1],
+              FieldsAre("Sistema sustitución", "Rend. constante", "", "92.00",
+                        "Definido por defecto", "GasNatural"));
   ListaConsumos(caso.Mostrar(), modelo);
-  const CONSUMO& ultimo = modelo.consumos.back();
-  EXPECT_EQ(ultimo.vector, "GASNATURAL");
-  EXPECT_EQ(ultimo.generador, "Sistema sustitución");
-  EXPECT_EQ(ultimo.energia, "500.00");
+  EXPECT_THAT(modelo.consumos.back(),
+              FieldsAre("GASNATURAL", "Sistema sustitución", "CAL", "500.00"));
 }
 
 }  // namespace

@@ -1,0 +1,278 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <sstream>
+
+#include "outputs/CasoPrueba.h"
+#include "outputs/EstadisticaSerie.h"
+#include "outputs/ExportacionSeries.h"
+#include "outputs/SeriesHorarias.h"
+#include "outputs/TextoTabla.h"
+
+namespace novex {
+namespace {
+
+using pruebas::CasoDePrueba;
+
+std::vector<std::string> Partir(const std::string& texto, char separador) {
+  std::vector<std::string> partes{""};
+  for (const char c : texto) {
+    if (c == separador)
+      partes.emplace_back();
+    else
+      partes.back() += c;
+  }
+  return partes;
+}
+
+TEST(SeriesHorarias, CadaCodigoTieneSuSerie) {
+  const auto caso = std::make_unique<calculo>();
+  std::map<std::string_view, const SerieHoraria*> porCodigo;
+  std::map<const SerieHoraria*, std::string_view> dueno;
+  for (const DescripcionSerie& serie : SeriesHorarias()) {
+    const SerieHoraria* tomada = &serie.tomar(*caso);
+    EXPECT_TRUE(porCodigo.emplace(serie.codigo, tomada).second) << serie.codigo;
+    // Solo la copia de la cubierta sur comparte serie.
+    const auto [it, nueva] = dueno.emplace(tomada, serie.codigo);
+    EXPECT_EQ(nueva, serie.codigo != "CLIGEROSS") << serie.codigo << " y " << it->second;
+  }
+  // Los sectores no están en el orden en que se nombran.
+  EXPECT_EQ(porCodigo.at("MLIGEROSE"), &caso->clima.MLIGERO[sur_este]);
+  EXPECT_EQ(porCodigo.at("IRADO"), &caso->clima.IRAD[oeste]);
+  EXPECT_EQ(porCodigo.at("CLIGEROSO"), &caso->clima.CLIGERO[sur_oeste]);
+  EXPECT_EQ(porCodigo.at("QOCUPSh"), &caso->carga.QOCUPSh);
+  EXPECT_EQ(porCodigo.at("DREF"), &caso->zona.DREF);
+}
+
+TEST(SeriesHorarias, CsvDeLasOchoMilHoras) {
+  const auto caso = std::make_unique<calculo>();
+  caso->clima.TSE[1] = 3.8F;
+  caso->clima.WE[1] = 0.00396F;
+  caso->zona.DCAL[8760] = -1.23456F;
+  caso->zona.DCAL[1] = -0.0001F;  // no se escribe un cero negativo
+  caso->zona.DREF[0] = 99;        // la posición 0 no es una hora
+  const auto lineas = Partir(CsvSeries(*caso), '\n');
+  ASSERT_EQ(lineas.size(), 8762U);  // cabecera, horas y el final tras el último salto
+  EXPECT_EQ(lineas.back(), "");
+  const auto cabecera = Partir(lineas[0], ';');
+  const auto celda = [&](std::size_t hora, const std::string& codigo) {
+    const auto i = std::find(cabecera.begin(), cabecera.end(), codigo) - cabecera.begin();
+    return Partir(lineas[hora], ';').at(static_cast<std::size_t>(i));
+  };
+  EXPECT_EQ(cabecera.size(), SeriesHorarias().size() + 1);
+  EXPECT_EQ(celda(1, "hora"), "1");
+  EXPECT_EQ(celda(8760, "hora"), "8760");
+  EXPECT_EQ(celda(1, "TSE"), "3.800");
+  EXPECT_EQ(celda(1, "WE"), "0.003960");
+  EXPECT_EQ(celda(8760, "DCAL"), "-1.235");
+  EXPECT_EQ(celda(1, "DCAL"), "0.000");
+  EXPECT_EQ(celda(1, "DREF"), "0.000");
+}
+
+using enum TipoPeriodo;
+
+Serie Llana(const char* codigo, const char* unidad, ClaseSerie clase, float valor) {
+  return {codigo, unidad, clase, std::vector<float>(kHorasAno, valor)};
+}
+
+// Pone un valor en una hora del año, desde 1.
+void Poner(Serie& serie, int h, float valor) {
+  serie.valores.at(static_cast<std::size_t>(h - 1)) = valor;
+}
+
+TEST(PeriodoSerie, LimitesDelCalendario) {
+  const auto horas = [](PeriodoSerie p) { return HorasDelPeriodo(p).valor; };
+  EXPECT_EQ(horas({}), (RangoHoras{1, 8760}));
+  EXPECT_EQ(horas({.tipo = Mensual, .mes = 12}), (RangoHoras{8017, 8760}));
+  EXPECT_EQ(horas({.tipo = Semanal, .semana = 52}), (RangoHoras{8569, 8736}));
+  EXPECT_EQ(horas({.tipo = Diario, .mes = 2, .dia = 28}), (RangoHoras{1393, 1416}));
+  EXPECT_EQ(horas({.tipo = Diario, .mes = 12, .dia = 31}), (RangoHoras{8737, 8760}));
+  EXPECT_FALSE(horas({.tipo = Semanal, .semana = 53}));
+  EXPECT_FALSE(horas({.tipo = Mensual, .mes = 13}));
+  for (const int dia : {0, 29, 31}) {
+    const auto febrero = HorasDelPeriodo({.tipo = Diario, .mes = 2, .dia = dia});
+    EXPECT_FALSE(febrero.valor) << dia;
+    EXPECT_EQ(febrero.aviso.texto, "Ese día no existe");
+  }
+}
+
+TEST(PeriodoSerie, Rotulos) {
+  const auto semanas = NombresSemanas();
+  ASSERT_EQ(semanas.size(), 52U);
+  EXPECT_EQ(semanas.front(), "1 enero al 7 enero");
+  EXPECT_EQ(semanas[4], "29 enero al 4 febrero");
+  EXPECT_EQ(semanas.back(), "24 diciembre al 30 diciembre");
+  EXPECT_EQ(RotuloPeriodo({}), "Anual ");
+  EXPECT_EQ(RotuloPeriodo({.tipo = Mensual, .mes = 3}), "Mes=Marzo ");
+  EXPECT_EQ(RotuloPeriodo({.tipo = Semanal, .semana = 2}), "Semana=8 enero al 14 enero ");
+  EXPECT_EQ(RotuloPeriodo({.tipo = Diario, .mes = 12, .dia = 31}), "Dia 31 Diciembre ");
+  EXPECT_FALSE(AvisoTresDimensiones({.tipo = Semanal}));
+  EXPECT_EQ(AvisoTresDimensiones({.tipo = Diario}),
+            (Mensaje{"AVISO", "No se puede representar una gráficaen 3D para un sólo día"}));
+}
+
+TEST(LineaEstadistica, TemperaturasYHumedades) {
+  Serie serie = Llana("TSE", "ºC", ClaseSerie::Temperatura, 10);
+  Poner(serie, 63, 30.5F);    // 15 h del 3 de enero
+  Poner(serie, 8737, -5.0F);  // 1 h del 31 de diciembre
+  // (23 × 10 + 30,5) / 24 = 10,854
+  EXPECT_EQ(LineaEstadistica(serie, {.tipo = Diario, .mes = 1, .dia = 3}, 100),
+            "Maximo=30.50 ºC  (15 h 3 Enero)   Minimo=10.00 ºC  (1 h 3 Enero)  Medio=10.85 ºC");
+  EXPECT_EQ(LineaEstadistica(serie, {}, 100),
+            "Maximo=30.50 ºC  (15 h 3 Enero)   Minimo=-5.00 ºC  (1 h 31 Diciembre)  "
+            "Medio=10.00 ºC");
+  EXPECT_EQ(LineaEstadistica(serie, {.tipo = Diario, .mes = 2, .dia = 31}, 100),
+            "Ese día no existe");
+
+  const PeriodoSerie enero{.tipo = Mensual, .mes = 1};
+  EXPECT_EQ(LineaEstadistica(Llana("FIE", "%", ClaseSerie::Humedad, 40), enero, 100),
+            "Maximo=40.00 %  (1 h 1 Enero)   Minimo=40.00 %  (1 h 1 Enero)  Medio=40.00 %");
+  EXPECT_EQ(LineaEstadistica(Llana("WL", "gr/kg", ClaseSerie::Humedad, 7.5F), enero, 100),
+            "Maximo=7.50 gr/kg  (1 h 1 Enero)   Minimo=7.50 gr/kg  (1 h 1 Enero)  "
+            "Medio=7.50 gr/kg");
+}
+
+TEST(LineaEstadistica, ConsignasYHoras) {
+  Serie serie = Llana("TCR", "ºC", ClaseSerie::Consigna, 20);
+  Poner(serie, 25, 17);
+  EXPECT_EQ(LineaEstadistica(serie, {}, 100),
+            "Maximo=20.00 ºC  (1 h 1 Enero)   Minimo=17.00 ºC  (1 h 2 Enero)");
+
+  // Un grado justo no está fuera de la consigna.
+  Serie dif = Llana("DIFT", "ºC", ClaseSerie::Consigna, 0);
+  Poner(dif, 1, -1.0F);
+  Poner(dif, 2, -1.5F);
+  Poner(dif, 3, -1.25F);
+  Poner(dif, 4, 1.0F);
+  Poner(dif, 5, 1.5F);
+  Poner(dif, 8760, 3.0F);
+  EXPECT_EQ(LineaEstadistica(dif, {.tipo = Semanal, .semana = 1}, 100),
+            "Maximo=1.50 ºC  (5 h 1 Enero)   Minimo=-1.50 ºC  (2 h 1 Enero)   "
+            "NhFueraConsigna_Calor= 2 h      NHFueraConsigna_Frio= 1 h");
+
+  Serie horas = Llana("HFC", "-", ClaseSerie::Horas, 0);
+  for (const int h : {10, 11, 800}) Poner(horas, h, 1);
+  EXPECT_EQ(LineaEstadistica(horas, {}, 100), "   Nh FreeCooling= 3 h");
+  horas.codigo = "HBP";
+  EXPECT_EQ(LineaEstadistica(horas, {.tipo = Mensual, .mes = 1}, 100), "   Nh ByPass= 2 h");
+}
+
+TEST(LineaEstadistica, LasEnergiasSuman) {
+  Serie radiacion = Llana("RTS", "kWh/m2", ClaseSerie::Radiacion, 0);
+  Poner(radiacion, 745, 0.5F);   // 1 h del 1 de febrero
+  Poner(radiacion, 800, 0.75F);  // 800 - 744 = 56: 8 h del 3 de febrero
+  Poner(radiacion, 8760, 9.0F);
+  EXPECT_EQ(LineaEstadistica(radiacion, {.tipo = Mensual, .mes = 2}, 100),
+            "Maximo=0.750 kWh/m2  (8 h 3 Febrero)   Minimo=0.000 kWh/m2  (2 h 1 Febrero)  "
+            "Suma= 1.25 kWh/m2 mes");
+
+  // 168 h de 50 Wh son 8,4 kWh, y 0,21 por m2 con 40 m2.
+  const Serie ventilador = Llana("CV", "Wh", ClaseSerie::Energia, 50);
+  EXPECT_EQ(LineaEstadistica(ventilador, {.tipo = Semanal, .semana = 2}, 40),
+            "Maximo=0.050 kWh  (1 h 8 Enero)   Minimo=0.050 kWh  (1 h 8 Enero)  "
+            "Suma= 8.40 kWh/semana   0.21 kWh/m2 semana");
+  Serie demanda = Llana("DCAL", "kWh", ClaseSerie::Energia, -2);
+  Poner(demanda, 30, 0);
+  EXPECT_EQ(LineaEstadistica(demanda, {.tipo = Diario, .mes = 1, .dia = 2}, 0),
+            "Maximo=0.000 kWh  (6 h 2 Enero)   Minimo=-2.000 kWh  (1 h 2 Enero)  "
+            "Suma= -46.00 kWh/dia");
+}
+
+TEST(LineaEstadistica, CaudalesYRendimientos) {
+  EXPECT_EQ(LineaEstadistica(Llana("CAE", "m3/h", ClaseSerie::Otra, 300), {}, 100),
+            "Maximo=300.00 m3/h  (1 h 1 Enero)   Minimo=300.00 m3/h  (1 h 1 Enero)  "
+            "Medio=300.00 m3/h");
+  EXPECT_EQ(LineaEstadistica(Llana("RendCAL_CA1", "", ClaseSerie::Otra, 0.9F), {}, 100),
+            "Maximo=0.90  (1 h 1 Enero)   Minimo=0.90  (1 h 1 Enero)");
+}
+
+SerieMostrada Mostrada(const char* texto, float paso) {
+  SerieMostrada s{texto, {"X", "ºC", ClaseSerie::Temperatura, std::vector<float>(kHorasAno)}};
+  for (std::size_t i = 0; i < s.serie.valores.size(); ++i)
+    s.serie.valores[i] = paso * static_cast<float>(i + 1);
+  return s;
+}
+
+std::vector<std::string> Celdas(const std::string& linea) {
+  std::vector<std::string> celdas;
+  std::istringstream flujo(linea);
+  for (std::string celda; std::getline(flujo, celda, ';');) celdas.push_back(celda);
+  return celdas;
+}
+
+TEST(TablaNumerica, SeVuelveALeerDelTexto) {
+  const std::vector<SerieMostrada> series = {Mostrada("Temp.seca TSE(ºC)", 0.5F),
+                                             Mostrada("Demanda DCAL(kWh)", -0.125F)};
+  const auto tabla = TablaNumerica(series, {});
+  ASSERT_TRUE(tabla.valor);
+  std::istringstream texto(TextoSeparado(*tabla.valor));
+  std::string linea;
+  std::getline(texto, linea);
+  EXPECT_EQ(linea, "Conta;hora;día;mes;Temp.seca TSE(ºC);Demanda DCAL(kWh);");
+  for (int h = 1; h <= kHorasAno; ++h) {
+    ASSERT_TRUE(std::getline(texto, linea)) << h;
+    ASSERT_EQ(linea.back(), ';');
+    const auto celdas = Celdas(linea);
+    ASSERT_EQ(celdas.size(), 6U);
+    ASSERT_EQ(std::stoi(celdas[0]), h);
+    ASSERT_EQ(std::stof(celdas[4]), 0.5F * static_cast<float>(h));
+    ASSERT_EQ(std::stof(celdas[5]), -0.125F * static_cast<float>(h));
+    if (h == 1417) {  // 1 h del 1 de marzo
+      EXPECT_EQ(linea, "1417;1;1;3;708.500;-177.125;");
+    }
+  }
+  EXPECT_EQ(linea, "8760;24;31;12;4380.000;-1095.000;");
+  EXPECT_FALSE(std::getline(texto, linea));
+}
+
+TEST(TablaNumerica, PeriodosColumnasYLimite) {
+  const std::vector<SerieMostrada> series(26, Mostrada("T", 1));
+  EXPECT_FALSE(TablaNumerica(series, {}).valor);
+  EXPECT_FALSE(TablaNumerica(series, {}).aviso.texto.empty());
+  const auto veinticinco = std::span(series).first(25);
+  const auto dia = TablaNumerica(veinticinco, {.tipo = TipoPeriodo::Diario, .mes = 12, .dia = 31},
+                                 {.conta = true, .hora = false, .dia = true, .mes = false});
+  ASSERT_TRUE(dia.valor);
+  ASSERT_EQ(dia.valor->filas.size(), 24U);
+  ASSERT_EQ(dia.valor->filas[23].size(), 27U);
+  EXPECT_EQ(dia.valor->filas[23][0].texto, "24");
+  EXPECT_EQ(dia.valor->filas[23][1].texto, "31");
+  EXPECT_EQ(dia.valor->filas[23][2].texto, "8760.000");
+  EXPECT_FALSE(TablaNumerica({}, {.tipo = TipoPeriodo::Diario, .mes = 4, .dia = 31}).valor);
+}
+
+TEST(GraficosSeries, UnaContraOtra) {
+  const auto g = GraficoXY(Mostrada("X", 2), Mostrada("Y", 3),
+                           {.tipo = TipoPeriodo::Diario, .mes = 1, .dia = 2});
+  ASSERT_TRUE(g.valor);
+  ASSERT_EQ(g.valor->x.size(), 24U);
+  EXPECT_EQ(g.valor->x.front(), 50);  // hora 25
+  EXPECT_EQ(g.valor->series[0].valores.front(), 75);
+  EXPECT_EQ(g.valor->ejeX, "X");
+  EXPECT_EQ(g.valor->ejeY, "Y");
+}
+
+TEST(GraficosSeries, CadaEjeTieneUnaUnidad) {
+  const CasoDePrueba caso;
+  const SeleccionEjes seleccion = {{"TSE", "FIE", "Ninguno", "TSL", "WE"},
+                                   {"Ninguno", "DCAL", "TXX", "CV", ""}};
+  const auto g = GraficoMas(*caso.edificio, *caso.resultado, seleccion, {});
+  ASSERT_TRUE(g.valor);
+  ASSERT_EQ(g.valor->izquierda.series.size(), 2U);
+  EXPECT_EQ(g.valor->izquierda.series[1].nombre, "Temp.seca local TSL(ºC)");
+  EXPECT_EQ(g.valor->izquierda.ejeY, "ºC");
+  // Los Wh no van con los kWh.
+  ASSERT_EQ(g.valor->derecha.series.size(), 1U);
+  EXPECT_EQ(g.valor->derecha.ejeY, "kWh");
+  ASSERT_EQ(g.valor->avisos.size(), 3U);
+  const Mensaje unidades{"AVISO",
+                         "En cada eje solo se representan variables con las mismas unidades"};
+  EXPECT_EQ(g.valor->avisos[0], unidades);
+  EXPECT_NE(g.valor->avisos[1].texto.find("TXX"), std::string::npos);
+  EXPECT_EQ(g.valor->avisos[2], unidades);
+}
+
+}  // namespace
+}  // namespace novex
