@@ -8,16 +8,13 @@ namespace {
 constexpr float kP = 101325;
 
 // Tablas de ASHRAE Fundamentals, cap. 1 (presiones en Pa); sobre hielo a -20 °C.
-TEST(PresionSaturacion, TablasDeASHRAE) {
+TEST(PresionSaturacion, TablasDeASHRAESinSaltoEntreHieloYAgua) {
   EXPECT_NEAR(PresionSaturacion(-20), 103.26, 0.05);
   EXPECT_NEAR(PresionSaturacion(-40), 12.85, 0.02);
   EXPECT_NEAR(PresionSaturacion(0.01F), 611.66, 0.2);
   EXPECT_NEAR(PresionSaturacion(20), 2338.8, 1);
   EXPECT_NEAR(PresionSaturacion(40), 7383.5, 3);
   EXPECT_NEAR(PresionSaturacion(100), 101325, 120);
-}
-
-TEST(PresionSaturacion, CambiaDeHieloAAguaSinSaltoYSinBajar) {
   EXPECT_NEAR(PresionSaturacion(-0.0607F), PresionSaturacion(-0.0606F), 0.5);
   for (float t = -60; t < 90; t += 0.25F)
     EXPECT_LT(PresionSaturacion(t), PresionSaturacion(t + 0.25F)) << t;
@@ -102,12 +99,9 @@ TEST(RocioAparato, BajaHastaLaRazonSensible) {
 
 constexpr AireEntrada kNominal = {27, 19};
 
-TEST(MetodoBateria, EnLasCondicionesNominalesDaLaUnidad) {
+TEST(MetodoBateria, EnLasCondicionesNominalesYEnOtras) {
   EXPECT_NEAR(MetodoBateria(5, 3.75F, kNominal, kNominal, 5, kP), 1, 0.002);
   EXPECT_NEAR(MetodoBateria(12, 9.6F, kNominal, kNominal, 12, kP), 1, 0.002);
-}
-
-TEST(MetodoBateria, OtrasCondiciones) {
   // Cálculo en doble precisión: sensible 0,7441 de 4,6 kW frente a 3,75 kW.
   EXPECT_NEAR(MetodoBateria(5, 3.75F, kNominal, {25, 18}, 4.6F, kP), 0.9127, 0.002);
   // Aire que la batería no deshumedece: todo es sensible, 4,5 / 3,75 y 3 / 4.

@@ -145,9 +145,6 @@ TEST_F(Gestor, LaReferenciaEsOtraCopiaQueNoCuenta) {
   gestor.EliminarCaso("Referencia");
   EXPECT_FALSE(gestor.Existe("Referencia"));
   EXPECT_TRUE(gestor.EsCasoActivo("Mejora_1"));
-}
-
-TEST_F(Gestor, BorrarLaReferenciaActivaLoDejaSinActivo) {
   gestor.CrearReferencia();
   gestor.ActivarCaso("Referencia");
   gestor.EliminarCaso("Referencia");

@@ -1,8 +1,9 @@
-#include "model/Huecos.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
+
+#include "model/Huecos.h"
+#include "model/PropiedadesHueco.h"
 
 namespace novex {
 namespace {
@@ -50,6 +51,94 @@ TEST(Huecos, DireccionesDeObstaculoDeCadaColumna) {
                                     d.sector.begin() + static_cast<std::ptrdiff_t>(d.cuantas));
     EXPECT_EQ(dadas, esperadas[columna]) << columna;
   }
+}
+
+Huecos Ventana() {
+  Huecos g;
+  g.Ancho_m = 1.5F;
+  g.Alto_m = 1.2F;
+  g.Fraccion_marco_tanto_por_cien = 20;
+  g.U_cristal_W_m2K = 3.3F;
+  g.U_marco_W_m2K = 2.2F;
+  g.Indice_tipo_cristal = 1;
+  g.Indice_marco = 3;
+  return g;
+}
+
+// Marco 0,36 m2, vidrio 1,44 m2 y 4,830 m de borde a 0,05 W/mK.
+TEST(UVentana, VidrioMarcoYBorde) {
+  EXPECT_NEAR(UVentana(Ventana(), 0, 0), 3.214164, 1e-5);
+  EXPECT_NEAR(UVentana(Ventana(), 1.8F, 1.2F), (0.36 * 1.2 + 1.44 * 1.8 + 0.2414953) / 1.8, 1e-5);
+}
+
+TEST(UVentana, LaCajaDePersianaCuentaSiExiste) {
+  Huecos g = Ventana();
+  g.Altura_Caja_de_persiana_m = 0.25F;
+  g.U_Caja_de_persiana_W_m2K = 1.8F;
+  EXPECT_NEAR(UVentana(g, 0, 0), 3.214164, 1e-5);
+  g.Existe_Caja_persiana = 0;
+  EXPECT_NEAR(UVentana(g, 0, 0), 2.970343, 1e-5);
+}
+
+TEST(UVentana, CasosExtremos) {
+  Huecos g = Ventana();
+  g.Fraccion_marco_tanto_por_cien = 100;  // sin vidrio no hay borde
+  EXPECT_NEAR(UVentana(g, 0, 0), 2.2, 1e-5);
+  g = Ventana();
+  g.Ancho_m = 0;
+  EXPECT_NEAR(UVentana(g, 0, 0), 0.2 * 2.2 + 0.8 * 3.3, 1e-5);
+  g = Ventana();
+  g.Indice_tipo_cristal = 0;  // vidrio sencillo: sin puente en el borde
+  EXPECT_NEAR(UVentana(g, 0, 0), 5.544 / 1.8, 1e-5);
+  // Cada pareja de vidrio y marco tiene su transmitancia lineal.
+  const auto psi = [&](int cristal, int marco) {
+    g.Indice_tipo_cristal = cristal;
+    g.Indice_marco = marco;
+    return (UVentana(g, 0, 0) * 1.8F - 5.544F) / 4.829906F;
+  };
+  EXPECT_NEAR(psi(1, 0), 0.01, 1e-4);
+  EXPECT_NEAR(psi(1, 2), 0.06, 1e-4);
+  EXPECT_NEAR(psi(1, 7), 0.05, 1e-4);
+  EXPECT_NEAR(psi(2, 0), 0.04, 1e-4);
+  EXPECT_NEAR(psi(4, 1), 0.08, 1e-4);
+  EXPECT_NEAR(psi(3, 5), 0.06, 1e-4);
+  EXPECT_NEAR(psi(5, 0), 0.06, 1e-4);
+}
+
+TEST(FactorSolarHueco, SumaVidrioYMarco) {
+  EXPECT_NEAR(FactorSolarHueco(0.75F, 2.2F, 20), 0.61232, 1e-5);
+}
+
+TEST(FactorProteccionMovil, PorElTipoDeVidrioOPorSuU) {
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 0, 1), 0.22F);
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 1, 5.7F), 0.2F);
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 4, 5.7F), 0.17F);
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 5, 5.01F), 0.22F);
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 5, 5), 0.2F);
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 9, 3), 0.2F);
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, -1, 1.6F), 0.17F);
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 9, 1.59F), 0.13F);
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(12, 0, 1), 0.65F);
+  EXPECT_FLOAT_EQ(FactorProteccionMovil(13, 1, 1), 0.05F);
+  for (const int indice : {0, 14, -3}) EXPECT_EQ(FactorProteccionMovil(indice, 0, 1), 1.0F);
+}
+
+TEST(FigurasHueco, LasDeUnaVentanaConPersiana) {
+  Huecos g = Ventana();
+  g.FS_cristal_tanto_por_uno = 0.62F;
+  g.Permeabilidad_Ventanas = 27;
+  g.Indice_tipo_sombra_movil = 3;
+  const FigurasHueco f = CalcularFigurasHueco(g);
+  // 0,62 × 0,8 + 0,04 × 2,2 × 0,2 × 0,7
+  EXPECT_NEAR(f.FactorSolar, 0.50832, 1e-5);
+  EXPECT_NEAR(f.FactorSolarSombraActivada, 0.50832 * 0.11, 1e-5);
+  EXPECT_FLOAT_EQ(f.FSHueco, f.FactorSolar);
+  EXPECT_NEAR(f.Ff, 0.2, 1e-6);
+  EXPECT_EQ(f.C100, 27.0F);
+  EXPECT_NEAR(f.UHueco, 3.214164, 1e-5);
+  g.Fraccion_marco_tanto_por_cien = 100;
+  EXPECT_EQ(CalcularFigurasHueco(g).FSHueco, 0.0F);
+  EXPECT_NEAR(CalcularFigurasHueco(g).FactorSolar, 0.0616, 1e-5);
 }
 
 }  // namespace

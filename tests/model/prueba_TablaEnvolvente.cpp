@@ -9,7 +9,7 @@
 namespace novex {
 namespace {
 
-TEST(TablaEnvolvente, LasPosicionesQueNoSiguenElNumeroDeLaClave) {
+TEST(TablaEnvolvente, SonCincuentaYDosCadaUnaEnSuPosicion) {
   const std::pair<const char*, std::size_t> esperadas[] = {
       {"MuroExt1", 0},    {"MuroExt5", 4},    {"MuroTerr1", 5},   {"MuroOtro1", 7},
       {"MuroOtro5", 8},   {"MuroOtro2", 9},   {"MuroOtro6", 10},  {"MuroOtro3", 11},
@@ -28,18 +28,12 @@ TEST(TablaEnvolvente, LasPosicionesQueNoSiguenElNumeroDeLaClave) {
   EXPECT_EQ(ranura::SueloOtro3, 41U);
   EXPECT_EQ(ranura::MuroExt9, 39U);
   EXPECT_EQ(ranura::SueloInt4, 51U);
-}
-
-TEST(TablaEnvolvente, Hay52ClavesDistintasQueVanYVuelven) {
   std::set<std::string_view> claves;
   for (std::size_t i = 0; i < 52; ++i) {
     claves.insert(TablaEnvolvente::Clave(i));
     EXPECT_EQ(TablaEnvolvente::Indice(TablaEnvolvente::Clave(i)), i);
   }
   EXPECT_EQ(claves.size(), 52U);
-}
-
-TEST(TablaEnvolvente, LoDesconocidoNoTienePosicion) {
   for (const char* clave : {"", "MuroOtro4", "muroExt1", "MuroExt1 ", "SueloVent2", "MuroExt10"})
     EXPECT_FALSE(TablaEnvolvente::Indice(clave)) << clave;
   EXPECT_THROW(TablaEnvolvente::Clave(52), std::out_of_range);

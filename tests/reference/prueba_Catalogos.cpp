@@ -7,6 +7,8 @@
 #include "files/CarpetaTemporal.h"
 #include "reference/CatalogoComposiciones.h"
 #include "reference/CatalogoMateriales.h"
+#include "reference/CatalogoVidrios.h"
+#include "reference/FusionCatalogos.h"
 
 namespace novex {
 namespace {
@@ -193,6 +195,100 @@ TEST_F(Catalogos, CrearYEliminarComposiciones) {
   EXPECT_TRUE(catalogo.Crear(F::MurosExterior, "Doble hoja", "Otra", copia.capas, mensajes_));
   EXPECT_TRUE(catalogo.Eliminar(*creada, mensajes_));
   EXPECT_FALSE(CatalogoComposiciones(composiciones_).PorNombre(F::MurosExterior, "Muro(D)"));
+}
+
+std::string Catalogo(const std::string& materiales) {
+  return "<MaterialesNovex><verticales><cte><grupo name=\"G\">" + materiales +
+         "</grupo></cte></verticales></MaterialesNovex>";
+}
+std::string Uno(const char* nombre, const char* k, const char* espesor = "0.1") {
+  return std::string("<m especificacion=\"") + nombre + "\" espesor=\"" + espesor + "\" k=\"" + k +
+         "\"/>";
+}
+
+// Cada letra es una suerte: a igual, b corregida, c cambiada por el usuario, d borrada por él,
+// e suya, f retirada de la versión nueva, g nueva.
+TEST(FusionCatalogos, LaVersionNuevaNoPisaLoDelUsuario) {
+  const pruebas::CarpetaTemporal carpeta;
+  const auto version = carpeta / "version";
+  const auto datos = carpeta / "datos";
+  std::filesystem::create_directories(version);
+  std::filesystem::create_directories(datos);
+  EscribirFichero(version / "Composiciones.xml", "<ComposicionesNovex/>");
+  const auto publicar = [&](const std::string& materiales) {
+    EscribirFichero(version / "Materiales.xml", Catalogo(materiales));
+    return ActualizarCatalogos(version, datos).front();
+  };
+  const CuentaFusion primera =
+      publicar(Uno("a", "1") + Uno("b", "1") + Uno("c", "1") + Uno("d", "1") + Uno("f", "1"));
+  EXPECT_EQ(primera.nuevas, 5);
+  EscribirFichero(datos / "Materiales.xml",
+                  Catalogo(Uno("a", "1") + Uno("b", "1") + Uno("c", "7") + Uno("e", "9") +
+                           Uno("f", "1") + Uno("a", "1", "0.2")));
+  const CuentaFusion segunda =
+      publicar(Uno("a", "1") + Uno("b", "2") + Uno("g", "3") + Uno("c", "2") + Uno("d", "2"));
+  EXPECT_EQ(segunda.nuevas, 1);
+  EXPECT_EQ(segunda.corregidas, 1);
+  EXPECT_EQ(segunda.retiradas, 1);
+  EXPECT_EQ(segunda.conservadas, 2);
+  std::string queda;
+  for (const auto& m : CatalogoMateriales(datos / "Materiales.xml").Materiales({}, "G"))
+    queda += m.capa.especificacion + Fijo(m.capa.k, 0) + " ";
+  EXPECT_EQ(queda, "a1 b2 g3 c7 e9 a1 ");
+  // Publicarla otra vez no cambia nada.
+  const std::string antes = LeerFichero(datos / "Materiales.xml");
+  publicar(Uno("a", "1") + Uno("b", "2") + Uno("g", "3") + Uno("c", "2") + Uno("d", "2"));
+  EXPECT_EQ(LeerFichero(datos / "Materiales.xml"), antes);
+}
+
+CatalogoVidrios Instalado() {
+  return LeerCatalogoVidrios(XMLNode::loadFile(
+      std::filesystem::path(NOVEX_RAIZ_DATOS) / "database" / "VidriosMarcos.xml", "VidriosMarcos"));
+}
+
+// Todo tipo de las listas tiene de dónde elegir, y lo elegido es posible.
+TEST(CatalogoVidrios, ElInstaladoTieneTodosLosTipos) {
+  const CatalogoVidrios catalogo = Instalado();
+  for (const auto& tipo : catalogo.vidrios) {
+    ASSERT_FALSE(tipo.empty());
+    for (const VidrioCatalogo& v : tipo) {
+      SCOPED_TRACE(v.nombre);
+      EXPECT_FALSE(v.nombre.empty());
+      EXPECT_GT(v.U, 0.3F);
+      EXPECT_GE(v.UH, v.U);  // el calor sube mejor por una cámara horizontal
+      EXPECT_GT(v.g, 0.0F);
+      EXPECT_LE(v.g, 0.9F);
+    }
+  }
+  for (const auto& tipo : catalogo.marcos) {
+    ASSERT_FALSE(tipo.empty());
+    for (const MarcoCatalogo& m : tipo) EXPECT_GE(m.UH, m.U) << m.nombre;
+  }
+  ASSERT_EQ(catalogo.permeabilidades.size(), 5U);
+  for (std::size_t i = 1; i < catalogo.permeabilidades.size(); ++i)
+    EXPECT_LT(catalogo.permeabilidades[i].C100, catalogo.permeabilidades[i - 1].C100);
+}
+
+TEST(CatalogoVidrios, BuscaPorTipoYPosicionYPorPermeabilidad) {
+  const XMLNode raiz = XMLNode::parseString(
+      "<VidriosMarcos><Vidrios indice=\"1\"><Vidrio name=\"4-6-4\" U=\"3.28\" UH=\"3.63\" "
+      "g=\"0.76\"/></Vidrios><Vidrios indice=\"6\"><Vidrio name=\"x\" U=\"1\"/></Vidrios>"
+      "<Vidrios><Vidrio name=\"y\"/></Vidrios>"
+      "<Marcos indice=\"7\"><Marco name=\"a\" U=\"1.3\" UH=\"1.4\"/><Marco name=\"b\" U=\"2.4\" "
+      "UH=\"2.6\"/></Marcos><Permeabilidades><Permeabilidad clase=\"2\" name=\"Clase 2\" "
+      "C100=\"27\"/></Permeabilidades></VidriosMarcos>",
+      "VidriosMarcos", "prueba");
+  const CatalogoVidrios catalogo = LeerCatalogoVidrios(raiz);
+  ASSERT_NE(catalogo.Vidrio(1, 0), nullptr);
+  EXPECT_EQ(catalogo.Vidrio(1, 0)->nombre, "4-6-4");
+  EXPECT_EQ(catalogo.Vidrio(1, 0)->UH, 3.63F);
+  for (const auto& [tipo, posicion] : {std::pair{1, 1}, {1, -1}, {0, 0}, {-1, 0}, {6, 0}})
+    EXPECT_EQ(catalogo.Vidrio(tipo, posicion), nullptr) << tipo << posicion;
+  ASSERT_NE(catalogo.Marco(7, 1), nullptr);
+  EXPECT_EQ(catalogo.Marco(7, 1)->U, 2.4F);
+  EXPECT_EQ(catalogo.ClaseDe(27)->clase, 2);
+  EXPECT_FALSE(catalogo.ClaseDe(26.9F).has_value());
+  EXPECT_TRUE(LeerCatalogoVidrios(XMLNode{}).permeabilidades.empty());
 }
 
 }  // namespace

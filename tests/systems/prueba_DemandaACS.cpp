@@ -10,7 +10,7 @@ namespace {
 using pruebas::BloqueCompleto;
 using pruebas::CasoSistemas;
 
-TEST(DemandaACS, PersonasPorDormitorios) {
+TEST(DemandaACS, PersonasPorDormitoriosYCentralizacion) {
   const std::array<float, 10> personas = {0, 1.5F, 3, 4, 5, 6, 6, 7, 7, 7};
   for (std::size_t n = 0; n < personas.size(); ++n)
     EXPECT_EQ(PersonasVivienda(static_cast<int>(n)), personas[n]) << n;
@@ -18,9 +18,6 @@ TEST(DemandaACS, PersonasPorDormitorios) {
   Ventilacion v;
   v.tipologias = {{{2, 1, 0, 0}, {3, 2, 0, 0}, {}, {}, {}, {1, 9, 0, 0}}};
   EXPECT_EQ(PersonasTotales(v), 2 * 1.5F + 3 * 3.0F + 7.0F);
-}
-
-TEST(DemandaACS, CentralizacionALosDosLadosDeCadaLimite) {
   const std::pair<int, float> casos[] = {{0, 1},       {1, 1},      {3, 1},      {4, 0.95F},
                                          {10, 0.95F},  {11, 0.9F},  {20, 0.9F},  {21, 0.85F},
                                          {50, 0.85F},  {51, 0.8F},  {75, 0.8F},  {76, 0.75F},

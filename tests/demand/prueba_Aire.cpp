@@ -1,23 +1,60 @@
-#include "demand/Recuperador.h"
-
 #include <gtest/gtest.h>
 
+#include <cmath>
+
+#include "demand/Infiltracion.h"
+#include "demand/PasoVentilacion.h"
+#include "demand/Recuperador.h"
 #include "demand/Series.h"
 #include "demand/VentiladorAire.h"
+#include "model/Edificio.h"
 
 namespace novex {
 namespace {
 
-TEST(EficienciaParcial, Contracorriente) {
+// El paso de la búsqueda es de 0,01 Pa: mueve los caudales menos de un 0,5 %.
+constexpr double kPaso = 0.005;
+
+TEST(BuscadorFugas, LaInfiltracionEsLoQueEntraDeMas) {
+  // Con toda la zona en depresión el aire solo entra: lo que se extrae, y nada más.
+  BuscadorFugas depresion({250, 6.58F, 200, 0});
+  EXPECT_NEAR(depresion.Infiltracion(1.2F), 0, 0.5);
+  BuscadorFugas estanca({300, 0, 0, 0});
+  EXPECT_NEAR(estanca.Infiltracion(0.6F), 0, 0.2);
+
+  // Volver a una renovación ya resuelta da lo mismo.
+  BuscadorFugas fugas({300, 5.25F, 400, 100});
+  const float primera = fugas.Infiltracion(0.5F);
+  EXPECT_NEAR(primera, 41.0733, kPaso * 232);
+  EXPECT_NEAR(fugas.Infiltracion(0.01F), 67.8048, kPaso * 139);
+  EXPECT_EQ(fugas.Infiltracion(0.5F), primera);
+}
+
+// La permeabilidad impuesta cuenta en las ventanas, con su factor de área, y no en las cajas.
+TEST(PrepararFugas, PermeabilidadImpuesta) {
+  Edificio edificio;
+  Huecos& g = edificio.GetHuecos(0);
+  g.Ancho_m = 2;
+  g.Alto_m = 1;
+  g.Permeabilidad_Ventanas = 27;
+  g.columnas[sur].Anadir(3);
+  g.columnas[kColumnaHorizontal].Anadir(1);
+  g.columnas[sur].FactorAreaColumna = 0.5F;
+  g.Existe_Caja_persiana = 1;
+  Forzados forzados;
+  forzados.PermeabilidadForzada = 3;
+  const FugasZona zona = PrepararFugas(edificio, forzados);
+  EXPECT_FLOAT_EQ(zona.ventanas, 2.5F * 2 * 3);
+  EXPECT_EQ(zona.cajasPersiana, 0.0F);
+}
+
+TEST(EficienciaParcial, ContracorrienteYFlujoCruzado) {
   EXPECT_NEAR(EficienciaParcial(50, 1, 100, false), 50, 1e-3);
   EXPECT_NEAR(EficienciaParcial(50, 1, 50, false), 100.0 * 2 / 3, 1e-3);  // NTU 2
   EXPECT_NEAR(EficienciaParcial(62.9F, 1, 30, false), 84.9656, 1e-2);
   // Masas distintas: (1 - e^-0,2) / (1 - 0,8 e^-0,2) × 0,8.
   EXPECT_NEAR(EficienciaParcial(50, 0.8F, 100, false), 42.0316, 1e-2);
-}
-
-// El punto fijo se para a 0,05 de NTU, medio punto de eficiencia.
-TEST(EficienciaParcial, FlujoCruzado) {
+  // El punto fijo se para a 0,05 de NTU, medio punto de eficiencia.
   EXPECT_NEAR(EficienciaParcial(75, 1, 100, false), 75, 0.5);
   EXPECT_NEAR(EficienciaParcial(75, 1, 50, false), 80.9725, 0.5);
   EXPECT_NEAR(EficienciaParcial(80, 0.9F, 70, false), 77.0593, 0.5);
@@ -29,9 +66,6 @@ TEST(EficienciaParcial, FlujoCruzado) {
   // Por encima de 99 %, NTU 1000.
   EXPECT_NEAR(EficienciaParcial(99.5F, 1, 100, false), 98.9651, 1e-2);
   EXPECT_NEAR(EficienciaParcial(99.5F, 0.9F, 100, false), 89.4395, 1e-2);
-}
-
-TEST(EficienciaParcial, SinCaudalNoRecuperaYEnViviendaEsLaNominal) {
   EXPECT_EQ(EficienciaParcial(0, 1, 100, false), 0.0F);
   EXPECT_EQ(EficienciaParcial(75, 1, 0, false), 0.0F);
   EXPECT_EQ(EficienciaParcial(75, 1, 30, true), 75.0F);

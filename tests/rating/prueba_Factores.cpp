@@ -1,9 +1,102 @@
-#include "rating/FactoresConversion.h"
-
 #include <gtest/gtest.h>
+
+#include "base/ErrorFichero.h"
+#include "rating/EdificioPrueba.h"
+#include "rating/EquipoDefecto.h"
+#include "rating/FactoresConversion.h"
 
 namespace novex {
 namespace {
+
+constexpr const char* kResidencial =
+    "RENDACSR=\"0.92\" COMBACSR=\"GasNatural\" RENDCALER=\"0.8\" COMBCALER=\"GLP\" "
+    "RENDREFRIR=\"2.0\" COMBREFRIR=\"Electricidad\"";
+
+EquipoDefecto Leer(const std::string& atributos, bool residencial) {
+  RegistroMensajes mensajes;
+  const XMLNode raiz = XMLNode::parseString("<DEFECTO><DEFECTO " + atributos + "/></DEFECTO>",
+                                            "DEFECTO", "Defecto.xml");
+  return LeerDefecto(raiz, "Defecto.xml", residencial, mensajes);
+}
+
+TEST(EquipoDefecto, LeeElJuegoDelUsoYRebajaLaRefrigeracion) {
+  const EquipoDefecto equipo = Leer(kResidencial, true);
+  EXPECT_FLOAT_EQ(equipo.rendimiento[kACS], 0.92F);
+  EXPECT_FLOAT_EQ(equipo.rendimiento[kCalefaccion], 0.8F);
+  EXPECT_FLOAT_EQ(equipo.rendimiento[kRefrigeracion], 1.4F);
+  EXPECT_EQ(equipo.combustible[kACS], "GasNatural");
+  EXPECT_EQ(equipo.combustible[kCalefaccion], "GLP");
+}
+
+TEST(EquipoDefecto, RechazaUnRendimientoNuloONombradoMal) {
+  // El juego del otro uso no hace falta, y el propio sí.
+  EXPECT_THROW(Leer(kResidencial, false), ErrorFichero);
+  const std::pair<const char*, const char*> faltas[] = {
+      {"RENDACSR=\"0.92\" RENDCALER=\"0.8\"", "RENDREFRIR"},
+      {"RENDACSR=\"0\" RENDCALER=\"0.8\" RENDREFRIR=\"2\"", "RENDACSR"},
+      {"RENDACSR=\"1\" RENDCALER=\"x\" RENDREFRIR=\"2\"", "RENDCALER"},
+      {"RENDACSR=\"1\" RENDCALER=\"-0.9\" RENDREFRIR=\"2\"", "RENDCALER"}};
+  for (const auto& [atributos, culpable] : faltas) {
+    try {
+      Leer(atributos, true);
+      ADD_FAILURE() << atributos;
+    } catch (const ErrorFichero& error) {
+      EXPECT_NE(std::string(error.what()).find(culpable), std::string::npos) << error.what();
+      EXPECT_EQ(error.ruta, "Defecto.xml");
+    }
+  }
+}
+
+class HoraDefecto : public testing::Test {
+ protected:
+  HoraDefecto() { caso->resultados.defecto.rendimiento = {0.5F, 0.8F, 2.0F}; }
+  void Cargar(int h, ModoDefecto modo) { CargarDefectoHora(h, {1, 4, 6}, modo, *caso); }
+  float Fila(Servicio s, std::size_t mes) const { return caso->meses.defecto[s][mes]; }
+  float Serie(Servicio s, int h) const { return caso->zona.defecto[s][h]; }
+
+  std::unique_ptr<calculo> caso = std::make_unique<calculo>();
+};
+
+TEST_F(HoraDefecto, ConEquiposPorDefectoSeTomaTodoEnElMesDeLaHora) {
+  Cargar(744, ModoDefecto::Si);
+  Cargar(745, ModoDefecto::Si);
+  Cargar(1416, ModoDefecto::Si);
+  EXPECT_FLOAT_EQ(Fila(kACS, 1), 2);
+  EXPECT_FLOAT_EQ(Fila(kCalefaccion, 1), 5);
+  EXPECT_FLOAT_EQ(Fila(kRefrigeracion, 1), 3);
+  EXPECT_FLOAT_EQ(Fila(kCalefaccion, 2), 10);
+  EXPECT_FLOAT_EQ(Serie(kACS, 744), 1000);
+  EXPECT_FLOAT_EQ(Serie(kCalefaccion, 745), 4000);
+  EXPECT_FLOAT_EQ(Serie(kRefrigeracion, 1416), 6000);
+}
+
+TEST_F(HoraDefecto, SinEllosSoloQuedaLaSerieDeACS) {
+  Cargar(8760, ModoDefectoDe("NO"));
+  EXPECT_FLOAT_EQ(Serie(kACS, 8760), 1000);
+  EXPECT_EQ(Serie(kCalefaccion, 8760), 0);
+  for (const Servicio s : {kACS, kCalefaccion, kRefrigeracion}) EXPECT_EQ(Fila(s, 12), 0);
+
+  // Un texto que no es "SI" ni "NO" carga el agua caliente y nada más.
+  Cargar(8760, ModoDefectoDe(""));
+  EXPECT_FLOAT_EQ(Fila(kACS, 12), 2);
+  EXPECT_EQ(Fila(kCalefaccion, 12), 0);
+  EXPECT_EQ(Fila(kRefrigeracion, 12), 0);
+}
+
+TEST(Iluminacion, SumaLosHorariosSinElRetardoRadiante) {
+  auto caso = std::make_unique<calculo>();
+  // 10 W/m2 en las 744 horas de enero y en la última del año; 100 m2.
+  for (int h = 1; h <= 744; ++h) caso->carga.QILUhT[h] = 10;
+  caso->carga.QILUhT[8760] = 10;
+  caso->carga.QILUh.assign(kHorasAno + 1, 99.0F);
+  EXPECT_NEAR(CargarIluminacion(*pruebas::EdificioDe100(7, "NO"), *caso), 7.45, 1e-3);
+  EXPECT_NEAR(caso->meses.iluminacion[1], 744, 0.01);
+  EXPECT_NEAR(caso->meses.iluminacion[12], 1, 1e-5);
+  EXPECT_EQ(caso->meses.iluminacion[2], 0);
+
+  EXPECT_EQ(CargarIluminacion(*pruebas::EdificioDe100(2, "NO"), *caso), 0);
+  EXPECT_EQ(caso->meses.iluminacion[1], 0);
+}
 
 // Fila i: CO2 = i, EPR = 100 + i, EPNoR = 200 + i, EPTotal = 300 + i. Las etiquetas no cuentan.
 XMLNode Fichero(int filas) {

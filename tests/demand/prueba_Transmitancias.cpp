@@ -1,15 +1,99 @@
-#include "demand/TransmitanciasEfectivas.h"
-
 #include <gtest/gtest.h>
 
 #include <numeric>
 
 #include "demand/PuentesTermicos.h"
 #include "demand/RespuestaZona.h"
+#include "demand/Terreno.h"
+#include "demand/TransmitanciaTerreno.h"
+#include "demand/TransmitanciasEfectivas.h"
 #include "model/Edificio.h"
 
 namespace novex {
 namespace {
+
+SueloTerreno Suelo(const char* tipo, float profundidad = 0, float D = 0, float Ra = 0) {
+  return {profundidad, tipo, D, Ra};
+}
+
+void Esperar(const CoeficientesTerreno& c, double Hg, double Hpi, double Hpe) {
+  EXPECT_NEAR(c.Hg, Hg, 1e-4 * Hg);
+  EXPECT_NEAR(c.Hpi, Hpi, 1e-4 * Hpi);
+  EXPECT_NEAR(c.Hpe, Hpe, 1e-4 * Hpe);
+}
+
+// ISO 13370 a mano: U = 1 en 100 m2 con 40 m de perímetro da dt = 2,38 y B' = 5.
+TEST(CoeficientesSolera, LaBandaLaProfundidadYElAislamiento) {
+  Esperar(CoeficientesSolera(1, 100, 40, Suelo("Periferico", 0, 1, 1.5F)), 37.49792, 46.86264,
+          19.82864);
+  // Una banda que aísla menos que la tierra que sustituye (0,1/2) no cuenta.
+  Esperar(CoeficientesSolera(1, 100, 40, Suelo("Periferico", 0.5F, 0, 0.04F)), 44.85069, 46.86264,
+          25.04358);
+  // Sin perímetro se toma el de un cuadrado, que aquí es el mismo.
+  Esperar(CoeficientesSolera(1, 100, 0, Suelo("Continuo")), 44.85069, 46.86264, 25.04358);
+  // Muy aislada y estrecha: dt = 8,38 pasa de B' = 3,08.
+  Esperar(CoeficientesSolera(0.25F, 40, 26, Suelo("Continuo")), 8.174815, 7.930007, 6.167087);
+  Esperar(CoeficientesSolera(1, 100, 40, Suelo("Continuo", 0.5F)), 44.85069, 46.86264, 25.04358);
+  Esperar(CoeficientesSolera(1, 100, 40, Suelo("Continuo", 2)), 36.27796, 46.86264, 13.31653);
+  // La banda sigue contando en la parte estacionaria, no en la periódica exterior.
+  Esperar(CoeficientesSolera(1, 100, 40, Suelo("Periferico", 2, 1, 1.5F)), 31.48194, 46.86264,
+          13.31653);
+}
+
+TEST(CoeficientesTerreno, SinUOSinAreaNoHayFlujo) {
+  for (const CoeficientesTerreno& c :
+       {CoeficientesSolera(0, 100, 40, Suelo("Continuo")),
+        CoeficientesSolera(1, 0, 40, Suelo("Continuo")), CoeficientesMuroTerreno(0, 30, 2),
+        CoeficientesMuroTerreno(1, 0, 2)}) {
+    EXPECT_EQ(c.Hg, 0.0F);
+    EXPECT_EQ(c.Hpi, 0.0F);
+    EXPECT_EQ(c.Hpe, 0.0F);
+  }
+}
+
+// U = 0,8 en 30 m2: dw = 2,72.
+TEST(CoeficientesMuroTerreno, PorSuProfundidad) {
+  Esperar(CoeficientesMuroTerreno(0.8F, 30, 2.5F), 12.55463, 13.08539, 7.485452);
+  Esperar(CoeficientesMuroTerreno(0.8F, 30, 1), 16.33138, 13.08539, 9.282485);
+  Esperar(CoeficientesMuroTerreno(0.8F, 30, 0), 16.33138, 13.08539, 9.282485);
+}
+
+TEST(DimensionCaracteristica, DobleDelAreaEntreElPerimetro) {
+  EXPECT_FLOAT_EQ(DimensionCaracteristica(100, 40), 5);
+  EXPECT_FLOAT_EQ(DimensionCaracteristica(100, 0), 20);
+}
+
+// Celdas de las tablas publicadas, y puntos medios entre ellas.
+TEST(TransmitanciaTerreno, CeldasDeSusTablasYPuntosMedios) {
+  EXPECT_NEAR(UMuroTerreno(0, 0.5F), 3.05, 1e-5);
+  EXPECT_NEAR(UMuroTerreno(2, 6), 0.24, 1e-5);
+  EXPECT_NEAR(UMuroTerreno(1, 0), 0.65, 1e-5);  // sin profundidad, 1 m
+  EXPECT_NEAR(UMuroTerreno(0.05F, 0.75F), (3.05 + 2.2 + 2.29 + 1.74) / 4, 1e-4);
+  EXPECT_NEAR(UMuroTerreno(5, 20), 0.24, 1e-5);
+  EXPECT_NEAR(UMuroTerreno(-1, 0.1F), 3.05, 1e-5);
+  EXPECT_NEAR(UCamaraSanitaria(1, 0), 9.38, 1e-5);
+  EXPECT_NEAR(UCamaraSanitaria(1.5F, 0.25F), (9.38 + 1.65 + 5.35 + 1.46) / 4, 1e-4);
+  EXPECT_NEAR(UCamaraSanitaria(11, 2.5F), (0.32 + 0.31) / 2, 1e-4);
+  EXPECT_NEAR(UCamaraSanitaria(40, 4), 0.23, 1e-5);
+  EXPECT_NEAR(USoleraSuperficial(5, 0, 0), 0.85, 1e-5);
+  EXPECT_NEAR(USoleraSuperficial(0.3F, 0, 2), 2.35, 1e-5);
+  EXPECT_NEAR(USoleraSuperficial(5, 1, 1), 0.58, 1e-5);
+  EXPECT_NEAR(USoleraSuperficial(20, 1.5F, 2.5F), 0.20, 1e-5);
+  // Entre B' 5 y 6 y entre Ra 1 y 1,5, con 1 m de banda.
+  EXPECT_NEAR(USoleraSuperficial(5.5F, 1, 1.25F), (0.58 + 0.54 + 0.52 + 0.48) / 4, 1e-4);
+  // De no tener banda a la primera resistencia, y a la primera anchura.
+  EXPECT_NEAR(USoleraSuperficial(5, 1, 0.25F), (0.85 + 0.65) / 2, 1e-4);
+  EXPECT_NEAR(USoleraSuperficial(5, 0.25F, 1), (0.85 + 0.64) / 2, 1e-4);
+  // Celda vacía en la tabla: toma la de su izquierda.
+  EXPECT_NEAR(USoleraSuperficial(1, 1.5F, 0.5F), 0.57, 1e-5);
+  EXPECT_NEAR(USoleraProfunda(5, 0, 0.6F), 0.64, 1e-5);
+  EXPECT_NEAR(USoleraProfunda(5, 0, 1), 0.64, 1e-5);
+  EXPECT_NEAR(USoleraProfunda(5, 0, 1.01F), 0.54, 1e-5);
+  EXPECT_NEAR(USoleraProfunda(5, 0, 3), 0.42, 1e-5);
+  EXPECT_NEAR(USoleraProfunda(5, 0, 8), 0.35, 1e-5);
+  EXPECT_NEAR(USoleraProfunda(11, 0.75F, 0.6F), (0.34 + 0.30 + 0.30 + 0.27) / 4, 1e-4);
+  EXPECT_NEAR(USoleraProfunda(90, 9, 9), 0.14, 1e-5);
+}
 
 class Envolvente : public testing::Test {
  protected:
@@ -63,9 +147,7 @@ TEST_F(Envolvente, LaResistenciaAnadidaVaPorFamilias) {
   for (const std::size_t i : {std::size_t{ranura::MuroOtro1}, std::size_t{ranura::TechoOtro2},
                               std::size_t{ranura::SueloOtro2}, std::size_t{ranura::MuroExt8}})
     EXPECT_FLOAT_EQ(u[i], 0.5F) << TablaEnvolvente::Clave(i);
-}
-
-TEST_F(Envolvente, LoQueNoEstaDefinidoSigueSinU) {
+  // Lo que no está definido sigue sin U.
   Peliculas("No");
   forzados.ExtraRCubiertas = 1;
   edificio.GetComposicion(ranura::TechoExt1).U = 0;
@@ -119,15 +201,12 @@ class Puentes : public testing::Test {
   Construccion c;
 };
 
-TEST_F(Puentes, PorElModoImpuesto) {
+TEST_F(Puentes, PorElModoLaZonaYLosPilares) {
   // 6 + 0,75 + (20 + 3,6 + 1,6 + 9) + 5.
   EXPECT_NEAR(ConductanciaPuentes(c, 0, "D3"), 45.95, 1e-4);
   EXPECT_NEAR(ConductanciaPuentes(c, 2, "D3"), 0.4 + 0.75 + 34.2 + 9.5, 1e-4);
   EXPECT_NEAR(ConductanciaPuentes(c, 3, "D3"), 0.4 + 0.75 + 34.2 + 5, 1e-4);
   EXPECT_NEAR(ConductanciaPuentes(c, 4, "D3"), 6 + 0.75 + 34.2 + 9.5, 1e-4);
-}
-
-TEST_F(Puentes, ElContinuoVaPorZonas) {
   // 0,4 + 0,8 + (5,7 + 1,52 + 2,88) + 9,5 y el frente de forjado de la zona por 40 m.
   const double resto = 20.8;
   const std::pair<const char*, double> frentes[] = {
@@ -135,9 +214,6 @@ TEST_F(Puentes, ElContinuoVaPorZonas) {
       {"C2c", -0.03}, {"C1", -0.03},  {"D1", -0.02},     {"E1", -0.02}};
   for (const auto& [zona, psi] : frentes)
     EXPECT_NEAR(ConductanciaPuentes(c, 1, zona), resto + 40 * psi, 1e-4) << zona;
-}
-
-TEST_F(Puentes, SinPilaresNoCuentan) {
   c.Existencia_pilares = 1;
   for (const int modo : {4, 5}) {
     c.Def_Puentes_termicos = modo;

@@ -1,0 +1,223 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <numeric>
+
+#include "systems/CaptadoresSolares.h"
+#include "systems/DepositoEstratificado.h"
+#include "systems/Fotovoltaica.h"
+
+namespace novex {
+namespace {
+
+// Efectividad 0,7 sobre el lado de menor caudal: 0,7·40 = 28 K en él y 28·0,02/0,03 en el otro.
+TEST(Intercambiador, AMano) {
+  const SalidaIntercambiador s = Intercambiar(0.02, 80, 0.7, 0.03, 40);
+  EXPECT_NEAR(s.primario, 52, 1e-9);
+  EXPECT_NEAR(s.secundario, 40 + 28.0 * 2 / 3, 1e-9);
+  EXPECT_NEAR(Intercambiar(0.03, 80, 0.7, 0.02, 40).secundario, 68, 1e-9);
+  for (const auto& [m1, m2] : {std::pair{0.0, 0.03}, {0.02, 0.0}, {-1.0, 0.03}}) {
+    const SalidaIntercambiador parado = Intercambiar(m1, 80, 0.7, m2, 40);
+    EXPECT_EQ(parado.primario, 80);
+    EXPECT_EQ(parado.secundario, 40);
+  }
+}
+
+DatosGenerales Campo(int n, float caudal, float a0, float a1) {
+  DatosGenerales g;
+  g.N_colec_term = n;
+  g.Sup_colec_term = 2;
+  g.Caudal_Col_ST = caudal;
+  g.AA_colec_term = a0;
+  g.BB_colec_term = a1;
+  g.CC_colec_term = 0;
+  g.Control_Tmin_ST = 2;
+  g.Long_Tub_ST = 0;
+  return g;
+}
+
+// 2 m2 con 72 l/h (83,68 W/K), agua a 40 °C, 20 °C fuera y 800 W/m2. De P = 1600 (0,8 - 4 (Tm -
+// 20)/800) y Tm = 40 + P/167,36 sale P = 1120/1,0478 = 1068,9 W.
+TEST(CaptadoresSolares, CurvaAMano) {
+  DatosGenerales g = Campo(1, 72, 0.8F, 4);
+  const CaptadoresSolares c(g);
+  EXPECT_NEAR(c.Potencia(40, 800, 20), 1068.9, 0.9);
+  EXPECT_GT(c.Potencia(20, 800, 20), c.Potencia(40, 800, 20));
+  EXPECT_EQ(c.Potencia(40, 0, 20), 0);
+  // 0,8 - 4·70/350 = 0: no rinde ya a la entrada.
+  EXPECT_EQ(c.Potencia(90, 350, 20), 0);
+  // El término cuadrático: 0,8 - 0,1 - 0,01·400/800 - lo que sube la media.
+  g.CC_colec_term = 0.01F;
+  EXPECT_NEAR(CaptadoresSolares(g).Potencia(40, 800, 20), 1055.5, 6);
+  for (DatosGenerales nulo : {Campo(0, 72, 0.8F, 4), Campo(1, 0, 0.8F, 4)})
+    EXPECT_EQ(CaptadoresSolares(nulo).Potencia(40, 800, 20), 0);
+}
+
+// 8 m2 con 1800 l/h (2092 W/K) y rendimiento fijo de 0,5: con 1046 W/m2 el salto es de 2 °C justos,
+// y la bomba se para.
+TEST(CaptadoresSolares, ElSaltoMinimoJustoLaPara) {
+  const CaptadoresSolares c(Campo(4, 1800, 0.5F, 0));
+  EXPECT_EQ(c.Potencia(40, 1046, 20), 0);
+  EXPECT_NEAR(c.Potencia(40, 1047, 20), 4188, 1e-6);
+}
+
+class Campos : public testing::Test {
+ protected:
+  Campos() {
+    g.PerfilUso = 0;
+    g.PSuciedad_FV = 6;
+    g.PConversor_FV = 4;
+    clima->CENITS[12] = 60;
+    clima->IDIRECTA[12] = 800;
+    clima->IDIFUSA[12] = 100;
+    clima->TSE[12] = 20;
+  }
+  float Potencia(float extra = 0) const { return PotenciaFotovoltaica(g, *clima, extra, 12); }
+
+  DatosGenerales g;
+  std::unique_ptr<SeriesClima> clima = std::make_unique<SeriesClima>();
+};
+
+// 800 cos 60° + 100 = 500 W/m2; la célula pierde 0,4 (15 + 25 - 20) = 8 % y queda el 82 %.
+TEST_F(Campos, UnaHoraAMano) {
+  EXPECT_FALSE(HayFotovoltaica(g, 0));
+  g.PotPico_FV[0] = 3;
+  EXPECT_TRUE(HayFotovoltaica(g, 0));
+  EXPECT_NEAR(Potencia(), 1.23, 1e-4);
+  EXPECT_NEAR(Potencia(1), 1.64, 1e-4);
+  clima->TSE[12] = -10;  // con frío, 0,4 (15 + 25 + 10) = 20 % y queda el 70 %
+  EXPECT_NEAR(Potencia(), 3 * 0.5 * 0.7, 1e-4);
+  clima->TSE[12] = 20;
+  // Otro campo de 1 kW de cara al sol: 800 + 93,30 + 6,70 W/m2, y su célula pierde 12,8 %.
+  g.PotPico_FV[2] = 1;
+  g.Incli_FV[2] = 60;
+  EXPECT_NEAR(Potencia(), 1.23 + 0.9 * 0.772, 1e-3);
+}
+
+TEST_F(Campos, LaMedidaPoneElPrimerCampo) {
+  EXPECT_TRUE(HayFotovoltaica(g, 1));
+  EXPECT_NEAR(Potencia(1), 0.41, 1e-4);
+  EXPECT_EQ(Potencia(), 0.0F);
+}
+
+// Lo mismo a mediodía del 1 de enero y en la última hora de febrero, la 1416.
+TEST_F(Campos, SeSumaPorMeses) {
+  EXPECT_EQ(ProduccionFotovoltaica(g, *clima)[0], 0.0F);
+  clima->CENITS[1416] = 60;
+  clima->IDIRECTA[1416] = 800;
+  clima->IDIFUSA[1416] = 100;
+  clima->TSE[1416] = 20;
+  g.PotPico_FV[0] = 3;
+  const TablaMensual meses = ProduccionFotovoltaica(g, *clima);
+  EXPECT_NEAR(meses[1], 1.23, 1e-4);
+  EXPECT_NEAR(meses[2], 1.23, 1e-4);
+  EXPECT_EQ(meses[3], 0.0F);
+  EXPECT_NEAR(meses[0], 2.46, 1e-4);
+}
+
+TEST_F(Campos, AUnPisoLeTocaSuParte) {
+  g.PotPico_FV[0] = 3;
+  g.PerfilUso = 2;
+  g.NVBloqueF = 4;
+  EXPECT_NEAR(Potencia(), 1.23 / 4, 1e-4);
+  g.PerfilUso = 1;
+  EXPECT_NEAR(Potencia(), 1.23, 1e-4);
+}
+
+double Almacenada(const GeometriaDeposito& g, const Nodos& T) {
+  return g.masaCp * std::accumulate(T.begin(), T.end(), 0.0);
+}
+
+bool EnOrden(const Nodos& T) {
+  return std::is_sorted(T.rbegin(), T.rend(), [](double a, double b) { return a < b - 1e-5; });
+}
+
+Nodos Uniforme(double T) {
+  return {T, T, T, T, T};
+}
+
+TEST(DepositoEstratificado, ElUnicoNodoQueNadaTocaNoCambia) {
+  const GeometriaDeposito g(200, 0, 2);
+  Nodos T = Uniforme(50);
+  MinutoDeposito m;
+  m.generador.areaSerpentin = 2;  // un serpentín sin caudal no hace nada
+  m.generador.temperatura = 90;
+  m.solar.caudalSerpentin = 0.1;  // ni uno sin área
+  m.solar.temperatura = 80;
+  for (int i = 0; i < 60; ++i) {
+    const EnergiasDeposito e = AvanzarDeposito(g, m, T);
+    EXPECT_EQ(e.salidaGenerador, 90);
+    EXPECT_EQ(e.salidaSolar, 80);
+    EXPECT_EQ(e.Suma(), 0);
+  }
+  for (const double t : T) EXPECT_NEAR(t, 50, 1e-9);
+}
+
+TEST(DepositoEstratificado, LaExtraccionDejaElOrdenYVaciaDesdeAbajo) {
+  const GeometriaDeposito g(200, 2, 2);
+  MinutoDeposito m;
+  m.extraccion = 0.1;  // 60 kg en diez minutos, nodo y medio
+  m.entradaAgua = 10;
+  Nodos T = Uniforme(60);
+  for (int i = 0; i < 10; ++i) {
+    AvanzarDeposito(g, m, T);
+    ASSERT_TRUE(EnOrden(T));
+  }
+  EXPECT_GT(T[0], 59);
+  EXPECT_LT(T[4], 25);
+  // Con extracción y potencia fijas el régimen es el de un calentador: 5000/(0,05·4184) = 23,90 K.
+  const GeometriaDeposito aislado(200, 0, 2);
+  m.extraccion = 0.05;
+  m.auxiliar = 5000;
+  m.nodoAuxiliar = 3;
+  EnergiasDeposito e;
+  for (int i = 0; i < 3000; ++i) e = AvanzarDeposito(aislado, m, T);
+  EXPECT_NEAR(T[0], 10 + 23.90, 0.05);
+  EXPECT_NEAR(e.extraccion, -5000 * 60, 1500);
+}
+
+// Un día con todo a la vez: lo que entra y sale es lo que queda dentro, al 0,1 %.
+TEST(DepositoEstratificado, ElDiaCierra) {
+  const GeometriaDeposito g(300, 3, 2.5);
+  Nodos T{60, 55, 50, 40, 30};
+  const double inicio = Almacenada(g, T);
+  double suma = 0, entra = 0;
+  for (int minuto = 0; minuto < 1440; ++minuto) {
+    MinutoDeposito m;
+    m.ambiente = 17;
+    m.entradaAgua = 12;
+    m.extraccion = minuto % 60 < 15 ? 0.06 : 0.0;
+    m.recirculacion = minuto % 120 < 60 ? 0.03 : 0.0;
+    m.retorno = T[0] - 5;
+    m.nodoRetorno = 1;
+    m.auxiliar = T[1] < 50 ? 2000 : 0;
+    m.nodoAuxiliar = 1;
+    m.generador.temperatura = 65;
+    m.generador.caudalDirecto = T[1] < 55 ? 0.1 : 0.0;
+    m.solar.temperatura = 58;
+    m.solar.caudalSerpentin = minuto > 600 && minuto < 1000 ? 0.05 : 0.0;
+    m.solar.areaSerpentin = 2;
+    const EnergiasDeposito e = AvanzarDeposito(g, m, T);
+    suma += e.Suma();
+    entra += e.directaGenerador + e.serpentinSolar + e.auxiliar;
+    for (const double t : T) ASSERT_TRUE(t > 5 && t < 70) << minuto;
+  }
+  EXPECT_GT(entra, 5e7);
+  EXPECT_NEAR(suma, Almacenada(g, T) - inicio, 1e-3 * entra);
+}
+
+TEST(DepositoEstratificado, UnaEntradaImposibleNoLoCuelga) {
+  const GeometriaDeposito g(200, 2, 2);
+  MinutoDeposito m;
+  m.entradaAgua = std::numeric_limits<double>::quiet_NaN();
+  m.extraccion = 0.1;
+  Nodos T = Uniforme(60);
+  AvanzarDeposito(g, m, T);
+  EXPECT_TRUE(std::isnan(T[4]));
+}
+
+}  // namespace
+}  // namespace novex
