@@ -1,6 +1,7 @@
 #include "shell/ProyectoPrueba.h"
 
 #include "files/ProyectoFichero.h"
+#include "model/Cambios.h"
 
 namespace novex::pruebas {
 namespace {
@@ -29,14 +30,14 @@ void GuardarProyectoPrueba(const std::filesystem::path& ruta, const std::string&
   recinto.Suelo_adiabatico_m2[0] = superficie;
   base.GetComposicion(ranura::SueloOtro2).U = 1;
   base.AnadirSistema(CalderaACS());
-  Localizacion lugar = base.GetLocalizacion();
-  lugar.ZonaClimatica = zona;
-  lugar.Provincia = "Madrid";
-  base.SetLocalizacion(lugar);
-  DatosGenerales generales = base.GetDatosGenerales();
-  generales.Equipos_Defecto = "SI";
-  generales.perfiles.tabla[CTCh][0].fill(20);
-  base.SetDatosGenerales(generales);
+  pruebas::CambiarLugar(base, [&](Localizacion& lugar) {
+    lugar.ZonaClimatica = zona;
+    lugar.Provincia = "Madrid";
+  });
+  pruebas::CambiarGenerales(base, [&](DatosGenerales& generales) {
+    generales.Equipos_Defecto = "SI";
+    generales.perfiles.tabla[CTCh][0].fill(20);
+  });
   for (int i = 0; i < mejoras; ++i) {
     gestor.AnadirMejora();
     while (mejorasSinACS && gestor.Activo().NumeroSistemas() > 0) gestor.Activo().BorrarSistema(0);
