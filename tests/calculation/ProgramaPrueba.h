@@ -5,6 +5,7 @@
 
 #include "calculation/EjecutarCalculo.h"
 #include "files/CarpetaTemporal.h"
+#include "model/Cambios.h"
 
 namespace novex::pruebas {
 
@@ -35,19 +36,5 @@ class ProgramaPrueba {
 /// m2 de muro y 100 de cubierta, K = 100 W/K; 10 ventanas al sur de 2 m2 con U = 3; 20 W/K de
 /// puentes, 0,6 renovaciones por hora y una envolvente estanca. Sus forjados no tienen espesor.
 std::unique_ptr<Edificio> CajaCaliente();
-
-/// Cambia un registro de un edificio: lo saca, lo cambia y lo guarda.
-template <class Cambio>
-void CambiarGenerales(Edificio& edificio, Cambio cambio) {
-  DatosGenerales g = edificio.GetDatosGenerales();
-  cambio(g);
-  edificio.SetDatosGenerales(std::move(g));
-}
-template <class Cambio>
-void CambiarConstruccion(Edificio& edificio, Cambio cambio) {
-  Construccion c = edificio.GetConstruccion();
-  cambio(c);
-  edificio.SetConstruccion(std::move(c));
-}
 
 }  // namespace novex::pruebas

@@ -57,18 +57,14 @@ TEST(RegimenPermanente, LaCargaEsLaConductanciaPorElSalto) {
   EXPECT_NEAR(ano, anual, 2 * kUnoPorMil * anual);
   EXPECT_NEAR(c.resultados.demandaCalefaccion, ano / 100, 1e-3 * ano / 100);
   EXPECT_EQ(c.resultados.demandaRefrigeracion, 0.0F);
-}
-
-// La altura libre reduce lo que los cerramientos reciben de fuera (K × F × (Te - 22,5)), no lo que
-// la zona les da.
-TEST(RegimenPermanente, ConForjadosLosElementosCuentanLaAlturaLibre) {
-  ProgramaPrueba programa;
-  const auto caja = CajaCaliente();
-  pruebas::CambiarConstruccion(*caja, [](Construccion& c) { c.Espesor_forjado = 0.3F; });
-  ASSERT_TRUE(programa.Calcular(*caja));
-  const double esperada = 100 * (0.9 * 22.5 - 1.5) + 21 * (20 + kVentilacion + kVentanasDia);
-  EXPECT_NEAR(caja->GetCalculo()->zona.cargaCalefaccion[492] * -1000, esperada,
-              kUnoPorMil * esperada);
+  // La altura libre reduce lo que los cerramientos reciben de fuera (K × F × (Te - 22,5)), no lo
+  // que la zona les da.
+  const auto conForjados = CajaCaliente();
+  pruebas::CambiarConstruccion(*conForjados, [](Construccion& k) { k.Espesor_forjado = 0.3F; });
+  ASSERT_TRUE(programa.Calcular(*conForjados));
+  const double conAltura = 100 * (0.9 * 22.5 - 1.5) + 21 * (20 + kVentilacion + kVentanasDia);
+  EXPECT_NEAR(conForjados->GetCalculo()->zona.cargaCalefaccion[492] * -1000, conAltura,
+              kUnoPorMil * conAltura);
 }
 
 TEST(RegimenPermanente, ConCalorDentroSeRefrigeraLaDiferencia) {
@@ -93,9 +89,7 @@ TEST(RegimenPermanente, ConCalorDentroSeRefrigeraLaDiferencia) {
   // En C1, D1 y E1 una vivienda no tiene refrigeración y la zona se calienta sola.
   const auto sinFrio = CajaCaliente();
   sinFrio->SetDatosGenerales(caja->GetDatosGenerales());
-  Localizacion lugar = sinFrio->GetLocalizacion();
-  lugar.ZonaClimatica = "E1";
-  sinFrio->SetLocalizacion(lugar);
+  pruebas::CambiarLugar(*sinFrio, [](Localizacion& lugar) { lugar.ZonaClimatica = "E1"; });
   std::filesystem::copy(programa.Datos() / "../databaseCTE/ZonaD3.met",
                         programa.Datos() / "../databaseCTE/ZonaE1.met");
   ASSERT_TRUE(programa.Calcular(*sinFrio));

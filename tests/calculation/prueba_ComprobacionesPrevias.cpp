@@ -102,41 +102,49 @@ class ComprobacionesPreviasTest : public testing::Test {
       g.perfiles.tabla[familia][clase][hora] = valor;
     });
   }
-  // Los textos de todo lo que falla.
+  // Los textos de todo lo que falla, en su orden.
   std::vector<std::string> Textos() const {
     std::vector<std::string> textos;
     for (const MensajePrevio& m : MensajesPrevios(edificio)) textos.push_back(m.texto);
     return textos;
   }
 
+  // Los mismos, con esos generadores de agua caliente en vez de los que haya.
+  std::vector<std::string> TextosCon(std::vector<Instalaciones> generadores) {
+    QuitarSistemas(edificio);
+    for (Instalaciones& g : generadores) edificio.AnadirSistema(Sistema("ACS", std::move(g)));
+    return Textos();
+  }
+
   Edificio edificio;
   Recinto& recinto = edificio.GetRecinto(0);
 };
 
-TEST_F(ComprobacionesPreviasTest, UnaCasaCompletaPasa) {
-  EXPECT_THAT(Textos(), IsEmpty());
+TEST_F(ComprobacionesPreviasTest, LaSuperficieUtilElSueloYElVolumenGuardanRelacion) {
   EXPECT_EQ(ComprobacionesPrevias(edificio), "");
   EXPECT_THAT(TodasLasComprobaciones(edificio), IsEmpty());
   EXPECT_THAT(AvisosPrevios(edificio), IsEmpty());
-}
-
-TEST_F(ComprobacionesPreviasTest, LaSuperficieUtilGuardaRelacionConLosSuelos) {
-  struct Caso {
-    float util, suelo;
-    const char* texto;
-  };
-  // En 81.9 / 91 y 133.2 / 148 el cociente exacto es 0.9.
-  for (const Caso& caso : {Caso{90, 100, ""},
-                           {81.9F, 91, ""},
-                           {133.2F, 148, ""},
-                           {89.9F, 100, kMuchoSuelo},
-                           {50, 1, ""},
-                           {50.1F, 1, kPocoSuelo},
-                           {100, 0, kSinSuelos}}) {
-    recinto.Suelo_habitable_m2 = caso.util;
-    recinto.Volumen_total_m3 = 3 * caso.util;
-    recinto.Suelo_al_terreno_m2[0] = caso.suelo;
-    EXPECT_EQ(ComprobacionesPrevias(edificio), caso.texto) << caso.util << " / " << caso.suelo;
+  // En 81.9 / 91 y 133.2 / 148 el cociente exacto es 0.9. La altura media está entre 2 y 5.
+  const std::tuple<float, float, float, const char*> casos[] = {{90, 100, 270, ""},
+                                                                {81.9F, 91, 245, ""},
+                                                                {133.2F, 148, 399, ""},
+                                                                {89.9F, 100, 269, kMuchoSuelo},
+                                                                {50, 1, 150, ""},
+                                                                {50.1F, 1, 150, kPocoSuelo},
+                                                                {100, 0, 300, kSinSuelos},
+                                                                {100, 100, 200, kBajo},
+                                                                {100, 100, 200.1F, ""},
+                                                                {100, 100, 499.9F, ""},
+                                                                {100, 100, 500, kAlto},
+                                                                {90.65F, 100, 181.3F, kBajo},
+                                                                {90.65F, 100, 453.25F, kAlto},
+                                                                {100, 100, 0, kBajo},
+                                                                {0, 100, 300, kSinUtil}};
+  for (const auto& [util, suelo, volumen, texto] : casos) {
+    recinto.Suelo_habitable_m2 = util;
+    recinto.Suelo_al_terreno_m2[0] = suelo;
+    recinto.Volumen_total_m3 = volumen;
+    EXPECT_EQ(ComprobacionesPrevias(edificio), texto) << util << " " << suelo << " " << volumen;
   }
 }
 
@@ -163,25 +171,6 @@ TEST_F(ComprobacionesPreviasTest, CuentanLosSuelosDeTodasLasClasesYRecintos) {
   EXPECT_THAT(Textos(), ElementsAre(kAlto));
 }
 
-TEST_F(ComprobacionesPreviasTest, LaAlturaMediaEstaEntre2Y5) {
-  struct Caso {
-    float util, volumen;
-    const char* texto;
-  };
-  for (const Caso& caso : {Caso{100, 200, kBajo},
-                           {100, 200.1F, ""},
-                           {100, 499.9F, ""},
-                           {100, 500, kAlto},
-                           {90.65F, 181.3F, kBajo},
-                           {90.65F, 453.25F, kAlto},
-                           {100, 0, kBajo},
-                           {0, 300, kSinUtil}}) {
-    recinto.Suelo_habitable_m2 = caso.util;
-    recinto.Volumen_total_m3 = caso.volumen;
-    EXPECT_EQ(ComprobacionesPrevias(edificio), caso.texto) << caso.volumen << " / " << caso.util;
-  }
-}
-
 TEST_F(ComprobacionesPreviasTest, UnaViviendaTieneUnSoloGeneradorDeACS) {
   edificio.AnadirSistema(Sistema("Calefaccion", Caldera()));
   EXPECT_THAT(Textos(), IsEmpty());
@@ -206,42 +195,29 @@ TEST_F(ComprobacionesPreviasTest, LosEquiposIndividualesDeUnBloqueSonLosDeSusViv
   PonerPerfil(edificio, 1);
   PonerViviendas(edificio, {4, 0, 0, 0, 0, 2});
   EXPECT_THAT(Textos(), IsEmpty());  // una caldera central
-  const auto con = [&](std::vector<Instalaciones> generadores) {
-    QuitarSistemas(edificio);
-    for (Instalaciones& g : generadores) edificio.AnadirSistema(Sistema("ACS", std::move(g)));
-    return Textos();
-  };
-  EXPECT_THAT(con({Individual(4, 0), Individual(2, 5)}), IsEmpty());
-  EXPECT_THAT(con({Individual(3, 0), Individual(1, 0), Individual(2, 5)}), IsEmpty());
-  EXPECT_THAT(con({Individual(4, 0), Individual(1, 5)}), ElementsAre(kViviendas, kMalRepartidos));
+  EXPECT_THAT(TextosCon({Individual(4, 0), Individual(2, 5)}), IsEmpty());
+  EXPECT_THAT(TextosCon({Individual(3, 0), Individual(1, 0), Individual(2, 5)}), IsEmpty());
+  EXPECT_THAT(TextosCon({Individual(4, 0), Individual(1, 5)}),
+              ElementsAre(kViviendas, kMalRepartidos));
   // El total coincide y el reparto no; una tipología que no existe solo cuenta en el total.
-  EXPECT_THAT(con({Individual(3, 0), Individual(3, 5)}), ElementsAre(kMalRepartidos));
-  EXPECT_THAT(con({Individual(4, 0), Individual(2, 6)}), ElementsAre(kMalRepartidos));
-  EXPECT_THAT(con({Individual(4, 0), Individual(2, -1)}), ElementsAre(kMalRepartidos));
+  EXPECT_THAT(TextosCon({Individual(3, 0), Individual(3, 5)}), ElementsAre(kMalRepartidos));
+  EXPECT_THAT(TextosCon({Individual(4, 0), Individual(2, 6)}), ElementsAre(kMalRepartidos));
+  EXPECT_THAT(TextosCon({Individual(4, 0), Individual(2, -1)}), ElementsAre(kMalRepartidos));
   // Una central al lado no cuenta.
-  EXPECT_THAT(con({Individual(4, 0), Individual(2, 5), Caldera()}), IsEmpty());
-  EXPECT_THAT(con({Individual(4, 0), Individual(2, 5), Individual(0, 1)}),
+  EXPECT_THAT(TextosCon({Individual(4, 0), Individual(2, 5), Caldera()}), IsEmpty());
+  EXPECT_THAT(TextosCon({Individual(4, 0), Individual(2, 5), Individual(0, 1)}),
               ElementsAre(kSinEquipos));
-  // En los demás usos no hay viviendas que contar.
-  con({Individual(7)});
+  // En los demás usos no hay viviendas que contar, y en todos ha de haber algún equipo.
   PonerPerfil(edificio, 0);
-  EXPECT_THAT(Textos(), IsEmpty());
-}
-
-TEST_F(ComprobacionesPreviasTest, TodoSistemaDeACSTieneEquipos) {
-  edificio.GetSistema(0).instalaciones[0].NEquipos = 0;
-  EXPECT_THAT(Textos(), ElementsAre(kSinEquipos));
-  PonerPerfil(edificio, 5);
-  EXPECT_THAT(Textos(), ElementsAre(kSinEquipos));
+  EXPECT_THAT(TextosCon({Individual(7)}), IsEmpty());
+  for (const int perfil : {0, 5}) {
+    PonerPerfil(edificio, perfil);
+    EXPECT_THAT(TextosCon({Individual(0)}), ElementsAre(kSinEquipos)) << perfil;
+  }
 }
 
 TEST_F(ComprobacionesPreviasTest, LaInstalacionSolarEsUna) {
   PonerPerfil(edificio, 5);
-  const auto con = [&](std::vector<Instalaciones> generadores) {
-    QuitarSistemas(edificio);
-    for (Instalaciones& g : generadores) edificio.AnadirSistema(Sistema("ACS", std::move(g)));
-    return Textos();
-  };
   constexpr const char* kDirecto = "Directo solar intercambiador";
   constexpr const char* kRecirculado = "Recirculado solar intercambiador";
   Instalaciones calentador;
@@ -250,18 +226,19 @@ TEST_F(ComprobacionesPreviasTest, LaInstalacionSolarEsUna) {
   calentador.Alimentacion = kDirecto;
   calentador.NEquipos = 1;
   // Dos iguales, aun con generadores distintos, o una sola.
-  EXPECT_THAT(con({Caldera(kDirecto), calentador}), IsEmpty());
-  EXPECT_THAT(con({Caldera(kDirecto), Caldera()}), IsEmpty());
+  EXPECT_THAT(TextosCon({Caldera(kDirecto), calentador}), IsEmpty());
+  EXPECT_THAT(TextosCon({Caldera(kDirecto), Caldera()}), IsEmpty());
   // Dos distintas, también con otra sin solar entre ellas.
-  EXPECT_THAT(con({Caldera(kDirecto), Caldera(), Caldera(kRecirculado)}), ElementsAre(kSolares));
-  EXPECT_THAT(con({Caldera(kDirecto), Caldera("Directo solar interacumulador")}),
+  EXPECT_THAT(TextosCon({Caldera(kDirecto), Caldera(), Caldera(kRecirculado)}),
               ElementsAre(kSolares));
-  EXPECT_THAT(con({Caldera(kDirecto), Caldera(kRecirculado), Caldera(kRecirculado)}),
+  EXPECT_THAT(TextosCon({Caldera(kDirecto), Caldera("Directo solar interacumulador")}),
+              ElementsAre(kSolares));
+  EXPECT_THAT(TextosCon({Caldera(kDirecto), Caldera(kRecirculado), Caldera(kRecirculado)}),
               ElementsAre(kSolares));
   // Una alimentación en un campo que su generador no lee no es una instalación solar.
   Instalaciones sinSolar = Caldera();
   sinSolar.Alimentacion = sinSolar.Alimentacion2 = sinSolar.Alimentacion3 = kRecirculado;
-  EXPECT_THAT(con({Caldera(kDirecto), sinSolar}), IsEmpty());
+  EXPECT_THAT(TextosCon({Caldera(kDirecto), sinSolar}), IsEmpty());
 }
 
 TEST_F(ComprobacionesPreviasTest, HayAlgunCoeficienteOperacional) {
@@ -332,7 +309,7 @@ const Elemento kElementos[] = {
      [](R& r) -> float& { return r.Suelo_adiabatico_m2[1]; }},
 };
 
-TEST_F(ComprobacionesPreviasTest, TodoElementoConAreaTieneU) {
+TEST_F(ComprobacionesPreviasTest, TodoElementoConAreaTieneUYSaleEnSuOrden) {
   for (const Elemento& elemento : kElementos) {
     elemento.area(recinto) = 5;
     composicion& ranura = edificio.GetComposicion(*TablaEnvolvente::Indice(elemento.clave));
@@ -342,9 +319,6 @@ TEST_F(ComprobacionesPreviasTest, TodoElementoConAreaTieneU) {
     EXPECT_THAT(Textos(), IsEmpty()) << elemento.clave;
     elemento.area(recinto) = 0;
   }
-}
-
-TEST_F(ComprobacionesPreviasTest, LosElementosSinUSalenEnSuOrden) {
   for (const Elemento& elemento : kElementos) elemento.area(recinto) = 1;
   const std::vector<std::string> textos = Textos();
   ASSERT_EQ(textos.size(), std::size(kElementos));
