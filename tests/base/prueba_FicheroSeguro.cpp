@@ -1,7 +1,6 @@
 #include "base/FicheroSeguro.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -9,6 +8,7 @@
 #include <string>
 
 #include "base/ErrorFichero.h"
+#include "files/CarpetaTemporal.h"
 
 namespace novex {
 namespace {
@@ -17,18 +17,11 @@ namespace fs = std::filesystem;
 
 class FicheroSeguro : public ::testing::Test {
  protected:
-  void SetUp() override {
-    carpeta_ = fs::temp_directory_path() / ("novex_fichero_seguro_" + std::to_string(::getpid()));
-    fs::remove_all(carpeta_);
-    fs::create_directories(carpeta_);
-  }
-  void TearDown() override { fs::remove_all(carpeta_); }
-
   std::ptrdiff_t NumeroEntradas() const {
-    return std::distance(fs::directory_iterator(carpeta_), fs::directory_iterator());
+    return std::distance(fs::directory_iterator(carpeta_ / ""), fs::directory_iterator());
   }
 
-  fs::path carpeta_;
+  pruebas::CarpetaTemporal carpeta_;
 };
 
 TEST_F(FicheroSeguro, VuelveLoEscritoByteAByte) {
@@ -40,17 +33,15 @@ TEST_F(FicheroSeguro, VuelveLoEscritoByteAByte) {
   EscribirFichero(ruta, "");
   EXPECT_EQ(LeerFichero(ruta), "");
   EXPECT_EQ(NumeroEntradas(), 1);
-}
-
-TEST_F(FicheroSeguro, SustituyeElFicheroEnVezDeEscribirSobreEl) {
-  const fs::path ruta = carpeta_ / "proyecto.xml";
-  EscribirFichero(ruta, "antiguo y más largo");
+  // Sustituye el fichero en vez de escribir sobre él.
+  const fs::path proyecto = carpeta_ / "proyecto.xml";
+  EscribirFichero(proyecto, "antiguo y más largo");
   // Quien lo tiene abierto sigue viendo el contenido antiguo entero.
-  std::ifstream abierto(ruta, std::ios::binary);
-  EscribirFichero(ruta, "nuevo");
+  std::ifstream abierto(proyecto, std::ios::binary);
+  EscribirFichero(proyecto, "nuevo");
   const std::string visto{std::istreambuf_iterator<char>(abierto), {}};
   EXPECT_EQ(visto, "antiguo y más largo");
-  EXPECT_EQ(LeerFichero(ruta), "nuevo");
+  EXPECT_EQ(LeerFichero(proyecto), "nuevo");
 }
 
 TEST_F(FicheroSeguro, UnaEscrituraFallidaNoDejaRestos) {
@@ -63,9 +54,13 @@ TEST_F(FicheroSeguro, UnaEscrituraFallidaNoDejaRestos) {
   EXPECT_EQ(NumeroEntradas(), 1);
 }
 
-TEST_F(FicheroSeguro, LeerLoQueNoEsUnFicheroCorriente) {
-  EXPECT_THROW(LeerFichero(carpeta_), ErrorFichero);
+TEST_F(FicheroSeguro, LeerLoQueNoEsUnFicheroCorrienteOEsEnorme) {
+  EXPECT_THROW(LeerFichero(carpeta_ / ""), ErrorFichero);
   EXPECT_THROW(LeerFichero("/dev/null"), ErrorFichero);
+  const fs::path enorme = carpeta_ / "enorme.bin";
+  std::ofstream(enorme).close();
+  fs::resize_file(enorme, kTamanoMaximoFichero + 1);  // hueco: no ocupa disco
+  EXPECT_THROW(LeerFichero(enorme), ErrorFichero);
   const fs::path ruta = carpeta_ / "falta.xml";
   try {
     LeerFichero(ruta);
@@ -74,13 +69,6 @@ TEST_F(FicheroSeguro, LeerLoQueNoEsUnFicheroCorriente) {
     EXPECT_EQ(error.ruta, ruta.string());
     EXPECT_NE(std::string(error.what()).find(ruta.string()), std::string::npos);
   }
-}
-
-TEST_F(FicheroSeguro, UnFicheroEnormeNoSeLee) {
-  const fs::path ruta = carpeta_ / "enorme.bin";
-  std::ofstream(ruta).close();
-  fs::resize_file(ruta, kTamanoMaximoFichero + 1);  // hueco: no ocupa disco
-  EXPECT_THROW(LeerFichero(ruta), ErrorFichero);
 }
 
 }  // namespace

@@ -64,19 +64,16 @@ TEST_F(Proceso, LosArgumentosLleganComoEstan) {
   EXPECT_EQ(r.codigo, 7);
   EXPECT_TRUE(r.Arrancado());
   EXPECT_FALSE(r.Bien());
-}
-
-TEST_F(Proceso, SalidasCarpetaYSenal) {
   const fs::path otra = carpeta / "otra carpeta";
   fs::create_directory(otra);
-  auto r = EjecutarProceso({Guion("pwd; echo mal >&2"), {}, otra});
-  EXPECT_TRUE(r.Bien());
-  EXPECT_EQ(r.salida, fs::canonical(otra).string() + "\n");
-  EXPECT_EQ(r.errores, "mal\n");
-  r = EjecutarProceso({Guion("kill -TERM $$"), {}, {}});
-  EXPECT_EQ(r.senal, SIGTERM);
-  EXPECT_EQ(r.codigo, -1);
-  EXPECT_FALSE(r.Bien());
+  auto s = EjecutarProceso({Guion("pwd; echo mal >&2"), {}, otra});
+  EXPECT_TRUE(s.Bien());
+  EXPECT_EQ(s.salida, fs::canonical(otra).string() + "\n");
+  EXPECT_EQ(s.errores, "mal\n");
+  s = EjecutarProceso({Guion("kill -TERM $$"), {}, {}});
+  EXPECT_EQ(s.senal, SIGTERM);
+  EXPECT_EQ(s.codigo, -1);
+  EXPECT_FALSE(s.Bien());
 }
 
 TEST_F(Proceso, LoQueNoArrancaDicePorQue) {

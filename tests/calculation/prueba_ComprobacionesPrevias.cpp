@@ -317,7 +317,7 @@ TEST_F(ComprobacionesPreviasTest, TodoElementoConAreaTieneUYSaleEnSuOrden) {
                 ElementsAre(MensajePrevio{std::string(kSinU) + elemento.texto, elemento.pagina}));
     ranura.U = 0.001F;
     EXPECT_THAT(Textos(), IsEmpty()) << elemento.clave;
-    elemento.area(recinto) = 0;
+    elemento.area(recinto) = ranura.U = 0;
   }
   for (const Elemento& elemento : kElementos) elemento.area(recinto) = 1;
   const std::vector<std::string> textos = Textos();

@@ -5,6 +5,7 @@
 #include "casos/CasoPrueba.h"
 #include "files/ProyectoFichero.h"
 #include "improvements/EstudioMejoras.h"
+#include "model/Cambios.h"
 
 namespace novex {
 namespace {
@@ -53,9 +54,7 @@ class MejorasDeUnProyecto : public testing::Test {
   }
   template <class Cambio>
   void Cambiar(Cambio cambio) {
-    DatosGenerales generales = caso.Viejo().GetDatosGenerales();
-    cambio(generales);
-    caso.gestor.Caso(caso::kViejo)->SetDatosGenerales(generales);
+    pruebas::CambiarGenerales(*caso.gestor.Caso(caso::kViejo), cambio);
   }
   pruebas::CasoPrueba caso;
   FicherosPrograma ficheros{EspacioTrabajo{pruebas::CarpetaCasos() / "programa"}};

@@ -7,6 +7,7 @@
 #include "compliance/DocumentosCondensacion.h"
 #include "files/CarpetaTemporal.h"
 #include "files/xmlParser.h"
+#include "model/Cambios.h"
 
 namespace novex {
 namespace {
@@ -42,16 +43,14 @@ void PonerSitio(Edificio& edificio, int clase, float Te, float Pe) {
   sitio.Tproyecto = Te;
   sitio.Pvproyecto = Pe;
   edificio.SetDatosClimaticosSitio(sitio);
-  Construccion c = edificio.GetConstruccion();
-  c.Clase_de_higrometria = clase;
-  edificio.SetConstruccion(c);
+  pruebas::CambiarConstruccion(edificio, [&](Construccion& c) { c.Clase_de_higrometria = clase; });
 }
 
 void PonerPuentes(Edificio& edificio, const std::array<float, kPuentes>& fi, int sinPilares) {
-  Construccion c = edificio.GetConstruccion();
-  c.fi_Puentes = fi;
-  c.Existencia_pilares = sinPilares;
-  edificio.SetConstruccion(c);
+  pruebas::CambiarConstruccion(edificio, [&](Construccion& c) {
+    c.fi_Puentes = fi;
+    c.Existencia_pilares = sinPilares;
+  });
 }
 
 // Te = 0 °C, Pe = 550 Pa, HR = 70 %: Pi = 0,7 × 2338,8 = 1637,2 Pa. Película exterior 0,04 e

@@ -6,6 +6,7 @@
 #include "compliance/Requisitos.h"
 #include "compliance/TransmitanciaGlobal.h"
 #include "compliance/TransmitanciasMaximas.h"
+#include "model/Cambios.h"
 
 namespace novex {
 namespace {
@@ -72,21 +73,16 @@ class HE : public testing::Test {
     resultados.demandaCalefaccion = 40;
   }
   void Existente(const char* reforma) {
-    DatosGenerales d = edificio.GetDatosGenerales();
-    d.Modo_trabajo = "Existente";
-    d.Reforma = reforma;
-    edificio.SetDatosGenerales(d);
+    pruebas::CambiarGenerales(edificio, [&](DatosGenerales& d) {
+      d.Modo_trabajo = "Existente";
+      d.Reforma = reforma;
+    });
   }
   void Uso(int perfil) {
-    DatosGenerales d = edificio.GetDatosGenerales();
-    d.PerfilUso = perfil;
-    edificio.SetDatosGenerales(d);
+    pruebas::CambiarGenerales(edificio, [&](DatosGenerales& d) { d.PerfilUso = perfil; });
   }
   void Sitio(const char* zona, const char* provincia = "") {
-    Localizacion l = edificio.GetLocalizacion();
-    l.ZonaClimatica = zona;
-    l.Provincia = provincia;
-    edificio.SetLocalizacion(l);
+    pruebas::PonerLugar(edificio, zona, provincia);
   }
   Recinto& R() { return edificio.GetRecinto(0); }
 
@@ -239,10 +235,10 @@ TEST_F(HE, N50TeoricoMedidoYCuandoNoSeExige) {
   EXPECT_EQ(r.limite, 6);
   EXPECT_EQ(r.veredicto, "No Cumple el valor de relación cambio aire");
   EXPECT_EQ(r.SGNV50limite.filas[0][1].texto, "3200.00");
-  DatosGenerales d = edificio.GetDatosGenerales();
-  d.Tipon50 = "Medido";
-  d.Valorn50 = 6;
-  edificio.SetDatosGenerales(d);
+  pruebas::CambiarGenerales(edificio, [](DatosGenerales& d) {
+    d.Tipon50 = "Medido";
+    d.Valorn50 = 6;
+  });
   r = ComprobarN50(edificio, resultados, documentos);
   EXPECT_TRUE(r.cumple);
   EXPECT_EQ(r.textos[0], "nv50= 6.00 [h-1]   Valor medido");

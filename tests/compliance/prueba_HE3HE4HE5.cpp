@@ -35,7 +35,7 @@ TEST(HE3, EnResidencialNoSeComprueba) {
   EXPECT_TRUE(r.veredictos[0].pasa);
 }
 
-TEST(HE3, EnElLimiteCumple) {
+TEST(HE3, EnElLimiteCumpleYCadaUnoPorSuLado) {
   const RequisitoHE3 r = ComprobarHE3(Oficina(500, 10, 3, 3));
   EXPECT_TRUE(r.pasa);
   EXPECT_THAT(
@@ -45,9 +45,6 @@ TEST(HE3, EnElLimiteCumple) {
                   "potencia máxima son 10,00 W/m2 ",
                   "La potencia en iluminación de la instalación es = 10.00 W/m2", "Cumple",
                   "El VEIIlím es 3.00", "El VEII de la instalación es = 3.00", "Cumple"));
-}
-
-TEST(HE3, CadaLimitePorSuLadoYConSuPotenciaMaxima) {
   struct Caso {
     float lux, potencia, VEII;
     const char *dePotencia, *deVEII;
@@ -57,11 +54,11 @@ TEST(HE3, CadaLimitePorSuLadoYConSuPotenciaMaxima) {
                         {599, 10, 3.01F, "Cumple", "No cumple", 10},
                         {600, 25, 3, "Cumple", "Cumple", 25}};
   for (const Caso& c : casos) {
-    const RequisitoHE3 r = ComprobarHE3(Oficina(c.lux, c.potencia, c.VEII, 3));
-    EXPECT_EQ(r.lineas[3], c.dePotencia);
-    EXPECT_EQ(r.lineas[6], c.deVEII);
-    EXPECT_EQ(r.pasa, r.lineas[3] == r.lineas[6]);
-    EXPECT_EQ(r.veredictos[0].limite, c.maxima);
+    const RequisitoHE3 h = ComprobarHE3(Oficina(c.lux, c.potencia, c.VEII, 3));
+    EXPECT_EQ(h.lineas[3], c.dePotencia);
+    EXPECT_EQ(h.lineas[6], c.deVEII);
+    EXPECT_EQ(h.pasa, h.lineas[3] == h.lineas[6]);
+    EXPECT_EQ(h.veredictos[0].limite, c.maxima);
   }
 }
 
@@ -146,9 +143,6 @@ TEST_F(HE4, ConElMinimoJustoCumpleYPorDebajoNo) {
   EXPECT_EQ(r.RERACSCUMPLE, "No cumple");
   EXPECT_FALSE(r.veredicto.pasa);
   EXPECT_EQ(r.veredicto.limite, 60);
-}
-
-TEST_F(HE4, LaContribucionLlegaA100YEsCeroSinDemanda) {
   PonerAporte(VectorEnergetico::MedioAmbiente, 1, 3000);
   EXPECT_EQ(Comprobar().f, 100);
   // Con pérdidas y sin demanda tampoco hay división.
@@ -270,13 +264,11 @@ TEST(HE5, ConLaPotenciaJustaCumple) {
   g.PerfilUso = 3;
   EXPECT_NEAR(ComprobarHE5(g).P1, 12.22, 1e-9);
   EXPECT_FALSE(ComprobarHE5(g).pasa);
-}
-
-TEST(HE5, SiLosCaptadoresOcupanLaCubiertaPasaCualquiera) {
-  const RequisitoHE5 r = ComprobarHE5(Edificacion(3000, 200, 150, 0));
-  EXPECT_EQ(r.P2, 0);
-  EXPECT_TRUE(r.pasa);
-  EXPECT_EQ(r.veredicto.limite, 0);
+  // Si los captadores ocupan la cubierta pasa cualquiera.
+  const RequisitoHE5 ocupada = ComprobarHE5(Edificacion(3000, 200, 150, 0));
+  EXPECT_EQ(ocupada.P2, 0);
+  EXPECT_TRUE(ocupada.pasa);
+  EXPECT_EQ(ocupada.veredicto.limite, 0);
 }
 
 TEST(HE5, LosDatosTecleadosSeCompruebanYSeGuardan) {

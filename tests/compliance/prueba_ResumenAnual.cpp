@@ -103,10 +103,7 @@ TEST(GraficosResumen, UnaSeriePorServicioConSuSigno) {
               Not(Contains("Iluminación")));
   const Grafico emisiones = GraficoMensual(*oficina, *caso, TipoResultado::Emisiones);
   EXPECT_EQ(emisiones.series.back().valores[6], 25);
-}
-
-TEST(GraficosResumen, LaEficienciaDeUnMesSinEnergiaEsCero) {
-  const auto caso = Ano();
+  // La eficiencia de un mes sin energia es cero.
   const Grafico g =
       GraficoEficiencia(*pruebas::EdificioDe100(3, "NO"), *caso, TipoResultado::PrimariaTotal);
   EXPECT_NEAR(g.series[0].valores[0], 40, 1e-4);

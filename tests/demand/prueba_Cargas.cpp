@@ -121,10 +121,7 @@ TEST_F(Horarios, VentanasAbiertasLasNochesDeVerano) {
   EXPECT_NE(Generar(3).NRR[Hora(152, 1)], 400.0F);
   g.ManejoVentanas2 = "Cerradas";
   EXPECT_EQ(Generar(0).NRR[Hora(152, 1)], Valor(CNR, 0, 1));
-}
-
-TEST_F(Horarios, LaAccionDelMesQuitaConsignas) {
-  const SeriesCarga carga = Generar(0);
+  carga = Generar(0);
   // Enero, solo calefacción; febrero, las dos; julio, solo refrigeración; octubre, ninguna.
   const std::tuple<int, bool, bool> dias[] = {{31, true, false},   {32, true, true},
                                               {183, false, true},  {274, false, false},

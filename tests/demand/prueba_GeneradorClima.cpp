@@ -4,16 +4,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <map>
 
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
 #include "demand/ClimaOficial.h"
 #include "demand/PosicionSolar.h"
+#include "files/CarpetaTemporal.h"
 
 namespace novex {
 namespace {
@@ -240,9 +241,7 @@ TEST(SecuenciaDias, LaCurvaEstacionalConservaLasMediasYNoDaSaltos) {
     EXPECT_NEAR(Media(&curva[PrimerDia(m)], DiasDe(m)), medias[m], 1e-3);
   for (std::size_t d = 0; d < kDiasAno; ++d)
     EXPECT_LT(std::fabs(curva[(d + 1) % kDiasAno] - curva[d]), 0.6) << d;
-}
-
-TEST(SecuenciaDias, LasNormalesPropiasTienenMediaCeroYDesviacionUno) {
+  // Las normales propias tienen media 0 y desviación 1.
   Azar azar(1);
   std::vector<double> z(20000);
   for (double& x : z) x = azar.Normal();
@@ -251,55 +250,31 @@ TEST(SecuenciaDias, LasNormalesPropiasTienenMediaCeroYDesviacionUno) {
   EXPECT_NEAR(AutocorrelacionDe(z), 0, 0.03);
 }
 
-class PruebaEstadisticas : public ::testing::Test {
- protected:
-  void SetUp() override {
-    carpeta_ = std::filesystem::path(::testing::TempDir()) / "novex_prueba_estadisticas";
-    std::filesystem::remove_all(carpeta_);
-    std::filesystem::copy(std::filesystem::path(NOVEX_RAIZ_DATOS) / "clima", carpeta_);
+TEST(LeerEstadisticasClima, LosFicherosMalosDanSuFallo) {
+  const pruebas::CarpetaTemporal temporal;
+  const auto carpeta = temporal / "clima";
+  // Fichero, trozo que se cambia, lo que se pone y lo que dice el fallo.
+  const std::array<const char*, 4> casos[] = {
+      {"mensual.csv", "zona;mes", "zone;mes", "línea 1: la cabecera"},
+      {"mensual.csv", "alfa1c;2;", "alfa1c;1;", "línea 3: mes repetido"},
+      {"mensual.csv", "alfa1c;2;", "omega;2;", "la zona no existe"},
+      {"mensual.csv", "alfa1c;2;", "alfa1c;13;", "línea 3"},
+      {"mensual.csv", "alfa1c;2;28.3250;", "alfa1c;2;norte;", "norte"},
+      {"perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;directa", "perfil repetido"},
+      {"perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;otra", "variable desconocida"},
+      {"tendencia.csv", "1992;3;", "1992;4;", "fuera de orden"}};
+  for (const auto& [nombre, viejo, nuevo, fallo] : casos) {
+    SCOPED_TRACE(nuevo);
+    std::filesystem::remove_all(carpeta);
+    std::filesystem::copy(std::filesystem::path(NOVEX_RAIZ_DATOS) / "clima", carpeta);
+    std::string texto = LeerFichero(carpeta / nombre);
+    ASSERT_NE(texto.find(viejo), std::string::npos);
+    EscribirFichero(carpeta / nombre,
+                    texto.replace(texto.find(viejo), std::string(viejo).size(), nuevo));
+    EXPECT_THAT([&] { LeerEstadisticasClima(carpeta); },
+                ::testing::ThrowsMessage<ErrorFichero>(::testing::HasSubstr(fallo)));
   }
-  void TearDown() override { std::filesystem::remove_all(carpeta_); }
-
-  // Cambia un trozo de un fichero y devuelve el mensaje del fallo al leer.
-  std::string FalloAlCambiar(const char* nombre, const std::string& viejo,
-                             const std::string& nuevo) {
-    const std::string original = LeerFichero(carpeta_ / nombre);
-    std::string cambiado = original;
-    const std::size_t lugar = cambiado.find(viejo);
-    EXPECT_NE(lugar, std::string::npos) << viejo;
-    if (lugar == std::string::npos) return {};
-    cambiado.replace(lugar, viejo.size(), nuevo);
-    std::ofstream(carpeta_ / nombre, std::ios::binary) << cambiado;
-    std::string mensaje;
-    try {
-      LeerEstadisticasClima(carpeta_);
-    } catch (const ErrorFichero& error) {
-      mensaje = error.what();
-    }
-    std::ofstream(carpeta_ / nombre, std::ios::binary) << original;
-    return mensaje;
-  }
-
-  std::filesystem::path carpeta_;
-};
-
-TEST_F(PruebaEstadisticas, LosFicherosMalosDanSuFallo) {
-  using ::testing::HasSubstr;
-  EXPECT_THAT(FalloAlCambiar("mensual.csv", "zona;mes", "zone;mes"),
-              HasSubstr("línea 1: la cabecera"));
-  EXPECT_THAT(FalloAlCambiar("mensual.csv", "alfa1c;2;", "alfa1c;1;"),
-              HasSubstr("línea 3: mes repetido"));
-  EXPECT_THAT(FalloAlCambiar("mensual.csv", "alfa1c;2;", "omega;2;"),
-              HasSubstr("la zona no existe"));
-  EXPECT_THAT(FalloAlCambiar("mensual.csv", "alfa1c;2;", "alfa1c;13;"), HasSubstr("línea 3"));
-  EXPECT_THAT(FalloAlCambiar("mensual.csv", "alfa1c;2;28.3250;", "alfa1c;2;norte;"),
-              HasSubstr("norte"));
-  EXPECT_THAT(FalloAlCambiar("perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;directa"),
-              HasSubstr("perfil repetido"));
-  EXPECT_THAT(FalloAlCambiar("perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;otra"),
-              HasSubstr("variable desconocida"));
-  EXPECT_THAT(FalloAlCambiar("tendencia.csv", "1992;3;", "1992;4;"), HasSubstr("fuera de orden"));
-  EXPECT_THROW(LeerEstadisticasClima(carpeta_ / "no_existe"), ErrorFichero);
+  EXPECT_THROW(LeerEstadisticasClima(carpeta / "no_existe"), ErrorFichero);
 }
 
 // Los climas oficiales no se distribuyen: la comparación se hace donde están.

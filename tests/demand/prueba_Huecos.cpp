@@ -5,6 +5,7 @@
 #include "demand/ElementosHuecos.h"
 #include "demand/ElementosOpacos.h"
 #include "demand/FactoresHuecos.h"
+#include "model/Cambios.h"
 #include "model/Huecos.h"
 
 namespace novex {
@@ -82,9 +83,7 @@ class Elementos : public testing::Test {
     g.U_cristal_W_m2K = 3;
   }
   AjustesUso Ajustes(int perfil) {
-    DatosGenerales g = edificio.GetDatosGenerales();
-    g.PerfilUso = perfil;
-    edificio.SetDatosGenerales(g);
+    pruebas::CambiarGenerales(edificio, [&](DatosGenerales& g) { g.PerfilUso = perfil; });
     return ResolverAjustes(edificio);
   }
   float Valor(const std::string& clave, int h) const { return caso->valores.at(clave).valor[h]; }

@@ -7,6 +7,7 @@
 
 #include "base/Psicrometria.h"
 #include "demand/Clima.h"
+#include "model/Cambios.h"
 
 namespace novex {
 namespace {
@@ -94,9 +95,7 @@ TEST_F(Humedad, SeQuedaEntreLaSaturacionYLaBateria) {
 
 TEST_F(Humedad, ElHumectadorPoneElAguaQueFalta) {
   ajustes.hayHumectador = true;
-  DatosGenerales g = edificio.GetDatosGenerales();
-  g.HRmin = 50;
-  edificio.SetDatosGenerales(g);
+  pruebas::CambiarGenerales(edificio, [](DatosGenerales& g) { g.HRmin = 50; });
   const float W = Hora(2);
   EXPECT_NEAR(psicrometria::HumedadRelativa(22, W, static_cast<float>(Presion())), 50, 1e-2);
   // Con esa carga de más como fuente, el balance llega solo a la humedad pedida.

@@ -151,16 +151,14 @@ TEST(FraccionSinObstaculos, TapaLosHuecosDeAbajo) {
   EXPECT_NEAR(FraccionSinObstaculos(columna, sur, kLatitud, 12, 0, false), 1 - 4.0 / 12, 1e-5);
   EXPECT_EQ(FraccionSinObstaculos(columna, sur, kLatitud, 6, 0, true), 1.0F);
   EXPECT_EQ(FraccionSinObstaculos(columna, norte, kLatitud, 12, 0, false), 1.0F);
-}
-
-TEST(FraccionSinObstaculos, ElEsteYElOesteSoloCuentanEnVerano) {
-  ColumnaHuecos columna;
-  columna.Anadir(4);
-  columna.obstaculos[1] = {20, 10};  // al este: 20 - 0,788345 × 10 = 12,1 m tapan los cuatro
-  EXPECT_NEAR(FraccionSinObstaculos(columna, este, kLatitud, 6, 0, true), 0.5, 1e-5);
-  EXPECT_EQ(FraccionSinObstaculos(columna, este, kLatitud, 6, 0, false), 1.0F);
-  EXPECT_NEAR(FraccionSinObstaculos(columna, este, kLatitud, 6, 5, true), 0.75, 1e-5);
-  EXPECT_NEAR(FraccionSinObstaculos(columna, este, kLatitud, 6, 5, false), 0.75, 1e-5);
+  // El este y el oeste solo cuentan en verano.
+  ColumnaHuecos deEste;
+  deEste.Anadir(4);
+  deEste.obstaculos[1] = {20, 10};  // al este: 20 - 0,788345 × 10 = 12,1 m tapan los cuatro
+  EXPECT_NEAR(FraccionSinObstaculos(deEste, este, kLatitud, 6, 0, true), 0.5, 1e-5);
+  EXPECT_EQ(FraccionSinObstaculos(deEste, este, kLatitud, 6, 0, false), 1.0F);
+  EXPECT_NEAR(FraccionSinObstaculos(deEste, este, kLatitud, 6, 5, true), 0.75, 1e-5);
+  EXPECT_NEAR(FraccionSinObstaculos(deEste, este, kLatitud, 6, 5, false), 0.75, 1e-5);
 }
 
 SombraPropia Hueco(float distancia, float alero, float retranqueo) {

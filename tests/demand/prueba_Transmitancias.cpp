@@ -7,6 +7,7 @@
 #include "demand/Terreno.h"
 #include "demand/TransmitanciaTerreno.h"
 #include "demand/TransmitanciasEfectivas.h"
+#include "model/Cambios.h"
 #include "model/Edificio.h"
 
 namespace novex {
@@ -101,9 +102,8 @@ class Envolvente : public testing::Test {
     for (std::size_t i = 0; i < kRanuras; ++i) edificio.GetComposicion(i).U = 0.5F;
   }
   void Peliculas(const char* texto) {
-    Construccion c = edificio.GetConstruccion();
-    c.resistenciasSuperficiales = texto;
-    edificio.SetConstruccion(c);
+    pruebas::CambiarConstruccion(edificio,
+                                 [&](Construccion& c) { c.resistenciasSuperficiales = texto; });
   }
   std::array<float, kRanuras> U() const { return TransmitanciasEfectivas(edificio, forzados); }
 

@@ -16,6 +16,7 @@
 #include "base/NumeroTexto.h"
 #include "files/ProyectoFichero.h"
 #include "files/SeccionesProyecto.h"
+#include "model/Cambios.h"
 
 namespace novex {
 namespace {
@@ -158,11 +159,11 @@ TEST(IdaYVuelta, CadaAreaDelRecintoVuelve) {
     std::memcpy(bytes + i, &valor, sizeof valor);
   // La parte fuera del primer plano no existe al norte.
   for (PorSector& muro : r.Muro_ext_Var_m2) muro[norte] = 0;
-  Construccion k = gestor.Activo().GetConstruccion();
-  k.MurosExt = 5;
-  k.SuelosTerreno = k.CubiertasHz = k.CubiertasIncl = 3;
-  k.MurosOtros = k.SuelosOtros = k.CubiertasOtras = 2;
-  gestor.Activo().SetConstruccion(k);
+  pruebas::CambiarConstruccion(gestor.Activo(), [&](Construccion& k) {
+    k.MurosExt = 5;
+    k.SuelosTerreno = k.CubiertasHz = k.CubiertasIncl = 3;
+    k.MurosOtros = k.SuelosOtros = k.CubiertasOtras = 2;
+  });
   RegistroMensajes mensajes;
   AbrirProyecto(leido, GuardarProyecto(gestor, carpeta / "r.xml"), ModoApertura::Nuevo, mensajes);
   EXPECT_TRUE(leido.Activo().GetRecinto(0) == r);
@@ -223,9 +224,9 @@ TEST(IdaYVuelta, CadaUYCadaResultadoEstanEnSuElemento) {
       {"Caudal2Vent", &d.Caudal2Vent},
       {"PotenciaEspecificaVent", &d.PotenciaEspecificaVent}};
   for (float valor = 0; const auto& [etiqueta, campo] : resultados) *campo = valor += 1.25F;
-  DatosGenerales g = gestor.Activo().GetDatosGenerales();
-  g.TipoVentilacion2 = "Mecanica";  // para que la ventilación tenga caudal
-  gestor.Activo().SetDatosGenerales(g);
+  pruebas::CambiarGenerales(gestor.Activo(), [](DatosGenerales& g) {
+    g.TipoVentilacion2 = "Mecanica";  // para que la ventilación tenga caudal
+  });
   d.CargaInternaMedia = 7;
   const XMLNode caso = CasoEscrito(GuardarProyecto(gestor, carpeta / "u.xml", derivados));
   std::set<std::size_t> vistas;

@@ -84,9 +84,6 @@ TEST_F(ImagenesProyecto, LoQueNoSePuedeElegir) {
   lodepng_chunk_generate_crc(reinterpret_cast<unsigned char*>(enorme.data()) + 8);
   EXPECT_FALSE(Texto("enorme.png", enorme));
   EXPECT_THAT(Aviso(), HasSubstr("no se puede leer"));
-}
-
-TEST_F(ImagenesProyecto, ElTamanoMaximo) {
   EscribirFichero(carpeta / "g.jpg", "\xFF\xD8\xFF");
   fs::resize_file(carpeta / "g.jpg", kTamanoMaximoImagen);
   EXPECT_TRUE(TextoDeImagen(carpeta / "g.jpg", m));
@@ -146,9 +143,6 @@ TEST_F(ImagenesProyecto, SeEnsenaConLosMarcadoresEnterosOAMedias) {
     EXPECT_FALSE(DecodificarImagen(texto, m)) << texto;
     EXPECT_EQ(Aviso(), kSinMarca) << texto;
   }
-}
-
-TEST_F(ImagenesProyecto, UnBase64DanadoEsUnAviso) {
   for (const char* base64 : {"/9j/4", "/9j/4A", "/9j/4A=", "/9j/*4A==", "/9j/4A==AAAA",
                              "/9j/4A======", "====", "/9j/<4A==", " "}) {
     EXPECT_FALSE(DecodificarImagen(std::string("data:image/jpeg;base64,") + base64, m)) << base64;

@@ -7,6 +7,7 @@
 #include "CarpetaTemporal.h"
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
+#include "model/Cambios.h"
 
 namespace novex {
 namespace {
@@ -35,9 +36,8 @@ class ProyectoFichero : public ::testing::Test {
  protected:
   void SetUp() override {
     gestor_.NuevoProyecto();
-    DatosGenerales d = gestor_.Activo().GetDatosGenerales();
-    d.Edificio_Titulo = "Abierto";
-    gestor_.Activo().SetDatosGenerales(d);
+    pruebas::CambiarGenerales(gestor_.Activo(),
+                              [](DatosGenerales& d) { d.Edificio_Titulo = "Abierto"; });
   }
   void Mejoras(int n) {
     for (int i = 0; i < n; ++i) gestor_.AnadirMejora();
@@ -91,9 +91,6 @@ TEST_F(ProyectoFichero, MasDeSeisCasosNoAbrenNada) {
   ASSERT_EQ(mensajes_.recibidos.size(), 1U);
   EXPECT_EQ(mensajes_.recibidos[0],
             (Mensaje{kTitulo, "El nº total de edificios sería mayor de 6"}));
-}
-
-TEST_F(ProyectoFichero, AnadirLlenaLasMejorasLibres) {
   Mejoras(1);
   const ProyectoAbierto r = Abrir(Escribir(ProyectoDe(3)), ModoApertura::Anadir);
   EXPECT_EQ(r.casos, (std::vector<std::string_view>{"Mejora_2", "Mejora_3", "Mejora_4"}));
@@ -131,9 +128,6 @@ TEST_F(ProyectoFichero, UnaLecturaQueFallaDejaElProyectoComoEstaba) {
   EXPECT_EQ(Falla(Escribir("<otra/>")).codigo, 11);
   EXPECT_NE(std::string(Falla(Escribir(ProyectoDe(0))).what()).find("ningún edificio"),
             std::string::npos);
-}
-
-TEST_F(ProyectoFichero, LasVersionesYLosFormatosQueNoSeLeenLoDicen) {
   EXPECT_TRUE(Abrir(Escribir(ProyectoDe(1, "NOVEXPLUS v6.2"))).abierto);
   SetUp();
   for (const char* version : {"NOVEXPLUS v6.1", "NOVEX v2.0", "", "novex 2026.09.30"})
@@ -163,9 +157,6 @@ TEST_F(ProyectoFichero, ElCaminoAcabaEnXml) {
   EXPECT_EQ(guardado("caso.xml.bak"), "caso.xml");
   EXPECT_EQ(guardado("v1.2"), "v1.2.xml");
   EXPECT_EQ(guardado("casa.txt.v2.xml"), "casa.txt.v2.xml");
-}
-
-TEST_F(ProyectoFichero, GuardarNoCambiaElActivoYSusErroresTienenCodigo) {
   Mejoras(3);
   gestor_.ActivarCaso("Mejora_1");
   EXPECT_EQ(GuardarProyecto(gestor_, carpeta_ / "g.txt"), carpeta_ / "g.xml");
@@ -228,10 +219,7 @@ TEST_F(ProyectoFichero, UnFicheroCortadoNoSeAbreNiRompeNada) {
   const std::string_view utiles = std::string_view(entero).substr(0, entero.rfind('>'));
   for (std::size_t n = 0; n < utiles.size(); n += n + 300 < utiles.size() ? 877 : 1)
     Falla(Escribir(entero.substr(0, n)));
-}
-
-TEST_F(ProyectoFichero, UnFicheroEstropeadoSeAbreOFallaComoFichero) {
-  const std::string entero = LeerFichero(kEjemplo);
+  // Un fichero estropeado se abre o falla como fichero.
   constexpr std::string_view kBytes = "<>&;\"/=9-x\xE1\0 ";
   // Sucesión congruente: las mismas roturas en toda máquina.
   std::uint32_t azar = 12345;

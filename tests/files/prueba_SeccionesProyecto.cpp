@@ -5,6 +5,7 @@
 #include "base/ErrorFichero.h"
 #include "files/ComunidadAutonoma.h"
 #include "files/ProyectoFichero.h"
+#include "model/Cambios.h"
 
 namespace novex {
 namespace {
@@ -24,12 +25,6 @@ class SeccionesProyecto : public ::testing::Test {
  protected:
   void Leer(const std::string& contenido) { LeerCaso(Nodo(contenido), edificio_, mensajes_); }
   const DatosGenerales& Generales() const { return edificio_.GetDatosGenerales(); }
-  template <class Cambio>
-  void Cambiar(Cambio cambio) {
-    DatosGenerales d = edificio_.GetDatosGenerales();
-    cambio(d);
-    edificio_.SetDatosGenerales(d);
-  }
 
   Edificio edificio_;
   RegistroMensajes mensajes_;
@@ -193,7 +188,7 @@ TEST_F(SeccionesProyecto, LosSistemasConservanLoQueNoConocenYPierdenLosResultado
 }
 
 TEST_F(SeccionesProyecto, LosMemosYLasFechasSoloLlevanLoQueSeUsa) {
-  Cambiar([](DatosGenerales& d) {
+  pruebas::CambiarGenerales(edificio_, [](DatosGenerales& d) {
     d.Memo[0].assign(40, "");
     d.Memo[0][29] = "última";
     d.Memo[1].assign(60, "x");
@@ -212,7 +207,7 @@ TEST_F(SeccionesProyecto, LosMemosYLasFechasSoloLlevanLoQueSeUsa) {
 }
 
 TEST_F(SeccionesProyecto, LoDerivadoSigueAlPerfilYALaProteccion) {
-  Cambiar([](DatosGenerales& d) {
+  pruebas::CambiarGenerales(edificio_, [](DatosGenerales& d) {
     d.PerfilUso = 1;
     d.TipoVentilacion2 = "Mecanica";
     d.GradoProteccion = "Ninguna";
@@ -251,7 +246,7 @@ TEST_F(SeccionesProyecto, LoDerivadoSigueAlPerfilYALaProteccion) {
   i = 0;
   EXPECT_TRUE(instalaciones.childNamed("ConsumoVentilacionAExt", &i));
   EXPECT_TRUE(instalaciones.childNamed("ConsumoVentilacionAExt", &i));
-  Cambiar([](DatosGenerales& d) { d.PerfilUso = 3; });
+  pruebas::CambiarGenerales(edificio_, [](DatosGenerales& d) { d.PerfilUso = 3; });
   EXPECT_TRUE(Escrito(edificio_).childNamed("Instalaciones").childNamed("Caudal2Vent").isEmpty());
 }
 
@@ -266,9 +261,7 @@ TEST_F(SeccionesProyecto, ElModoDeTrabajoSigueAlTipoDeCertificado) {
     EXPECT_EQ(Generales().Modo_trabajo, modo) << tipo;
     EXPECT_EQ(Generales().Reforma, "Reforma <25%");
   }
-}
-
-TEST_F(SeccionesProyecto, ElEstudioSeLeeTambienDeLasMedidasDeMejora) {
+  // El estudio se lee también de las medidas de mejora.
   Leer(
       "<MedidasMejora><SinPosibilidadMejora>No</SinPosibilidadMejora>"
       "<m name=\"26\" precio=\"1500\" amortizacion=\"7\"/><m name=\"x\"/></MedidasMejora>");

@@ -20,25 +20,18 @@ const std::vector<std::pair<std::string, std::string>> kEjemplos = {{"", ""},
                                                                     {"fooba", "Zm9vYmE="},
                                                                     {"foobar", "Zm9vYmFy"}};
 
-TEST(Base64, LosEjemplosDeLaNormaEnLosDosSentidos) {
+TEST(Base64, LosEjemplosDeLaNormaTodosLosBytesYLoQueFalta) {
   for (const auto& [bytes, texto] : kEjemplos) {
     EXPECT_EQ(CodificarBase64(bytes), texto);
     std::string leido;
     EXPECT_EQ(DecodificarBase64(texto, leido), 0);
     EXPECT_EQ(leido, bytes);
   }
-}
-
-TEST(Base64, TodosLosBytesVuelvenIguales) {
   std::string bytes;
   for (int i = 0; i < 256; ++i) bytes += static_cast<char>(static_cast<unsigned char>(i));
   std::string leido;
   EXPECT_EQ(DecodificarBase64(CodificarBase64(bytes), leido), 0);
   EXPECT_EQ(leido, bytes);
-}
-
-TEST(Base64, SaltaLoQueNoEsDelAlfabetoYDiceLoQueFalta) {
-  std::string leido;
   EXPECT_EQ(DecodificarBase64("Zm9v\r\n Ym*Fy", leido), 0);
   EXPECT_EQ(leido, "foobar");
   EXPECT_EQ(DecodificarBase64("Zm9vYg", leido), 17);
@@ -57,15 +50,13 @@ constexpr auto kUtf8 = CodificacionXml::Utf8;
 constexpr auto kLegado = CodificacionXml::Legado;
 constexpr auto kGbk = CodificacionXml::GBK;
 
-TEST(CodificacionXml, LaMarcaMandaSobreLaDeclaracionYEstaSobreLosBytes) {
+TEST(CodificacionXml, LaMarcaLaDeclaracionYLosBytes) {
   EXPECT_EQ(Deducida("\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>", kLegado),
             kUtf8);
   EXPECT_EQ(Deducida("<a>veinticinco letras y más</a>", kLegado), kUtf8);
   EXPECT_EQ(Deducida("<a>veinticinco letras y m\xE1s</a>", kUtf8), kLegado);
   EXPECT_EQ(Deducida("<a encoding>veinticinco letras m\xE1s</a>", kUtf8), kLegado);
-}
-
-TEST(CodificacionXml, LaDeclaracionSeComparaPorSuComienzo) {
+  // La declaración se compara por su comienzo.
   const auto con = [](std::string_view nombre, std::string_view resto, CodificacionXml antes) {
     return Deducida(
         "<?xml version=\"1.0\" encoding=\"" + std::string(nombre) + "\"?>" + std::string(resto),
@@ -81,9 +72,7 @@ TEST(CodificacionXml, LaDeclaracionSeComparaPorSuComienzo) {
   EXPECT_EQ(con("big5", "<a/>", kUtf8), CodificacionXml::Big5);
   EXPECT_EQ(con("gbk", "<a/>", kUtf8), kGbk);
   EXPECT_EQ(con("ISO-8859-1", "<a/>", kUtf8), kLegado);
-}
-
-TEST(CodificacionXml, LoCortoYLoDe16BitsNoCambianElModo) {
+  // Lo corto y lo de 16 bits no cambian el modo.
   EXPECT_EQ(Deducida("<a>m\xE1s</a>", kUtf8), kUtf8);
   EXPECT_EQ(Deducida("", kGbk), kGbk);
   EXPECT_EQ(Deducida("\xFF\xFE<a>veinticinco letras y algo</a>", kGbk), kGbk);
@@ -119,9 +108,6 @@ TEST(EntidadesXml, CadaFilaSeEscribeYSeLee) {
     EXPECT_EQ(ToXMLStringTool::toXML(caracter), grafia);
     EXPECT_EQ(Decodificar(grafia), caracter);
   }
-}
-
-TEST(EntidadesXml, LoQueNoEstaEnLaTabla) {
   EXPECT_EQ(ToXMLStringTool::toXML("m² → 3 € /ö"), "m² → 3 € /ö");
   EXPECT_EQ(ToXMLStringTool::toXML(std::string("a\0b", 3)), "ab");
   EXPECT_EQ(ToXMLStringTool::toXML("Cubierta Térmica"), "Cubierta T&#233;rmica");

@@ -28,7 +28,7 @@ TEST(XMLNode, ElAsaVaciaSeLeeSinFallar) {
   EXPECT_EQ(otra.toString(), "");
 }
 
-TEST(XMLNode, UnNombrePuedeEmpezarPorCifra) {
+TEST(XMLNode, LoQueSeLeeDeUnElemento) {
   const std::string texto =
       "<a><1979-2013 x=\"<2\">t</1979-2013><9/><b><![CDATA[</3><4>]]></b><!-- <5 --></a>";
   const XMLNode a = Leer(texto);
@@ -37,67 +37,53 @@ TEST(XMLNode, UnNombrePuedeEmpezarPorCifra) {
   EXPECT_EQ(a.childAt(1).nameOf(), "9");
   EXPECT_EQ(a.childNamed("b").clearAt(0), "</3><4>");
   EXPECT_THROW(Leer("<a><1b></2b></a>"), ErrorFichero);
-}
-
-TEST(XMLNode, UnAtributoVacioNoEsUnAtributoAusente) {
-  const XMLNode a = Leer("<a name=\"\" otro='1' name=\"2\"/>");
-  ASSERT_TRUE(a.attributeValue("name"));
-  EXPECT_EQ(*a.attributeValue("name"), "");
-  EXPECT_FALSE(a.hasAttribute("nombre"));
-  EXPECT_EQ(a.attributeCount(), 3U);
-  EXPECT_EQ(a.attributeAt(1)->name, "otro");
-  EXPECT_EQ(a.attributeAt(1)->value, "1");
-  EXPECT_FALSE(a.attributeAt(3));
+  // Un atributo vacío no es un atributo ausente.
+  const XMLNode atributos = Leer("<a name=\"\" otro='1' name=\"2\"/>");
+  ASSERT_TRUE(atributos.attributeValue("name"));
+  EXPECT_EQ(*atributos.attributeValue("name"), "");
+  EXPECT_FALSE(atributos.hasAttribute("nombre"));
+  EXPECT_EQ(atributos.attributeCount(), 3U);
+  EXPECT_EQ(atributos.attributeAt(1)->name, "otro");
+  EXPECT_EQ(atributos.attributeAt(1)->value, "1");
+  EXPECT_FALSE(atributos.attributeAt(3));
   std::size_t i = 0;
-  EXPECT_EQ(*a.attributeValue("NAME", &i), "");
-  EXPECT_EQ(*a.attributeValue("NAME", &i), "2");
-  EXPECT_FALSE(a.attributeValue("NAME", &i));
-}
-
-TEST(XMLNode, ElRecorridoPorNombrePasaPorTodosYNoMiraMayusculas) {
-  const XMLNode a = Leer("<a><b>x</b><c/><B>y</B></a>");
-  std::size_t i = 0;
-  EXPECT_EQ(*a.childNamed("b", &i).textAt(0), "x");
-  EXPECT_EQ(*a.childNamed("b", &i).textAt(0), "y");
+  EXPECT_EQ(*atributos.attributeValue("NAME", &i), "");
+  EXPECT_EQ(*atributos.attributeValue("NAME", &i), "2");
+  EXPECT_FALSE(atributos.attributeValue("NAME", &i));
+  const XMLNode nombres = Leer("<a><b>x</b><c/><B>y</B></a>");
+  i = 0;
+  EXPECT_EQ(*nombres.childNamed("b", &i).textAt(0), "x");
+  EXPECT_EQ(*nombres.childNamed("b", &i).textAt(0), "y");
   EXPECT_EQ(i, 3U);
-  EXPECT_TRUE(a.childNamed("b", &i).isEmpty());
+  EXPECT_TRUE(nombres.childNamed("b", &i).isEmpty());
   EXPECT_EQ(i, 3U);
-  EXPECT_EQ(*a.childNamed("C").nameOf(), "c");
-  EXPECT_EQ(*a.childAt(2).nameOf(), "B");
-  EXPECT_TRUE(a.childAt(3).isEmpty());
-}
-
-TEST(XMLNode, LosTextosPierdenLosBlancosYUnenSusTrozos) {
-  const XMLNode a = Leer(
+  EXPECT_EQ(*nombres.childNamed("C").nameOf(), "c");
+  EXPECT_EQ(*nombres.childAt(2).nameOf(), "B");
+  EXPECT_TRUE(nombres.childAt(3).isEmpty());
+  // Los textos pierden los blancos y unen sus trozos.
+  const XMLNode textos = Leer(
       "<a>\n\t <b> dos palabras \r\n</b> \t <c>uno <!-- x --> <!-- y --> dos</c>"
       "<d> <!-- nada --> </d><e>1<f/> 2 </e><g>&#32;z&#32;</g></a>");
-  EXPECT_EQ(a.textCount(), 0U);
-  EXPECT_EQ(*a.childNamed("b").textAt(0), "dos palabras");
-  EXPECT_EQ(a.childNamed("c").textCount(), 1U);
-  EXPECT_EQ(*a.childNamed("c").textAt(0), "uno   dos");
-  EXPECT_EQ(a.childNamed("d").textCount(), 0U);
-  EXPECT_EQ(a.childNamed("e").textCount(), 2U);
-  EXPECT_EQ(*a.childNamed("e").textAt(1), "2");
-  EXPECT_EQ(*a.childNamed("g").textAt(0), " z ");
-}
-
-TEST(XMLNode, UnBloqueAcabaEnElPrimerCierre) {
-  const XMLNode a = Leer("<a><![CDATA[<![CDATA[x&amp;<y>]]>]]></a>");
-  ASSERT_EQ(a.clearCount(), 1U);
-  EXPECT_EQ(*a.clearAt(0), "<![CDATA[x&amp;<y>");
-  EXPECT_EQ(*a.textAt(0), "]]>");
-}
-
-TEST(XMLNode, LosAcentosEnEntidadesEnUtf8YEnLatin1SonLosMismos) {
-  for (const char* texto : {"<a name=\"T&#233;rmica\">&#xF1;</a>", "<a name=\"Térmica\">ñ</a>",
-                            "<a name=\"T\xE9rmica\">\xF1</a>"}) {
-    const XMLNode a = Leer(texto);
-    EXPECT_EQ(*a.attributeValue("name"), "Térmica") << texto;
-    EXPECT_EQ(*a.textAt(0), "ñ") << texto;
+  EXPECT_EQ(textos.textCount(), 0U);
+  EXPECT_EQ(*textos.childNamed("b").textAt(0), "dos palabras");
+  EXPECT_EQ(textos.childNamed("c").textCount(), 1U);
+  EXPECT_EQ(*textos.childNamed("c").textAt(0), "uno   dos");
+  EXPECT_EQ(textos.childNamed("d").textCount(), 0U);
+  EXPECT_EQ(textos.childNamed("e").textCount(), 2U);
+  EXPECT_EQ(*textos.childNamed("e").textAt(1), "2");
+  EXPECT_EQ(*textos.childNamed("g").textAt(0), " z ");
+  // Un bloque acaba en el primer cierre.
+  const XMLNode bloque = Leer("<a><![CDATA[<![CDATA[x&amp;<y>]]>]]></a>");
+  ASSERT_EQ(bloque.clearCount(), 1U);
+  EXPECT_EQ(*bloque.clearAt(0), "<![CDATA[x&amp;<y>");
+  EXPECT_EQ(*bloque.textAt(0), "]]>");
+  for (const char* escrito : {"<a name=\"T&#233;rmica\">&#xF1;</a>", "<a name=\"Térmica\">ñ</a>",
+                              "<a name=\"T\xE9rmica\">\xF1</a>"}) {
+    const XMLNode acentos = Leer(escrito);
+    EXPECT_EQ(*acentos.attributeValue("name"), "Térmica") << escrito;
+    EXPECT_EQ(*acentos.textAt(0), "ñ") << escrito;
   }
-}
-
-TEST(XMLNode, LaRaizSeBuscaEnElDocumentoYEnSusHijos) {
+  // La raíz se busca en el documento y en sus hijos.
   EXPECT_EQ(*Leer("<?xml version=\"1.0\"?><A/>").nameOf(), "A");
   EXPECT_EQ(*Leer("<x><b/><a n=\"1\"/></x>").attributeValue("n"), "1");
   EXPECT_EQ(*Leer("<x/>", "").nameOf(), "x");
@@ -123,22 +109,18 @@ TEST(XMLNode, ElTextoEscritoSigueElOrdenYLosNiveles) {
             "</a>\n");
   EXPECT_EQ(d.toString(false), "<d>uno<e/>dos</d>");
   EXPECT_EQ(*Leer(cima.toString()).childAt(0).attributeValue("name"), "1 < 2 & \"á\" 5%");
-}
-
-TEST(XMLNode, CambiarElBloqueSoloTocaElPrimero) {
-  XMLNode a = XMLNode::createTop("x").appendChild("a");
-  a.updateClear("uno");
-  a.appendClear("dos");
-  a.updateClear("tres");
-  EXPECT_EQ(a.toString(false), "<a><![CDATA[tres]]><![CDATA[dos]]></a>");
-}
-
-TEST(XMLNode, UnHijoViveAunqueSuPadreNoTengaAsa) {
+  // Cambiar el bloque solo toca el primero.
+  XMLNode bloques = XMLNode::createTop("x").appendChild("a");
+  bloques.updateClear("uno");
+  bloques.appendClear("dos");
+  bloques.updateClear("tres");
+  EXPECT_EQ(bloques.toString(false), "<a><![CDATA[tres]]><![CDATA[dos]]></a>");
+  // Un hijo vive aunque su padre no tenga asa.
   XMLNode b;
   {
-    const XMLNode a =
+    const XMLNode padre =
         Leer("<a><b name=\"un texto más largo que una cadena corta &amp; más\"/></a>");
-    b = a.childAt(0);
+    b = padre.childAt(0);
   }
   EXPECT_EQ(*b.attributeValue("name"), "un texto más largo que una cadena corta & más");
 }
@@ -163,10 +145,6 @@ TEST(XMLNode, LaCabeceraDependeDelModoYDeLaDeclaracion) {
   EXPECT_EQ(a.saveToFile(carpeta / "no/existe/x.xml"), 15);
   std::filesystem::create_directory(carpeta / "carpeta.xml");
   EXPECT_EQ(a.saveToFile(carpeta / "carpeta.xml"), 15);
-}
-
-TEST(XMLNode, LaLecturaFijaElModo) {
-  const pruebas::CarpetaTemporal carpeta;
   ModoCodificacion modo;
   EscribirFichero(carpeta / "l.xml", "<a>sin declaraci\xF3n y en Latin-1</a>");
   XMLNode::loadFile(carpeta / "l.xml", "a", modo);
@@ -216,9 +194,6 @@ TEST(ErroresXml, CadaFalloDaSuCodigoConLineaYColumna) {
   Espera("<a>\n\n  z &#256;</a>", 13, 3, 5);
   Espera(std::string("<a>\n\0</a>", 9), 14, 2, 1);
   Espera("\xFF\xFE<a/>", 14, 1, 1);
-}
-
-TEST(ErroresXml, ElMensajeLlevaElCaminoElTextoYElLugar) {
   EXPECT_EQ(FalloDe("<a>\n  <b></c></a>").mensaje,
             "XML Parsing error inside file '/tmp/p.xml'.\nError: Unmatched end tag\n"
             "At line 2, column 8.\n");
@@ -261,9 +236,7 @@ TEST(ErroresXml, ElAnidamientoYElNumeroDeElementosTienenLimite) {
   texto.reserve(9'000'000);
   for (std::size_t i = 0; i < XMLNode::kMaximoMarcas; ++i) texto += "<b/>";
   EXPECT_EQ(FalloDe(texto + "</a>").codigo, 8);
-}
-
-TEST(ErroresXml, TodoTrozoDeUnDocumentoFallaSinRomperNada) {
+  // Todo trozo de un documento falla sin romper nada.
   const std::string entero =
       "<?xml version=\"1.0\"?>\n<a n=\"1\">\n<!-- c --><b "
       "m='&amp;x'>t&#233;</b><![CDATA[z]]><c/></a>";

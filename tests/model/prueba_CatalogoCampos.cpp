@@ -39,7 +39,7 @@ void ExpectAviso(std::string_view texto, std::string_view clave, float esperado,
   EXPECT_EQ(c.mensajes[0].titulo, titulo) << clave << " " << texto;
 }
 
-TEST(ComprobarValor, LosLimitesEntranEnElIntervalo) {
+TEST(ComprobarValor, LosLimitesYLasFormasDeEscribirElNumero) {
   ExpectSinAviso("-1", "RatioVent", -1);
   ExpectAviso("-2", "RatioVent", 1000, kMinimo);
   ExpectSinAviso("1000000", "RatioVent", 1000000);
@@ -53,9 +53,6 @@ TEST(ComprobarValor, LosLimitesEntranEnElIntervalo) {
   ExpectAviso("0", "K", 1, kMinimo);
   ExpectSinAviso("1.2", "RendCale", 1.2F);
   ExpectSinAviso("9999", "Espesor", 9999);
-}
-
-TEST(ComprobarValor, FormasDeEscribirElNumero) {
   ExpectSinAviso("1,5", "Renov", 1.5F);
   ExpectSinAviso(" 7", "Entero1", 7);
   ExpectSinAviso("3.0", "Entero1", 3);
@@ -73,9 +70,7 @@ TEST(ComprobarValor, TextosQueNoSonNumero) {
     ExpectAviso(texto, "Renov", 0.5F, kLetraNoReal);
     ExpectAviso(texto, "Cota", 0, kLetraNoEntero);
   }
-}
-
-TEST(ComprobarValor, UnCeroEnCualquierFormaNoDaAviso) {
+  // Un cero en cualquier forma no da aviso.
   for (const char* texto : {"0", "00", "0.", ".0", "0.0", "0,00", "-0", "-0.00", "+0.0", " 0 ",
                             "0.000000000", "0.0000000000", "-0.00000000000000000000"}) {
     for (const char* clave : {"Cualquiera", "Area", "NVentanas"}) {
@@ -93,9 +88,7 @@ TEST(ComprobarValor, LaSustitucionPuedeSalirseDeSusLimites) {
   ExpectAviso("0", "Salto", 80, kMinimo);
   ExpectAviso("21", "Salto", 80, kMaximo);
   ExpectSinAviso("20", "Salto", 20);
-}
-
-TEST(ComprobarValor, CortadoYFueraDeLimitesSonDosAvisos) {
+  // Cortado y fuera de límites son dos avisos.
   const Comprobado c = Comprobar("30.5", "Salto");
   EXPECT_EQ(c.valor, 80);
   ASSERT_EQ(c.mensajes.size(), 2U);

@@ -8,6 +8,8 @@
 #include <stdexcept>
 #include <vector>
 
+#include "model/Cambios.h"
+
 namespace novex {
 namespace {
 
@@ -71,13 +73,11 @@ TEST(Edificio, BorrarDeUnaListaQuitaEseElementoYNadaFueraDeElla) {
   ASSERT_EQ(e.NumeroHuecos(), 2U);
   EXPECT_EQ(e.GetHuecos(0).Nombre_hueco, "Grupo_1");
   EXPECT_EQ(e.GetHuecos(1).Nombre_hueco, "Grupo_3");
-  EXPECT_THROW(e.BorrarHuecos(2), std::out_of_range);
-  EXPECT_THROW(e.GetHuecos(2), std::out_of_range);
-  EXPECT_THROW(e.BorrarSistema(0), std::out_of_range);
-  EXPECT_THROW(e.GetSistema(0), std::out_of_range);
-  EXPECT_THROW(e.BorrarRecinto(1), std::out_of_range);
-  EXPECT_THROW(e.GetRecinto(1), std::out_of_range);
-  EXPECT_THROW(e.GetMaterial(0), std::out_of_range);
+  const std::function<void()> fuera[] = {[&] { e.BorrarHuecos(2); },  [&] { e.GetHuecos(2); },
+                                         [&] { e.BorrarSistema(0); }, [&] { e.GetSistema(0); },
+                                         [&] { e.BorrarRecinto(1); }, [&] { e.GetRecinto(1); },
+                                         [&] { e.GetMaterial(0); }};
+  for (const auto& hacer : fuera) EXPECT_THROW(hacer(), std::out_of_range);
   EXPECT_EQ(e.NumeroHuecos(), 2U);
 
   e.AnadirSistema(Sistema("S1"));
@@ -110,20 +110,18 @@ TEST(Almacen, SeComparteElMaterialIgualYSeCuentanSusUsos) {
   EXPECT_EQ(e.IndiceMaterial(&e.GetMaterial(3)), 3U);
   const material ajeno = e.GetMaterial(3);
   EXPECT_EQ(e.IndiceMaterial(&ajeno), e.NumeroMateriales());
-}
-
-TEST(Almacen, SinDestinoNoCuentaComoUso) {
-  Edificio e;
+  // Sin destino no cuenta como uso.
+  Edificio otro;
   material traeUsos = Capa("Yeso", 0.015F, 0.4F);
   traeUsos.usos = 7;
-  EXPECT_EQ(e.AnadirMaterial(traeUsos), 0U);
-  EXPECT_EQ(e.GetMaterial(0).usos, 0);
-  e.AnadirCapa(TechoExt1, 0);
-  EXPECT_EQ(e.GetMaterial(0).usos, 1);
-  EXPECT_EQ(e.GetComposicion(TechoExt1).capas.front(), &e.GetMaterial(0));
-  EXPECT_THROW(e.AnadirCapa(TechoExt1, 1), std::out_of_range);
-  EXPECT_THROW(e.AnadirCapa(52, 0), std::out_of_range);
-  EXPECT_EQ(e.GetMaterial(0).usos, 1);
+  EXPECT_EQ(otro.AnadirMaterial(traeUsos), 0U);
+  EXPECT_EQ(otro.GetMaterial(0).usos, 0);
+  otro.AnadirCapa(TechoExt1, 0);
+  EXPECT_EQ(otro.GetMaterial(0).usos, 1);
+  EXPECT_EQ(otro.GetComposicion(TechoExt1).capas.front(), &otro.GetMaterial(0));
+  EXPECT_THROW(otro.AnadirCapa(TechoExt1, 1), std::out_of_range);
+  EXPECT_THROW(otro.AnadirCapa(52, 0), std::out_of_range);
+  EXPECT_EQ(otro.GetMaterial(0).usos, 1);
 }
 
 TEST(Almacen, LimpiarQuitaSoloLoQueNadieUsa) {
@@ -234,9 +232,7 @@ TEST(MismosRegistros, CualquierCambioGuardadoLosHaceDistintos) {
         x.SetLocalizacion(l);
       },
       [](Edificio& x) {
-        DatosGenerales g = x.GetDatosGenerales();
-        g.perfiles.tabla[CCAC][8][24] = 1;
-        x.SetDatosGenerales(g);
+        pruebas::CambiarGenerales(x, [](DatosGenerales& g) { g.perfiles.tabla[CCAC][8][24] = 1; });
       },
       [](Edificio& x) {
         Construccion c;

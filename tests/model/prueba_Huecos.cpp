@@ -26,7 +26,7 @@ TEST(Huecos, AnadirYQuitarPorElFinalDeLaColumna) {
   EXPECT_TRUE(columna.recintos.empty());
 }
 
-TEST(Huecos, ElTotalCuentaLasOchoColumnas) {
+TEST(Huecos, ElTotalYLasDireccionesDeObstaculoDeLasColumnas) {
   Huecos grupo;
   std::size_t esperado = 0;
   for (std::size_t i = 0; i < 8; ++i) {
@@ -34,9 +34,6 @@ TEST(Huecos, ElTotalCuentaLasOchoColumnas) {
     esperado += i + 1;
   }
   EXPECT_EQ(grupo.NumeroTotal(), esperado);  // 36
-}
-
-TEST(Huecos, DireccionesDeObstaculoDeCadaColumna) {
   const std::vector<std::vector<Sector>> esperadas = {{},
                                                       {oeste, sur_oeste},
                                                       {oeste, sur_oeste, sur},
@@ -66,22 +63,16 @@ Huecos Ventana() {
 }
 
 // Marco 0,36 m2, vidrio 1,44 m2 y 4,830 m de borde a 0,05 W/mK.
-TEST(UVentana, VidrioMarcoYBorde) {
+TEST(UVentana, VidrioMarcoBordeCajaYCasosExtremos) {
   EXPECT_NEAR(UVentana(Ventana(), 0, 0), 3.214164, 1e-5);
   EXPECT_NEAR(UVentana(Ventana(), 1.8F, 1.2F), (0.36 * 1.2 + 1.44 * 1.8 + 0.2414953) / 1.8, 1e-5);
-}
-
-TEST(UVentana, LaCajaDePersianaCuentaSiExiste) {
   Huecos g = Ventana();
   g.Altura_Caja_de_persiana_m = 0.25F;
   g.U_Caja_de_persiana_W_m2K = 1.8F;
   EXPECT_NEAR(UVentana(g, 0, 0), 3.214164, 1e-5);
   g.Existe_Caja_persiana = 0;
   EXPECT_NEAR(UVentana(g, 0, 0), 2.970343, 1e-5);
-}
-
-TEST(UVentana, CasosExtremos) {
-  Huecos g = Ventana();
+  g = Ventana();
   g.Fraccion_marco_tanto_por_cien = 100;  // sin vidrio no hay borde
   EXPECT_NEAR(UVentana(g, 0, 0), 2.2, 1e-5);
   g = Ventana();

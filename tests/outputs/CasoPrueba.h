@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Tabla.h"
+#include "model/Cambios.h"
 #include "outputs/CasoCalculado.h"
 #include "rating/Escala.h"
 
@@ -28,9 +29,7 @@ struct CasoDePrueba {
   ResultadosCaso& Resultados() { return resultado->resultados; }
   template <class Cambio>
   void Generales(Cambio cambio) {
-    DatosGenerales generales = edificio->GetDatosGenerales();
-    cambio(generales);
-    edificio->SetDatosGenerales(std::move(generales));
+    CambiarGenerales(*edificio, cambio);
   }
   void PonerSimulacionLibre() {
     Generales([](DatosGenerales& g) { g.Tiposimulacion = "Simulacion"; });
@@ -57,9 +56,7 @@ struct CasoDePrueba {
       g.PerfilUso = perfilUso;
       g.Modo_trabajo = modo;
     });
-    Localizacion lugar = edificio->GetLocalizacion();
-    lugar.ZonaClimatica = zona;
-    edificio->SetLocalizacion(lugar);
+    pruebas::CambiarLugar(*edificio, [&](Localizacion& lugar) { lugar.ZonaClimatica = zona; });
   }
 };
 

@@ -62,15 +62,12 @@ TEST_F(CasosTest, GraficosYLetras) {
   EXPECT_EQ(CompararCasos(Casos(), kFinal, TipoValor::Absoluto)[0].grafico.titulo,
             "Energía final Calefacción");
   EXPECT_TRUE(CompararCasos({}, kFinal, TipoValor::Absoluto).empty());
-}
-
-TEST_F(CasosTest, AhorroSobreLaBase) {
-  const auto graficos = CompararCasos(Casos(), kFinal, TipoValor::Ahorro);
-  EXPECT_EQ(graficos[0].grafico.ejeY, "Porcentaje ahorro");
-  EXPECT_EQ(graficos[0].grafico.series[0].valores, (std::vector<double>{0, 25}));
+  const auto ahorros = CompararCasos(Casos(), kFinal, TipoValor::Ahorro);
+  EXPECT_EQ(ahorros[0].grafico.ejeY, "Porcentaje ahorro");
+  EXPECT_EQ(ahorros[0].grafico.series[0].valores, (std::vector<double>{0, 25}));
   // Sin base no hay ahorro.
-  EXPECT_EQ(graficos[2].grafico.series[0].valores, (std::vector<double>{0, 0}));
-  EXPECT_TRUE(graficos[0].letras.empty());
+  EXPECT_EQ(ahorros[2].grafico.series[0].valores, (std::vector<double>{0, 0}));
+  EXPECT_TRUE(ahorros[0].letras.empty());
   // En vivienda no hay gráfico de iluminación.
   PonerZona(0, "D3");
   EXPECT_EQ(CompararCasos(Casos(), kFinal, TipoValor::Ahorro).size(), 5U);

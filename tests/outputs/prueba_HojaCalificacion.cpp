@@ -113,9 +113,6 @@ TEST_F(HojaTest, HorasFueraDeConsigna) {
   CasoCalculado mejora = caso.MostrarCalificado();
   mejora.nombre = "Mejora_1";
   EXPECT_EQ(TextoHorasFuera(mejora).texto, "");
-}
-
-TEST_F(HojaTest, ServiciosConEquipo) {
   const auto avisos = [this] {
     const auto filas = Hoja().servicios;
     return Textos{filas[0].aviso, filas[1].aviso, filas[2].aviso};

@@ -33,9 +33,6 @@ TEST_F(JsonResultadosTest, CincoCifrasSignificativas) {
   // Un cero no lleva signo.
   anual[kFinal][0] = -0.0F;
   EXPECT_EQ(Caso().at("energia_final").at("acs").dump(), "0.0");
-}
-
-TEST_F(JsonResultadosTest, CadaUnidadYServicioEnSuSitio) {
   for (std::size_t s = 0; s < kServicios; ++s)
     for (std::size_t u = 0; u < kUnidadesEnergia; ++u)
       caso.Resultados().servicio[s].porUnidad[u][0] = static_cast<float>(10 * s + u);

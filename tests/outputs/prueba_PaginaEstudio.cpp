@@ -16,16 +16,13 @@ ResultadoMedida Medida(int codigo, float calefaccion, float refrigeracion, float
   return m;
 }
 
-TEST(PaginaEstudio, DatosDeCadaPagina) {
+TEST(PaginaEstudio, DatosCifrasAhorrosLetrasYSinMedir) {
   EXPECT_EQ(DatosDePagina(PaginaMedida::Demanda).size(), 10U);
   const auto equipos = DatosDePagina(PaginaMedida::Equipos);
   ASSERT_EQ(equipos.size(), 8U);
   EXPECT_EQ(NombreDato(equipos[0], PaginaMedida::Equipos), "Energ.final (kWh/m2 año)");
   EXPECT_EQ(NombreDato(equipos[3], PaginaMedida::Equipos), "Ahorros energ.prim.No renov %");
   EXPECT_EQ(NombreDato(equipos[3], PaginaMedida::Demanda), "Ahorros energ.prim.No renov%");
-}
-
-TEST(PaginaEstudio, CifrasAhorrosLetrasYSinMedir) {
   const ResultadoMedida base = Medida(kCodigoBase, 60, 20, 10);
   const ResultadoMedida m = Medida(3, 40, 20, 12);
   EXPECT_EQ(TextoDato(DatoEstudio::Demanda, &m, base), "60.00");

@@ -82,7 +82,7 @@ void Poner(Serie& serie, int h, float valor) {
   serie.valores.at(static_cast<std::size_t>(h - 1)) = valor;
 }
 
-TEST(PeriodoSerie, LimitesDelCalendario) {
+TEST(PeriodoSerie, LimitesDelCalendarioYRotulos) {
   const auto horas = [](PeriodoSerie p) { return HorasDelPeriodo(p).valor; };
   EXPECT_EQ(horas({}), (RangoHoras{1, 8760}));
   EXPECT_EQ(horas({.tipo = Mensual, .mes = 12}), (RangoHoras{8017, 8760}));
@@ -96,9 +96,6 @@ TEST(PeriodoSerie, LimitesDelCalendario) {
     EXPECT_FALSE(febrero.valor) << dia;
     EXPECT_EQ(febrero.aviso.texto, "Ese día no existe");
   }
-}
-
-TEST(PeriodoSerie, Rotulos) {
   const auto semanas = NombresSemanas();
   ASSERT_EQ(semanas.size(), 52U);
   EXPECT_EQ(semanas.front(), "1 enero al 7 enero");
@@ -157,9 +154,6 @@ TEST(LineaEstadistica, ConsignasYHoras) {
   EXPECT_EQ(LineaEstadistica(horas, {}, 100), "   Nh FreeCooling= 3 h");
   horas.codigo = "HBP";
   EXPECT_EQ(LineaEstadistica(horas, {.tipo = Mensual, .mes = 1}, 100), "   Nh ByPass= 2 h");
-}
-
-TEST(LineaEstadistica, LasEnergiasSuman) {
   Serie radiacion = Llana("RTS", "kWh/m2", ClaseSerie::Radiacion, 0);
   Poner(radiacion, 745, 0.5F);   // 1 h del 1 de febrero
   Poner(radiacion, 800, 0.75F);  // 800 - 744 = 56: 8 h del 3 de febrero
@@ -178,9 +172,6 @@ TEST(LineaEstadistica, LasEnergiasSuman) {
   EXPECT_EQ(LineaEstadistica(demanda, {.tipo = Diario, .mes = 1, .dia = 2}, 0),
             "Maximo=0.000 kWh  (6 h 2 Enero)   Minimo=-2.000 kWh  (1 h 2 Enero)  "
             "Suma= -46.00 kWh/dia");
-}
-
-TEST(LineaEstadistica, CaudalesYRendimientos) {
   EXPECT_EQ(LineaEstadistica(Llana("CAE", "m3/h", ClaseSerie::Otra, 300), {}, 100),
             "Maximo=300.00 m3/h  (1 h 1 Enero)   Minimo=300.00 m3/h  (1 h 1 Enero)  "
             "Medio=300.00 m3/h");
@@ -252,26 +243,23 @@ TEST(GraficosSeries, UnaContraOtra) {
   EXPECT_EQ(g.valor->series[0].valores.front(), 75);
   EXPECT_EQ(g.valor->ejeX, "X");
   EXPECT_EQ(g.valor->ejeY, "Y");
-}
-
-TEST(GraficosSeries, CadaEjeTieneUnaUnidad) {
   const CasoDePrueba caso;
   const SeleccionEjes seleccion = {{"TSE", "FIE", "Ninguno", "TSL", "WE"},
                                    {"Ninguno", "DCAL", "TXX", "CV", ""}};
-  const auto g = GraficoMas(*caso.edificio, *caso.resultado, seleccion, {});
-  ASSERT_TRUE(g.valor);
-  ASSERT_EQ(g.valor->izquierda.series.size(), 2U);
-  EXPECT_EQ(g.valor->izquierda.series[1].nombre, "Temp.seca local TSL(ºC)");
-  EXPECT_EQ(g.valor->izquierda.ejeY, "ºC");
+  const auto ejes = GraficoMas(*caso.edificio, *caso.resultado, seleccion, {});
+  ASSERT_TRUE(ejes.valor);
+  ASSERT_EQ(ejes.valor->izquierda.series.size(), 2U);
+  EXPECT_EQ(ejes.valor->izquierda.series[1].nombre, "Temp.seca local TSL(ºC)");
+  EXPECT_EQ(ejes.valor->izquierda.ejeY, "ºC");
   // Los Wh no van con los kWh.
-  ASSERT_EQ(g.valor->derecha.series.size(), 1U);
-  EXPECT_EQ(g.valor->derecha.ejeY, "kWh");
-  ASSERT_EQ(g.valor->avisos.size(), 3U);
+  ASSERT_EQ(ejes.valor->derecha.series.size(), 1U);
+  EXPECT_EQ(ejes.valor->derecha.ejeY, "kWh");
+  ASSERT_EQ(ejes.valor->avisos.size(), 3U);
   const Mensaje unidades{"AVISO",
                          "En cada eje solo se representan variables con las mismas unidades"};
-  EXPECT_EQ(g.valor->avisos[0], unidades);
-  EXPECT_NE(g.valor->avisos[1].texto.find("TXX"), std::string::npos);
-  EXPECT_EQ(g.valor->avisos[2], unidades);
+  EXPECT_EQ(ejes.valor->avisos[0], unidades);
+  EXPECT_NE(ejes.valor->avisos[1].texto.find("TXX"), std::string::npos);
+  EXPECT_EQ(ejes.valor->avisos[2], unidades);
 }
 
 }  // namespace

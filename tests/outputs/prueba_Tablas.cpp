@@ -28,12 +28,9 @@ TEST(TextoTabla, AlineaPorLoQueSeVeYNoPorLosBytes) {
             "  b        -2.0\n"
             "  c         n/d\n"
             "  nota\n");
-}
-
-TEST(TextoTabla, FilasCortasYSinCabecera) {
-  Tabla tabla;
-  tabla.filas = {{"a"}, {"bb", "", "fin"}, {}};
-  EXPECT_EQ(TextoTabla(tabla),
+  Tabla corta;
+  corta.filas = {{"a"}, {"bb", "", "fin"}, {}};
+  EXPECT_EQ(TextoTabla(corta),
             "  a\n"
             "  bb    fin\n"
             "\n");
@@ -41,7 +38,7 @@ TEST(TextoTabla, FilasCortasYSinCabecera) {
   EXPECT_EQ(AnchuraTexto("ºC─"), 3U);
 }
 
-TEST(TablaProyecto, SumaLasAreasDeLosElementosQueHay) {
+TEST(TablaProyecto, LoQueHayEnElProyecto) {
   Edificio edificio;
   Recinto& r = edificio.GetRecinto(0);
   r.Muro_ext_m2[1] = {10, 0, 0, 20, 0, 0};
@@ -60,10 +57,6 @@ TEST(TablaProyecto, SumaLasAreasDeLosElementosQueHay) {
   EXPECT_EQ(tabla.filas[2][0].texto, "Suelo al terreno 3");
   EXPECT_EQ(tabla.filas[2][2].numero, 0.5);
   EXPECT_EQ(tabla.filas[3][1].numero, 120.0);
-}
-
-TEST(TablaProyecto, HuecosPorOrientacion) {
-  Edificio edificio;
   Huecos& grupo = edificio.GetHuecos(0);
   grupo.Ancho_m = 1.5F;
   grupo.Alto_m = 2;
@@ -71,28 +64,25 @@ TEST(TablaProyecto, HuecosPorOrientacion) {
   grupo.columnas[sur].Anadir(2);
   grupo.columnas[kColumnaHorizontal].Anadir(1);
   edificio.AnadirHuecos({});  // un grupo sin huecos no se muestra
-  const Tabla tabla = TablaHuecosCaso(edificio);
-  ASSERT_EQ(tabla.filas.size(), 1U);
-  const auto& fila = tabla.filas[0];
-  ASSERT_EQ(fila.size(), tabla.cabeceras.size());
+  const Tabla huecos = TablaHuecosCaso(edificio);
+  ASSERT_EQ(huecos.filas.size(), 1U);
+  const auto& fila = huecos.filas[0];
+  ASSERT_EQ(fila.size(), huecos.cabeceras.size());
   EXPECT_EQ(fila[1].texto, "9");
   for (std::size_t i = 6; i < 13; ++i) {
-    const std::string& orientacion = tabla.cabeceras[i];
+    const std::string& orientacion = huecos.cabeceras[i];
     const std::string esperado = orientacion == "S" ? "2" : orientacion == "Hz" ? "1" : "";
     EXPECT_EQ(fila[i].texto, esperado) << orientacion;
   }
   EXPECT_EQ(fila[13].numero, 9.0);
-}
-
-TEST(TablaProyecto, UnSistemaSinGeneradorNoImpideVerlo) {
-  Edificio edificio;
+  // Un sistema sin generador no impide verlo.
   SistemaResidencial sistema;
   sistema.Tipo_sistema = "ACS";
   edificio.AnadirSistema(sistema);
-  const Tabla tabla = TablaSistemasCaso(edificio);
-  ASSERT_EQ(tabla.filas.size(), 1U);
-  EXPECT_EQ(tabla.filas[0][1].texto, "ACS");
-  EXPECT_EQ(tabla.filas[0][2].texto, "");
+  const Tabla sistemas = TablaSistemasCaso(edificio);
+  ASSERT_EQ(sistemas.filas.size(), 1U);
+  EXPECT_EQ(sistemas.filas[0][1].texto, "ACS");
+  EXPECT_EQ(sistemas.filas[0][2].texto, "");
 }
 
 class TablasDeCaso : public testing::Test {
@@ -107,9 +97,6 @@ TEST_F(TablasDeCaso, LaIluminacionSoloEstaEnTerciario) {
   EXPECT_EQ(ColumnaDe(TablaServicios(caso.Mostrar()), 0), vivienda);
   caso.Poner(3, "D3", "Nuevo");
   EXPECT_EQ(ColumnaDe(TablaServicios(caso.Mostrar()), 0)[4], "Iluminación");
-}
-
-TEST_F(TablasDeCaso, ServiciosEnSusColumnas) {
   auto& r = caso.Resultados();
   r.demandaCalefaccion = 7;
   for (std::size_t u = 0; u < kUnidadesEnergia; ++u)
@@ -123,11 +110,7 @@ TEST_F(TablasDeCaso, ServiciosEnSusColumnas) {
   EXPECT_EQ(fila,
             (Textos{"Calefacción", "7.00", "B", "1.00", "2.00", "4.00", "3.00", "C", "5.00", "D"}));
   EXPECT_EQ(tabla.cabeceras.size(), fila.size());
-}
-
-TEST_F(TablasDeCaso, NotasDeLaZonaYDeLasHoras) {
   caso.Poner(0, "E1", "Nuevo");
-  auto& r = caso.Resultados();
   EXPECT_EQ(TablaServicios(caso.Mostrar()).notas,
             (Textos{"No se contabiliza refrigeración por estar en zona E1"}));
   caso.Poner(0, "D3", "Nuevo");

@@ -4,25 +4,9 @@
 #include <string>
 
 #include "demand/calculo.h"
-#include "model/Edificio.h"
+#include "model/Cambios.h"
 
 namespace novex::pruebas {
-
-/// Cambia los datos generales o la localización de un edificio.
-template <class Cambio>
-void CambiarGenerales(Edificio& edificio, Cambio cambio) {
-  DatosGenerales generales = edificio.GetDatosGenerales();
-  cambio(generales);
-  edificio.SetDatosGenerales(generales);
-}
-
-inline void PonerLugar(Edificio& edificio, const std::string& zona,
-                       const std::string& provincia = "Madrid") {
-  Localizacion lugar = edificio.GetLocalizacion();
-  lugar.ZonaClimatica = zona;
-  lugar.Provincia = provincia;
-  edificio.SetLocalizacion(lugar);
-}
 
 /// Un edificio de 100 m2 en la península.
 inline std::unique_ptr<Edificio> EdificioDe100(int perfilUso, const std::string& equiposDefecto) {

@@ -40,9 +40,7 @@ TEST(Letra, UnValorIgualAlUmbralTomaLaPeor) {
     EXPECT_EQ(Letra("EmisionesACS", valor, *edificio, escala), letra) << valor;
   // El más cercano por debajo no llega al umbral.
   EXPECT_EQ(Letra("EmisionesACS", std::nextafter(1.0F, 0.0F), *edificio, escala), "A");
-}
-
-TEST(Letra, LaObraNuevaYLaFilaSinEscalaCompletaNoPasanDeE) {
+  // La obra nueva y la fila sin escala completa no pasan de "E".
   const auto completa = EscalaDe(Indicador::EmisionesACS, {1, 2, 3, 4, 5, 6});
   const auto incompleta = EscalaDe(Indicador::EmisionesACS, {1, 2, 3, 4, 5, 0});
   for (const float valor : {4.0F, 5.0F, 6.0F, 100.0F}) {
@@ -65,11 +63,9 @@ TEST(Letra, SinRefrigeracionCalificadaEnTresZonasYSoloEnViviendas) {
     EXPECT_EQ(Letra(clave, 1, *terciario, escala), "E") << clave;
   }
   EXPECT_EQ(Letra("DemandaCalefaccion", 1, *Vivienda("Nuevo", "C1"), escala), "E");
-}
-
-TEST(Letra, UnaClaveDesconocidaEsLaDeEmisionesTotales) {
-  const auto escala = EscalaDe(Indicador::EmisionesTotales, {10, 20, 30, 40, 50, 60});
-  EXPECT_EQ(Letra("CEPtotal", 15, *Vivienda("Nuevo"), escala), "B");
+  // Una clave desconocida es la de emisiones totales.
+  const auto deTotales = EscalaDe(Indicador::EmisionesTotales, {10, 20, 30, 40, 50, 60});
+  EXPECT_EQ(Letra("CEPtotal", 15, *Vivienda("Nuevo"), deTotales), "B");
   for (std::size_t i = 0; i < kIndicadores; ++i)
     EXPECT_EQ(IndicadorDeClave(ClaveIndicador(static_cast<Indicador>(i))),
               static_cast<Indicador>(i));
@@ -149,9 +145,7 @@ TEST(CargarEscala, LeeLaZonaYElTipoEnSuFila) {
     CambiarGenerales(*bloque, [&](DatosGenerales& g) { g.PerfilUso = perfil; });
     EXPECT_FLOAT_EQ(Cargar(*bloque).th[Fila(Indicador::DemandaCalefaccion)][0], 2000.5F);
   }
-}
-
-TEST(CargarEscala, LaReferenciaEsLaDeLoNuevoTambienEnUnaAmpliacion) {
+  // La referencia es la de lo nuevo también en una ampliación.
   EscalaCaso escala = Cargar(*Vivienda("Nuevo"));
   EXPECT_FLOAT_EQ(escala.referencia[Fila(Indicador::EmisionesACS)], 1500);
   EXPECT_FLOAT_EQ(escala.DemandaACS, 30);
@@ -229,9 +223,6 @@ TEST_F(Calificar, LosTotalesCuentanLosServiciosDeSuUso) {
   EXPECT_FLOAT_EQ(Total(*sinFrio, kPrimariaTotal), 1 + 2 + 8);
   CambiarGenerales(*sinFrio, [](DatosGenerales& g) { g.Tiposimulacion = "Simulacion"; });
   EXPECT_FLOAT_EQ(Total(*sinFrio), 15);
-}
-
-TEST_F(Calificar, CadaIndicadorSeCalificaConSuValor) {
   caso->resultados.demandaCalefaccion = 50;
   caso->resultados.demandaRefrigeracion = 60;
   // El valor de cada indicador, y un umbral th2 justo por encima: todos han de dar "C".

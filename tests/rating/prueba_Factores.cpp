@@ -19,16 +19,13 @@ EquipoDefecto Leer(const std::string& atributos, bool residencial) {
   return LeerDefecto(raiz, "Defecto.xml", residencial, mensajes);
 }
 
-TEST(EquipoDefecto, LeeElJuegoDelUsoYRebajaLaRefrigeracion) {
+TEST(EquipoDefecto, LeeElJuegoDelUsoYRechazaUnRendimientoNulo) {
   const EquipoDefecto equipo = Leer(kResidencial, true);
   EXPECT_FLOAT_EQ(equipo.rendimiento[kACS], 0.92F);
   EXPECT_FLOAT_EQ(equipo.rendimiento[kCalefaccion], 0.8F);
   EXPECT_FLOAT_EQ(equipo.rendimiento[kRefrigeracion], 1.4F);
   EXPECT_EQ(equipo.combustible[kACS], "GasNatural");
   EXPECT_EQ(equipo.combustible[kCalefaccion], "GLP");
-}
-
-TEST(EquipoDefecto, RechazaUnRendimientoNuloONombradoMal) {
   // El juego del otro uso no hace falta, y el propio sí.
   EXPECT_THROW(Leer(kResidencial, false), ErrorFichero);
   const std::pair<const char*, const char*> faltas[] = {
@@ -68,9 +65,6 @@ TEST_F(HoraDefecto, ConEquiposPorDefectoSeTomaTodoEnElMesDeLaHora) {
   EXPECT_FLOAT_EQ(Serie(kACS, 744), 1000);
   EXPECT_FLOAT_EQ(Serie(kCalefaccion, 745), 4000);
   EXPECT_FLOAT_EQ(Serie(kRefrigeracion, 1416), 6000);
-}
-
-TEST_F(HoraDefecto, SinEllosSoloQuedaLaSerieDeACS) {
   Cargar(8760, ModoDefectoDe("NO"));
   EXPECT_FLOAT_EQ(Serie(kACS, 8760), 1000);
   EXPECT_EQ(Serie(kCalefaccion, 8760), 0);
@@ -128,14 +122,11 @@ TEST(FactoresConversion, CadaVectorTomaSuFilaPorLaPosicion) {
     EXPECT_FLOAT_EQ(conversor.PrimariaTotal(vector, 2), 2 * (300 + fila));
   }
   EXPECT_TRUE(mensajes.recibidos.empty());
-}
-
-TEST(FactoresConversion, LasFilasQueFaltanQuedanACero) {
-  RegistroMensajes mensajes;
-  const Conversor conversor(LeerFactores(Fichero(8), mensajes), "Madrid");
-  EXPECT_FLOAT_EQ(conversor.Emisiones(VectorEnergetico::GLP, 1), 7);
-  EXPECT_FLOAT_EQ(conversor.PrimariaTotal(VectorEnergetico::GasNatural, 1), 0);
-  EXPECT_FLOAT_EQ(conversor.PrimariaTotal(VectorEnergetico::Energiasolartermica, 1), 0);
+  // Las filas que faltan quedan a cero.
+  const Conversor corto(LeerFactores(Fichero(8), mensajes), "Madrid");
+  EXPECT_FLOAT_EQ(corto.Emisiones(VectorEnergetico::GLP, 1), 7);
+  EXPECT_FLOAT_EQ(corto.PrimariaTotal(VectorEnergetico::GasNatural, 1), 0);
+  EXPECT_FLOAT_EQ(corto.PrimariaTotal(VectorEnergetico::Energiasolartermica, 1), 0);
 }
 
 TEST(FactoresConversion, UnNumeroMalEscritoDaAviso) {

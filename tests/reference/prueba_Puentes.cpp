@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "model/Cambios.h"
 #include "reference/LongitudesPuentes.h"
 #include "reference/ValoresPuentes.h"
 
@@ -10,9 +11,8 @@ namespace novex {
 namespace {
 
 void PonerModo(Edificio& e, const std::string& modo) {
-  Construccion c = e.GetConstruccion();
-  c.Longitud_puentes_termicos_modo = modo;
-  e.SetConstruccion(c);
+  pruebas::CambiarConstruccion(e,
+                               [&](Construccion& c) { c.Longitud_puentes_termicos_modo = modo; });
 }
 
 // Un edificio con algo en cada clase de área.
@@ -129,18 +129,16 @@ TEST(LongitudesPuentes, ConVariosRecintosQuedanLasDelUltimo) {
   segundo.Suelo_al_terreno_m2[0] = 25;
   e.AnadirRecinto(segundo);
   EXPECT_EQ(LongitudesEstimadas(e).Perimetro_suelo_terreno, 10);  // 25 de 100 m2, de 40 m
-}
-
-TEST(LongitudesPuentes, LasFacilitadasNoSeTocan) {
-  Edificio e;
-  Rellenar(e);
-  Construccion c = e.GetConstruccion();
+  // Las facilitadas no se tocan.
+  Edificio otro;
+  Rellenar(otro);
+  Construccion c = otro.GetConstruccion();
   c.Perimetro_huecos = 7.25F;
   c.Long_pilares[oeste] = 3.5F;
   for (const char* modo : {"Facilitados", "", "estimados"}) {
     c.Longitud_puentes_termicos_modo = modo;
-    e.SetConstruccion(c);
-    EXPECT_EQ(LongitudesEstimadas(e), c) << modo;
+    otro.SetConstruccion(c);
+    EXPECT_EQ(LongitudesEstimadas(otro), c) << modo;
   }
 }
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "model/Cambios.h"
 #include "systems/Despacho.h"
 
 namespace novex::pruebas {
@@ -14,9 +15,7 @@ struct CasoSistemas {
 
   template <class Cambio>
   void Generales(Cambio cambio) {
-    DatosGenerales g = edificio.GetDatosGenerales();
-    cambio(g);
-    edificio.SetDatosGenerales(std::move(g));
+    CambiarGenerales(edificio, cambio);
   }
   /// Añade un sistema de un bloque, que sirve de agua caliente toda la superficie.
   Instalaciones& Anadir(const std::string& tipo, Instalaciones bloque);

@@ -146,7 +146,7 @@ TEST_F(CatalogoEntregado, FrioBajaConLaTemperaturaExterior) {
 }
 
 // Menos carga, menos consumo; a plena carga, el nominal.
-TEST_F(CatalogoEntregado, CargaParcialCreceDeCeroAUno) {
+TEST_F(CatalogoEntregado, CargaParcialDeCeroAUnoYCalderasCercaDelNominal) {
   const auto comprobar = [](const std::array<float, 4>& c) {
     EXPECT_NEAR(curvas::CargaParcial(c, 1.0F), 1.0F, kNominal);
     EXPECT_EQ(curvas::CargaParcial(c, 0.0F), 0.0F);
@@ -159,10 +159,7 @@ TEST_F(CatalogoEntregado, CargaParcialCreceDeCeroAUno) {
     comprobar(e.modelo.curvas.cR);
     if (e.tipo != kEnfriadora) comprobar(e.modelo.curvas.cQ);
   }
-}
-
-// El generador recibe la carga parcial sin limitar y, cuando está solo, la temperatura 0.
-TEST_F(CatalogoEntregado, CalderasConRendimientoCercaDelNominal) {
+  // El generador recibe la carga parcial sin limitar y, cuando está solo, la temperatura 0.
   int comprobados = 0;
   for (const Entrada& e : entradas) {
     if (e.familia != "Generadores") continue;

@@ -65,10 +65,6 @@ TEST_F(Catalogo, FabricantesYModelos) {
   EXPECT_EQ(modelos[1].EER(), 0.0F);  // sin consumo
   EXPECT_EQ(modelos[1].COP(), 0.0F);
   EXPECT_TRUE(c.Modelos("Nadie", "EquipoAA", "Equipo_Split").empty());
-}
-
-TEST_F(Catalogo, UnaFilaQueNoExisteNoCambiaNada) {
-  const CatalogoEquipos c(raiz, mensajes);
   const Instalaciones antes = bloque;
   for (const std::size_t fila : {std::size_t{0}, std::size_t{3}, static_cast<std::size_t>(-1)})
     EXPECT_FALSE(c.Aplicar("Marca", "EquipoAA", "Equipo_Split", fila, bloque));
@@ -99,10 +95,6 @@ TEST_F(Catalogo, ElGenericoPoneSoloLasCurvas) {
   EXPECT_THAT(k.cC, ElementsAre(2, 0, 0, 2.3F));
   EXPECT_THAT(k.gC, ElementsAre(3, 0, 0, 3.3F));
   EXPECT_EQ(k.TeCambio, -7.5F);
-}
-
-TEST_F(Catalogo, ElComercialPoneSusPotencias) {
-  const CatalogoEquipos c(raiz, mensajes);
   ASSERT_TRUE(c.Aplicar("Marca", "EquipoAA", "Equipo_MultiSplit", 1, bloque));
   EXPECT_THAT(Nominales(), ElementsAre(10, 7, 4, 12, 3));
   bloque.QFrioSen1 = 2;  // el de caudal variable y el de agua no traen la sensible

@@ -54,14 +54,11 @@ TEST(CaptadoresSolares, CurvaAMano) {
   EXPECT_NEAR(CaptadoresSolares(g).Potencia(40, 800, 20), 1055.5, 6);
   for (DatosGenerales nulo : {Campo(0, 72, 0.8F, 4), Campo(1, 0, 0.8F, 4)})
     EXPECT_EQ(CaptadoresSolares(nulo).Potencia(40, 800, 20), 0);
-}
-
-// 8 m2 con 1800 l/h (2092 W/K) y rendimiento fijo de 0,5: con 1046 W/m2 el salto es de 2 °C justos,
-// y la bomba se para.
-TEST(CaptadoresSolares, ElSaltoMinimoJustoLaPara) {
-  const CaptadoresSolares c(Campo(4, 1800, 0.5F, 0));
-  EXPECT_EQ(c.Potencia(40, 1046, 20), 0);
-  EXPECT_NEAR(c.Potencia(40, 1047, 20), 4188, 1e-6);
+  // 8 m2 con 1800 l/h (2092 W/K) y rendimiento fijo de 0,5: con 1046 W/m2 el salto es de 2 °C
+  // justos, y la bomba se para.
+  const CaptadoresSolares justo(Campo(4, 1800, 0.5F, 0));
+  EXPECT_EQ(justo.Potencia(40, 1046, 20), 0);
+  EXPECT_NEAR(justo.Potencia(40, 1047, 20), 4188, 1e-6);
 }
 
 class Campos : public testing::Test {
@@ -97,12 +94,6 @@ TEST_F(Campos, UnaHoraAMano) {
   EXPECT_NEAR(Potencia(), 1.23 + 0.9 * 0.772, 1e-3);
 }
 
-TEST_F(Campos, LaMedidaPoneElPrimerCampo) {
-  EXPECT_TRUE(HayFotovoltaica(g, 1));
-  EXPECT_NEAR(Potencia(1), 0.41, 1e-4);
-  EXPECT_EQ(Potencia(), 0.0F);
-}
-
 // Lo mismo a mediodía del 1 de enero y en la última hora de febrero, la 1416.
 TEST_F(Campos, SeSumaPorMeses) {
   EXPECT_EQ(ProduccionFotovoltaica(g, *clima)[0], 0.0F);
@@ -118,7 +109,11 @@ TEST_F(Campos, SeSumaPorMeses) {
   EXPECT_NEAR(meses[0], 2.46, 1e-4);
 }
 
-TEST_F(Campos, AUnPisoLeTocaSuParte) {
+TEST_F(Campos, LaMedidaPoneElPrimerCampo) {
+  EXPECT_TRUE(HayFotovoltaica(g, 1));
+  EXPECT_NEAR(Potencia(1), 0.41, 1e-4);
+  EXPECT_EQ(Potencia(), 0.0F);
+  // A un piso le toca su parte.
   g.PotPico_FV[0] = 3;
   g.PerfilUso = 2;
   g.NVBloqueF = 4;
@@ -207,16 +202,14 @@ TEST(DepositoEstratificado, ElDiaCierra) {
   }
   EXPECT_GT(entra, 5e7);
   EXPECT_NEAR(suma, Almacenada(g, T) - inicio, 1e-3 * entra);
-}
-
-TEST(DepositoEstratificado, UnaEntradaImposibleNoLoCuelga) {
-  const GeometriaDeposito g(200, 2, 2);
-  MinutoDeposito m;
-  m.entradaAgua = std::numeric_limits<double>::quiet_NaN();
-  m.extraccion = 0.1;
-  Nodos T = Uniforme(60);
-  AvanzarDeposito(g, m, T);
-  EXPECT_TRUE(std::isnan(T[4]));
+  // Una entrada imposible no lo cuelga.
+  const GeometriaDeposito otro(200, 2, 2);
+  MinutoDeposito malo;
+  malo.entradaAgua = std::numeric_limits<double>::quiet_NaN();
+  malo.extraccion = 0.1;
+  Nodos imposible = Uniforme(60);
+  AvanzarDeposito(otro, malo, imposible);
+  EXPECT_TRUE(std::isnan(imposible[4]));
 }
 
 }  // namespace

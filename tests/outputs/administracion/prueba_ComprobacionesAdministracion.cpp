@@ -60,9 +60,8 @@ TEST_F(Administracion, CadaDatoObligatorioHaceFalta) {
   g.Certificador_Telefono = "976000000";  // el fijo no sustituye al móvil
   g.Certificador_Movil = "";
   EXPECT_EQ(Comprobar(), kAvisoDatosObligatorios);
-}
-
-TEST_F(Administracion, BastaUnoDeLosDosNumeros) {
+  // De los dos números basta uno.
+  g = todos;
   g.Certificador_NIF = " ";
   EXPECT_EQ(Comprobar(), kAvisoDatosObligatorios);
   g.Certificador_CIF = "B00000000";

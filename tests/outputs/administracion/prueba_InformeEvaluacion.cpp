@@ -8,6 +8,7 @@
 #include "base/NumeroTexto.h"
 #include "base/Texto.h"
 #include "calculation/Entorno.h"
+#include "model/Cambios.h"
 #include "outputs/CasoPrueba.h"
 #include "outputs/administracion/EscrituraInforme.h"
 #include "outputs/administracion/InformeIdentificacion.h"
@@ -70,9 +71,8 @@ class Informe : public testing::Test {
     i.porUnidad[kEmisiones][0] = co2;
   }
   void Lugar(const std::string& provincia) {
-    Localizacion lugar = caso.edificio->GetLocalizacion();
-    lugar.Provincia = provincia;
-    caso.edificio->SetLocalizacion(lugar);
+    pruebas::CambiarLugar(*caso.edificio,
+                          [&](Localizacion& lugar) { lugar.Provincia = provincia; });
   }
   std::string Escribir(bool conProyecto = false) {
     std::vector<const Edificio*> proyecto;
@@ -377,9 +377,7 @@ TEST_F(Informe, LasMedidasSeComparanConLaBase) {
   EXPECT_EQ(Texto(n, "EnergiaFinal/Global"), "50.00");
   EXPECT_EQ(Texto(n, "CalificacionEmisionesCO2/Global"), "C");
   EXPECT_EQ(Texto(n, "CalificacionEmisionesCO2/ACS"), "(falta)");
-}
-
-TEST_F(Informe, LoQueNoSeCalificaNoTieneInforme) {
+  // Lo que no se califica no tiene informe.
   caso.PonerSimulacionLibre();
   EXPECT_THROW(Escribir(), ErrorCalculo);
 }

@@ -156,13 +156,11 @@ TEST_F(Bloque, LosIndicadoresYSusLetras) {
   const NodoConservado t = Bloques({caso.MostrarCalificado()});
   EXPECT_EQ(Hijo(t, "Escalas/EnergiaPrimariaNoRenovable/Ilu/F").texto, "6.00");
   EXPECT_EQ(Hijo(t, "Indicadores/Emisiones/Ilu").texto, "0.00");
-}
-
-TEST_F(Bloque, UnaSimulacionLibreNoLlevaLetras) {
+  // Una simulación libre no lleva letras.
   caso.PonerSimulacionLibre();
-  const NodoConservado b = Bloques({caso.MostrarCalificado()});
-  EXPECT_TRUE(Hijo(b, "Calificacion/Emisiones").hijos.empty());
-  EXPECT_TRUE(Hijo(b, "Escalas/Demanda").hijos.empty());
+  const NodoConservado libre = Bloques({caso.MostrarCalificado()});
+  EXPECT_TRUE(Hijo(libre, "Calificacion/Emisiones").hijos.empty());
+  EXPECT_TRUE(Hijo(libre, "Escalas/Demanda").hijos.empty());
 }
 
 TEST_F(Bloque, LaReferenciaDeUnTerciarioTieneEnergiaFinal) {

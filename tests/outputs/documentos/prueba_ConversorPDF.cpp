@@ -80,14 +80,12 @@ TEST_F(ConversorDePDF, ArgumentosDeWkhtmltopdf) {
   EXPECT_EQ(fs::path(argumentos.back()).parent_path().parent_path(),
             fs::canonical(pdf.parent_path()));
   EXPECT_EQ(Sobrantes(), 0U);
-}
-
-TEST_F(ConversorDePDF, UnWkhtmltopdfAntiguoNoConoceLosFicherosLocales) {
-  const auto programa = Guion(std::string("if [ \"$1\" = --enable-local-file-access ]; then\n"
-                                          "echo \"Unknown long argument $1\" >&2; exit 1; fi\n") +
-                              kApuntar);
-  EXPECT_TRUE(ConversorWkhtmltopdf(programa).Convertir(html, pdf, pie).hecho);
-  EXPECT_EQ(Apuntados(programa).front(), "--footer-font-name");
+  // Un wkhtmltopdf antiguo no conoce los ficheros locales.
+  const auto antiguo = Guion(std::string("if [ \"$1\" = --enable-local-file-access ]; then\n"
+                                         "echo \"Unknown long argument $1\" >&2; exit 1; fi\n") +
+                             kApuntar);
+  EXPECT_TRUE(ConversorWkhtmltopdf(antiguo).Convertir(html, pdf, pie).hecho);
+  EXPECT_EQ(Apuntados(antiguo).front(), "--footer-font-name");
 }
 
 TEST_F(ConversorDePDF, UnFalloNoTocaElPdfAnteriorNiDejaRestos) {
@@ -129,9 +127,6 @@ TEST_F(ConversorDePDF, DondeNoSePuedeEscribir) {
   EXPECT_FALSE(ocupado.hecho);
   EXPECT_THAT(ocupado.mensaje, HasSubstr("No se pudo escribir el PDF"));
   EXPECT_EQ(Sobrantes(), 0U);
-}
-
-TEST_F(ConversorDePDF, ElTextoDelPieComoCadenaDeCss) {
   EXPECT_EQ(CadenaCss("Ref. Ñ 1"), "\"Ref. Ñ 1\"");
   EXPECT_EQ(CadenaCss("a\"b\\c"), "\"a\\22 b\\5c c\"");
   EXPECT_EQ(CadenaCss("a\r\nb\x7F"), "\"a\\d \\a b\\7f \"");

@@ -3,6 +3,7 @@
 
 #include <map>
 
+#include "model/Cambios.h"
 #include "outputs/CasoPrueba.h"
 #include "outputs/documentos/ConstruirModelo.h"
 #include "outputs/documentos/VariablesCalificacion.h"
@@ -77,15 +78,12 @@ TEST_F(Indicadores, ValoresIndicesYLetras) {
                                Pair("I_EMI_CAL_CO2", ""), Pair("EMI_ILU_CO2", "2.00"),
                                Pair("EMI_GL_CO2", "20.00"), Pair("CO2GL", "20.00"),
                                Pair("DEMGLREF", "7.00")}));
-}
-
-TEST_F(Indicadores, ViviendaSinRefrigeracionCalificada) {
   caso.Poner(0, "D1", "Nuevo");
-  const Mapa v = Variables(caso.MostrarCalificado(), VariablesIndicadores);
+  const Mapa sinFrio = Variables(caso.MostrarCalificado(), VariablesIndicadores);
   for (const char* nombre : {"EMI_REF_CO2", "DEM_GL_REF", "PRIM_REF", "W_PRIM_REF"})
-    EXPECT_EQ(v.at(nombre), "( - )") << nombre;
-  EXPECT_FALSE(v.contains("EMI_ILU_CO2"));
-  EXPECT_FALSE(v.contains("W_ILU_REF"));
+    EXPECT_EQ(sinFrio.at(nombre), "( - )") << nombre;
+  EXPECT_FALSE(sinFrio.contains("EMI_ILU_CO2"));
+  EXPECT_FALSE(sinFrio.contains("W_ILU_REF"));
 }
 
 TEST_F(Indicadores, LaEscalaDelFrioQueNoSeCalificaNoSeEnsena) {
@@ -161,13 +159,10 @@ TEST_F(Renovables, PartesDeLaEnergiaYDeLaDemanda) {
   for (const auto& [nombre, valor] : esperadas) EXPECT_EQ(v.at(nombre), valor) << nombre;
   caso.Poner(4, "D3", "Nuevo");
   EXPECT_EQ(Variables(caso.Mostrar(), VariablesRenovables).at("FOTOVOLT"), "107.00");
-}
-
-TEST_F(Renovables, SinEnergiaNiDemandaTodoEsCero) {
   caso.Resultados() = {};
-  const Mapa v = Variables(caso.Mostrar(), VariablesRenovables);
+  const Mapa vacio = Variables(caso.Mostrar(), VariablesRenovables);
   for (const char* nombre : {"BIOACS", "TOTACSREN", "TOTDEMACS", "CO2COMB"})
-    EXPECT_EQ(v.at(nombre), "0.00") << nombre;
+    EXPECT_EQ(vacio.at(nombre), "0.00") << nombre;
 }
 
 TEST_F(Renovables, SinPanelesNoHayProduccion) {
@@ -205,12 +200,12 @@ TEST(VariablesAuxiliares, LaUnidadDeAireSoloEnTerciario) {
   EXPECT_EQ(v.at("SISTEMASSECUNDARIOS"), "No existen");  // toma en cada unidad
   EXPECT_EQ(v.at("TORREREFRIGERACION"), "No existen");
 
-  DatosGenerales g = caso.edificio->GetDatosGenerales();
-  g.ManejoVentilacion = "UTAprimario_a_unid_terminales";
-  g.Recuperador = "EntalpicoConBypass";
-  g.Eficiencia_recuperador = 70;
-  g.TipoCO2 = "SondaCO2 con freecooling";
-  caso.edificio->SetDatosGenerales(g);
+  pruebas::CambiarGenerales(*caso.edificio, [](DatosGenerales& g) {
+    g.ManejoVentilacion = "UTAprimario_a_unid_terminales";
+    g.Recuperador = "EntalpicoConBypass";
+    g.Eficiencia_recuperador = 70;
+    g.TipoCO2 = "SondaCO2 con freecooling";
+  });
   v = Variables(caso.Mostrar(), VariablesAuxiliares);
   EXPECT_THAT(v, IsSupersetOf({Pair("NOMBRESECUNDARIO", "UTAprimario"), Pair("RENDCALSEC", "70.00"),
                                Pair("ENFGRATUITO", "Si"), Pair("RECEENE", "Si"),
@@ -297,14 +292,12 @@ TEST(ClaseDocumento, SigueAlTipoDeCertificado) {
 
 TEST(VariablesIdentidad, LoDelUsuarioNoTraeEtiquetas) {
   Edificio edificio;
-  DatosGenerales g = edificio.GetDatosGenerales();
-  g.Edificio_Titulo = "<b>Casa & _NIF_</b>";
-  g.Certificador_Provincia = "Teruel";
-  g.Certificador_Telefono = "976";
-  edificio.SetDatosGenerales(g);
-  Localizacion lugar = edificio.GetLocalizacion();
-  lugar.Provincia = "Las Palmas";
-  edificio.SetLocalizacion(lugar);
+  pruebas::CambiarGenerales(edificio, [](DatosGenerales& g) {
+    g.Edificio_Titulo = "<b>Casa & _NIF_</b>";
+    g.Certificador_Provincia = "Teruel";
+    g.Certificador_Telefono = "976";
+  });
+  pruebas::CambiarLugar(edificio, [](Localizacion& lugar) { lugar.Provincia = "Las Palmas"; });
   std::vector<VBLE> variables;
   VariablesIdentidad(edificio, "EXISTENTES", variables);
   auto v = EnMapa(variables);
