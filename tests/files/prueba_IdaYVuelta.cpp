@@ -11,6 +11,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "CaminoXml.h"
 #include "CarpetaTemporal.h"
 #include "base/FicheroSeguro.h"
 #include "base/NumeroTexto.h"
@@ -29,8 +30,7 @@ using testing::IsEmpty;
 const fs::path kEjemplos = NOVEX_RAIZ_DATOS "/proyectos";
 
 XMLNode CasoEscrito(const fs::path& ruta) {
-  return XMLNode::loadFile(ruta, "DatosEnergeticosDelEdificio")
-      .childNamed("DatosPersonalizados")
+  return pruebas::En(XMLNode::loadFile(ruta, "DatosEnergeticosDelEdificio"), "DatosPersonalizados")
       .childAt(0);
 }
 

@@ -1,14 +1,20 @@
-#include "files/SeccionesProyecto.h"
-
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "base/ErrorFichero.h"
+#include "files/AccesoCampos.h"
+#include "files/CaminoXml.h"
 #include "files/ComunidadAutonoma.h"
 #include "files/ProyectoFichero.h"
+#include "files/SeccionesProyecto.h"
 #include "model/Cambios.h"
 
 namespace novex {
 namespace {
+
+using pruebas::En;
+using pruebas::Texto;
 
 XMLNode Nodo(const std::string& contenido) {
   return XMLNode::parseString("<Novex>" + contenido + "</Novex>", "Novex", "caso");
@@ -218,9 +224,7 @@ TEST_F(SeccionesProyecto, LoDerivadoSigueAlPerfilYALaProteccion) {
   v.tipologias[0].N_viviendas = 0;
   v.tipologias[2].N_viviendas = 8;
   edificio_.SetVentilacion(v);
-  Localizacion l;
-  l.Provincia = "Valencia/València";
-  edificio_.SetLocalizacion(l);
+  pruebas::PonerLugar(edificio_, "D3", "Valencia/València");
   SistemaResidencial s;
   s.Tipo_sistema = "ACS+Calefaccion";
   edificio_.AnadirSistema(s);
@@ -233,19 +237,15 @@ TEST_F(SeccionesProyecto, LoDerivadoSigueAlPerfilYALaProteccion) {
   std::size_t i = 0;
   EXPECT_EQ(datos.childNamed("Uso", &i).attributeValue("name"), "Otro");
   EXPECT_EQ(datos.childNamed("Uso", &i).attributeValue("name"), "ResidencialPrivado");
-  EXPECT_EQ(novex.childNamed("DatosCertificado").childNamed("Escala").textAt(0), "ViviendaBloque");
-  EXPECT_EQ(novex.childNamed("Datos_Globales").childNamed("Tipologias").childCount(), 2U);
-  const XMLNode espacio = novex.childNamed("Datos_Globales")
-                              .childNamed("Modelo")
-                              .childNamed("Espacios")
-                              .childNamed("Espacio");
-  EXPECT_EQ(espacio.childNamed("TieneCal").textAt(0), "Si");
-  EXPECT_EQ(espacio.childNamed("TieneRef").textAt(0), "No");
+  EXPECT_EQ(Texto(novex, "DatosCertificado/Escala"), "ViviendaBloque");
+  EXPECT_EQ(En(novex, "Datos_Globales/Tipologias").childCount(), 2U);
+  EXPECT_EQ(Texto(novex, "Datos_Globales/Modelo/Espacios/Espacio/TieneCal"), "Si");
+  EXPECT_EQ(Texto(novex, "Datos_Globales/Modelo/Espacios/Espacio/TieneRef"), "No");
   const XMLNode instalaciones = novex.childNamed("Instalaciones");
   EXPECT_FALSE(instalaciones.childNamed("Caudal2Vent").isEmpty());
   i = 0;
-  EXPECT_TRUE(instalaciones.childNamed("ConsumoVentilacionAExt", &i));
-  EXPECT_TRUE(instalaciones.childNamed("ConsumoVentilacionAExt", &i));
+  for (int vez = 0; vez < 2; ++vez)
+    EXPECT_TRUE(instalaciones.childNamed("ConsumoVentilacionAExt", &i));
   pruebas::CambiarGenerales(edificio_, [](DatosGenerales& d) { d.PerfilUso = 3; });
   EXPECT_TRUE(Escrito(edificio_).childNamed("Instalaciones").childNamed("Caudal2Vent").isEmpty());
 }
@@ -275,6 +275,78 @@ TEST(ComunidadAutonoma, CadaProvinciaTieneLaSuya) {
   EXPECT_EQ(ComunidadAutonomaDe("Álava"), "País Vasco");
   EXPECT_EQ(ComunidadAutonomaDe("Madrid"), "Comunidad de Madrid");
   EXPECT_EQ(ComunidadAutonomaDe("Atlántida"), "");
+}
+
+class AccesoCampos : public ::testing::Test {
+ protected:
+  bool poner(const char* direccion, const char* texto) {
+    return PonerCampo(edificio, direccion, texto, mensajes);
+  }
+  Edificio edificio;
+  RegistroMensajes mensajes;
+};
+
+TEST_F(AccesoCampos, CadaCampoSeLeeYSeVuelveAPoner) {
+  edificio.AnadirSistema({});
+  edificio.GetSistema(0).instalaciones.emplace_back();
+  const auto direcciones = DireccionesDeCampos(edificio);
+  EXPECT_EQ(std::set<std::string>(direcciones.begin(), direcciones.end()).size(),
+            direcciones.size());
+  EXPECT_GT(direcciones.size(), 400U);
+  LectorCampos lector(edificio);
+  for (const std::string& direccion : direcciones) {
+    SCOPED_TRACE(direccion);
+    ASSERT_TRUE(BuscarDatosCampo(direccion).has_value());
+    EXPECT_TRUE(lector.Valor(direccion).has_value());
+  }
+}
+
+TEST_F(AccesoCampos, PoneNumerosTextosListasYElementosDeLista) {
+  EXPECT_TRUE(poner("MuroExt[2]/Muro_ext_sur_m2", "12,5"));
+  EXPECT_EQ(edificio.GetRecinto(0).Muro_ext_m2[1][sur], 12.5F);
+  EXPECT_TRUE(poner("Hueco[1]/Ancho_m", "1.237"));  // sin perder el tercer decimal
+  EXPECT_EQ(edificio.GetHuecos(0).Ancho_m, 1.237F);
+  EXPECT_TRUE(poner("Tipologia[2]/N_viviendas", "3"));
+  EXPECT_EQ(edificio.GetVentilacion().tipologias[1].N_viviendas, 3);
+  EXPECT_TRUE(poner("Edificio_Titulo", "Casa"));
+  EXPECT_TRUE(poner("Existencia_pilares", "Sin pilares"));
+  EXPECT_EQ(edificio.GetConstruccion().Existencia_pilares, 1);
+  EXPECT_TRUE(mensajes.recibidos.empty());
+
+  EXPECT_FALSE(poner("Existencia_pilares", "Quizá"));
+  EXPECT_FALSE(poner("Hueco[9]/Ancho_m", "1"));
+  EXPECT_FALSE(poner("Tipo_sistema[1]/QcalorCaldera1", "1"));  // no hay sistemas
+  EXPECT_FALSE(poner("No_existe", "1"));
+  EXPECT_EQ(LectorCampos(edificio).Valor("Hueco[0]/Ancho_m"), std::nullopt);
+
+  EXPECT_TRUE(poner("Volumen_total_m3", "abc"));  // se sustituye, con su aviso
+  EXPECT_EQ(mensajes.recibidos.size(), 1U);
+}
+
+TEST_F(AccesoCampos, LasColumnasDeUnGrupoDeHuecos) {
+  edificio.AnadirHuecos({});
+  EXPECT_TRUE(poner("Hueco[2]/Numero_ventanas_sur_oeste", "3"));
+  EXPECT_TRUE(poner("Hueco[2]/Numero_lucernarios_Hz", "2"));
+  EXPECT_TRUE(poner("Hueco[2]/Separacion_ventanas_vertical_sur", "2,7"));
+  EXPECT_TRUE(poner("Hueco[2]/Ventana_sur_altura_obstaculo_sur_este", "4"));
+  EXPECT_TRUE(poner("Hueco[2]/Ventana_este_distancia_obstaculo_sur_este", "5.25"));
+  const Huecos& g = edificio.GetHuecos(1);
+  EXPECT_EQ(g.columnas[sur_oeste].recintos.size(), 3U);
+  EXPECT_EQ(g.columnas[kColumnaHorizontal].recintos.size(), 2U);
+  EXPECT_EQ(g.columnas[sur].Separacion_ventanas_vertical, 2.7F);
+  EXPECT_EQ(g.columnas[sur].obstaculos[2].altura, 4.0F);       // suroeste, sur, sureste
+  EXPECT_EQ(g.columnas[este].obstaculos[0].distancia, 5.25F);  // sureste, este
+  EXPECT_EQ(edificio.GetHuecos(0), Huecos{});
+  LectorCampos lector(edificio);
+  EXPECT_EQ(lector.Valor("Hueco[2]/Numero_ventanas_sur_oeste"), "3");
+  EXPECT_EQ(lector.Valor("Hueco[2]/Separacion_ventanas_vertical_sur"), "2.70");
+  EXPECT_TRUE(mensajes.recibidos.empty());
+  EXPECT_TRUE(poner("Hueco[2]/Numero_ventanas_sur_oeste", "1000"));  // hasta 999
+  EXPECT_EQ(g.columnas[sur_oeste].recintos.size(), 0U);
+  EXPECT_EQ(mensajes.recibidos.size(), 1U);
+  EXPECT_FALSE(poner("Hueco[3]/Numero_ventanas_sur", "1"));
+  // Al norte no hay sol que tapar.
+  EXPECT_FALSE(poner("Hueco[2]/Separacion_ventanas_vertical_norte", "1"));
 }
 
 }  // namespace

@@ -35,4 +35,15 @@ inline void PonerLugar(Edificio& edificio, const std::string& zona,
   });
 }
 
+/// Una capa con lo que se compara y se muestra de ella.
+inline material Capa(const std::string& nombre, float espesor, float conductividad,
+                     float resistencia = 0) {
+  material m;
+  m.Material = nombre;
+  m.Espesor = espesor;
+  m.Conductividad = conductividad;
+  m.Resistencia_termica = resistencia;
+  return m;
+}
+
 }  // namespace novex::pruebas

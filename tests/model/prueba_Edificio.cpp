@@ -14,14 +14,7 @@ namespace novex {
 namespace {
 
 using namespace ranura;
-
-material Capa(const std::string& nombre, float espesor, float conductividad) {
-  material m;
-  m.Material = nombre;
-  m.Espesor = espesor;
-  m.Conductividad = conductividad;
-  return m;
-}
+using pruebas::Capa;
 
 std::vector<std::string> NombresCapas(const Edificio& e, std::size_t i) {
   std::vector<std::string> nombres;

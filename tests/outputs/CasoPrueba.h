@@ -60,17 +60,6 @@ struct CasoDePrueba {
   }
 };
 
-/// Una capa con lo que se compara y se muestra de ella.
-inline material Capa(const std::string& nombre, float espesor, float conductividad,
-                     float resistencia = 0) {
-  material m;
-  m.Material = nombre;
-  m.Espesor = espesor;
-  m.Conductividad = conductividad;
-  m.Resistencia_termica = resistencia;
-  return m;
-}
-
 using Textos = std::vector<std::string>;
 
 /// Los textos de una fila o de una columna de una tabla.

@@ -1,79 +1,20 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <sstream>
 
-#include "base/FicheroSeguro.h"
-#include "demand/GeneradorClima.h"
-#include "files/CarpetaTemporal.h"
-#include "shell/ProyectoPrueba.h"
-
-#ifndef NOVEX_EJECUTABLE_CLI
-#define NOVEX_EJECUTABLE_CLI ""
-#endif
+#include "shell/Ordenes.h"
 
 namespace novex {
 namespace {
 
 namespace fs = std::filesystem;
-
-struct Ejecucion {
-  int codigo;
-  std::string salida, errores;
-};
-
-bool Contiene(const std::string& texto, const std::string& parte) {
-  return texto.find(parte) != std::string::npos;
-}
-
-// La ejecución acaba con ese código y dice las partes: las que fallan, por los errores.
-void Espera(const Ejecucion& e, int codigo, const std::vector<std::string>& partes = {}) {
-  EXPECT_EQ(e.codigo, codigo) << e.errores;
-  for (const std::string& parte : partes)
-    EXPECT_PRED2(Contiene, e.salida.empty() ? e.errores : e.salida, parte);
-}
-
-// Una carpeta de programa con los datos y el clima de una zona, y un proyecto en blanco, en una
-// carpeta que se borra al acabar.
-class Ordenes : public testing::Test {
- protected:
-  void SetUp() override {
-    if (std::string(NOVEX_EJECUTABLE_CLI).empty()) GTEST_SKIP() << "sin novex-cli";
-    fs::create_directories(programa() / "databaseCTE");
-    fs::copy(fs::path(NOVEX_RAIZ_DATOS) / "database", programa() / "database",
-             fs::copy_options::recursive);
-    static const std::string met =
-        GenerarMet(LeerEstadisticasClima(fs::path(NOVEX_RAIZ_DATOS) / "clima"), "D3", "Oficial");
-    EscribirFichero(programa() / "databaseCTE" / "ZonaD3.met", met);
-  }
-  fs::path programa() const { return raiz / "programa"; }
-  // Un proyecto con un caso base y las mejoras pedidas.
-  std::string Proyecto(const std::string& zona = "D3", float superficie = 100, int mejoras = 0) {
-    const fs::path ruta = raiz / "casa de campo.xml";
-    pruebas::GuardarProyectoPrueba(ruta, zona, superficie, mejoras);
-    return ruta.string();
-  }
-  Ejecucion Ejecutar(const std::vector<std::string>& argumentos) const {
-    std::string orden = "'" NOVEX_EJECUTABLE_CLI "'";
-    for (const std::string& a : argumentos) orden += " '" + a + "'";
-    const fs::path salida = raiz / "salida", errores = raiz / "errores";
-    orden += " >'" + salida.string() + "' 2>'" + errores.string() + "'";
-    const int estado = std::system(orden.c_str());
-    return {WIFEXITED(estado) ? WEXITSTATUS(estado) : -1, LeerFichero(salida),
-            LeerFichero(errores)};
-  }
-  Ejecucion Calcular(const std::string& proyecto, std::vector<std::string> mas = {}) const {
-    mas.insert(mas.begin(), {"calcular", proyecto, "--programa", programa().string()});
-    return Ejecutar(mas);
-  }
-
-  pruebas::CarpetaTemporal carpeta_;
-  fs::path raiz = (carpeta_ / "").parent_path();
-};
+using pruebas::Contiene;
+using pruebas::Ejecucion;
+using pruebas::Espera;
+using pruebas::Ordenes;
+using testing::HasSubstr;
 
 TEST_F(Ordenes, CalcularDaTablaJsonYSeriesSinTocarElProyecto) {
   const std::string proyecto = Proyecto();
@@ -124,9 +65,7 @@ TEST_F(Ordenes, GuardarConResultadosSoloAnadeResultados) {
 
   const auto cambiar = [&](const std::string& de, const char* a) {
     const std::string ruta = (raiz / a).string();
-    const Ejecucion e = Ejecutar(
-        {"cambiar", de, "Direccion=Otra", "--guardar", ruta, "--programa", programa().string()});
-    EXPECT_EQ(e.codigo, 0) << e.errores;
+    Espera(Orden("cambiar", de, {"Direccion=Otra", "--guardar", ruta}), 0);
     return LeerFichero(ruta);
   };
   const std::string sin = cambiar(guardado, "sin.xml");
@@ -240,8 +179,7 @@ TEST_F(Ordenes, ClimaInstalaLosFicherosQueValen) {
   const fs::path origen = raiz / "oficiales";
   fs::create_directories(origen);
   const auto instalar = [&] {
-    return Ejecutar({"clima", "instalar", origen.string(), "--conjunto", "2012", "--programa",
-                     programa().string()});
+    return Orden("clima", "instalar", {origen.string(), "--conjunto", "2012"});
   };
   EXPECT_EQ(instalar().codigo, 3);  // no hay ninguno
   const std::string met = LeerFichero(programa() / "databaseCTE" / "ZonaD3.met");
@@ -251,7 +189,7 @@ TEST_F(Ordenes, ClimaInstalaLosFicherosQueValen) {
   EscribirFichero(origen / "zonaC1.met", met.substr(0, met.size() / 3));
   Espera(instalar(), 1, {"no vale"});
   EXPECT_FALSE(fs::exists(programa() / "database2012" / "ZonaC1.met"));
-  Espera(Ejecutar({"clima", "info", "D3", "--programa", programa().string()}), 0, {"ANUAL"});
+  Espera(Orden("clima", "info", {"D3"}), 0, {"ANUAL"});
 }
 
 // Un dato de una línea de tabla: lo que sigue a su comienzo.
@@ -282,9 +220,8 @@ TEST_F(Ordenes, ExpresConstruyeCalificaYGuarda) {
 
 TEST_F(Ordenes, NuevoCasosYCambiarHacenLoQueHariaUnaPersona) {
   const std::string proyecto = (raiz / "nuevo.xml").string();
-  const std::string carpeta = programa().string();
   const auto con = [&](std::vector<std::string> a) {
-    a.insert(a.end(), {"--programa", carpeta});
+    a.insert(a.end(), {"--programa", programa().string()});
     return Ejecutar(a);
   };
   ASSERT_EQ(con({"nuevo", proyecto, "--municipio", "Soria", "--provincia", "Soria"}).codigo, 0);
@@ -319,9 +256,8 @@ TEST_F(Ordenes, NuevoCasosYCambiarHacenLoQueHariaUnaPersona) {
 }
 
 TEST_F(Ordenes, LosCatalogosSeBuscan) {
-  const std::string carpeta = programa().string();
   const auto buscar = [&](const char* catalogo, const char* texto) {
-    return Ejecutar({catalogo, "buscar", texto, "--programa", carpeta});
+    return Orden(catalogo, "buscar", {texto});
   };
   Espera(buscar("materiales", "PÓLIESTIRENO"), 0, {"EPS"});
   Espera(buscar("composiciones", "sate eps 10"), 0, {"0.26"});
@@ -330,28 +266,25 @@ TEST_F(Ordenes, LosCatalogosSeBuscan) {
 }
 
 TEST_F(Ordenes, VerificarDaVeredictosYSuCodigo) {
-  const std::string carpeta = programa().string();
   const std::string ejemplo =
       (fs::path(NOVEX_RAIZ_DATOS) / "proyectos" / "vivienda_unifamiliar_D3.xml").string();
-  Espera(Ejecutar({"verificar", ejemplo, "--programa", carpeta, "--documentos", "--resumen"}), 1,
+  Espera(Orden("verificar", ejemplo, {"--documentos", "--resumen"}), 1,
          {"HE0", "Cep,nren", "38.00", "Condensaciones", "HE5", "No cumple", "Resumen del año"});
   EXPECT_TRUE(Contiene(LeerFichero(programa() / "database" / "ValorMaximo.xml"),
                        "CERRAMIENTO=\"Muros exteriores\" UPROYECTO=\"0.30\""));
   EXPECT_TRUE(Contiene(LeerFichero(programa() / "database" / "Condensacion.xml"), "fRsi,min"));
-  Espera(Ejecutar({"verificar", ejemplo, "--programa", carpeta, "--json", "-"}), 1,
+  Espera(Orden("verificar", ejemplo, {"--json", "-"}), 1,
          {"\"seccion\": \"HE1\"", "\"limite\": ", "\"cumple\": false"});
   // Lo que no se puede calcular no se puede verificar.
-  EXPECT_EQ(Ejecutar({"verificar", Proyecto("D3", 50), "--programa", carpeta}).codigo, 3);
+  EXPECT_EQ(Orden("verificar", Proyecto("D3", 50)).codigo, 3);
 }
 
 TEST_F(Ordenes, MejorasYBateriaNoSePierdenNiSeParan) {
-  const std::string carpeta = programa().string();
   const std::string ejemplo =
       (fs::path(NOVEX_RAIZ_DATOS) / "proyectos" / "vivienda_unifamiliar_D3.xml").string();
   std::string proyecto = ejemplo;
-  const auto mejoras = [&](std::vector<std::string> mas) {
-    mas.insert(mas.begin(), {"mejoras", proyecto, "--programa", carpeta});
-    return Ejecutar(mas);
+  const auto mejoras = [&](const std::vector<std::string>& mas) {
+    return Orden("mejoras", proyecto, mas);
   };
   const Ejecucion todas = mejoras({"--todas", "--json", "-"});
   Espera(todas, 0, {"\"codigo\": 101"});
@@ -362,8 +295,8 @@ TEST_F(Ordenes, MejorasYBateriaNoSePierdenNiSeParan) {
   const auto cambiar = [&](const std::string& campo) {
     return Ejecutar({"cambiar", proyecto, campo, "--guardar", proyecto}).codigo;
   };
-  Espera(Ejecutar({"cambiar", ejemplo, "medida=61/900,5/10", "nota_medida=61/Con andamio",
-                   "--guardar", proyecto, "--programa", carpeta}),
+  Espera(Orden("cambiar", ejemplo,
+               {"medida=61/900,5/10", "nota_medida=61/Con andamio", "--guardar", proyecto}),
          0);
   const Ejecucion una = mejoras({"--json", "-"});
   Espera(una, 0, {"\"codigo\": 61"});
@@ -381,8 +314,7 @@ TEST_F(Ordenes, MejorasYBateriaNoSePierdenNiSeParan) {
   fs::copy(ejemplo, obras / "a.xml");
   EscribirFichero(obras / "rota.xml", "<DatosEnergeticosDelEdificio><a>");
   EscribirFichero(raiz / "lista.txt", obras.string() + "\r\nrota.xml\r\na.xml\r\n\r\n");
-  Espera(Ejecutar({"bateria", (raiz / "lista.txt").string(), "--programa", carpeta}), 1,
-         {"Bateria Terminada"});
+  Espera(Orden("bateria", (raiz / "lista.txt").string()), 1, {"Bateria Terminada"});
   const std::string salida = LeerFichero(obras / "bateria.out");
   EXPECT_TRUE(salida.starts_with("------------------------------------\n# Caso = 2  de  2 :\n"));
   EXPECT_EQ(Ejecutar({"bateria", (raiz / "no esta.txt").string()}).codigo, 3);
@@ -390,9 +322,8 @@ TEST_F(Ordenes, MejorasYBateriaNoSePierdenNiSeParan) {
 
 TEST_F(Ordenes, TablasYExportacionesPorSuNombre) {
   const std::string proyecto = Proyecto();
-  const auto exportar = [&](std::vector<std::string> mas) {
-    mas.insert(mas.begin(), {"exportar", proyecto, "--programa", programa().string()});
-    return Ejecutar(mas);
+  const auto exportar = [&](const std::vector<std::string>& mas) {
+    return Orden("exportar", proyecto, mas);
   };
   const Ejecucion tabla = Calcular(proyecto, {"--tabla", "demanda"});
   EXPECT_TRUE(tabla.salida.starts_with("Demanda Total\n"));
@@ -433,9 +364,7 @@ TEST_F(Ordenes, TablasYExportacionesPorSuNombre) {
 
 TEST_F(Ordenes, AdministracionGuardaYEscribeElInforme) {
   const auto administracion = [&](const fs::path& proyecto, std::vector<std::string> mas = {}) {
-    mas.insert(mas.begin(),
-               {"administracion", proyecto.string(), "--programa", programa().string()});
-    return Ejecutar(mas);
+    return Orden("administracion", proyecto.string(), std::move(mas));
   };
   Espera(administracion(Proyecto()), 1, {"AVISO: No se genera el fichero. Faltan datos generales"});
 
@@ -460,6 +389,67 @@ TEST_F(Ordenes, AdministracionGuardaYEscribeElInforme) {
   fs::remove(raiz / "casa_certi.xml");
   EXPECT_EQ(administracion(casa).codigo, 3);
   EXPECT_FALSE(fs::exists(raiz / "casa_certi.xml"));
+}
+
+// Un PNG de un píxel gris, byte a byte según ISO/IEC 15948.
+const std::string kPng(
+    "\x89PNG\r\n\x1A\n"
+    "\0\0\0\x0DIHDR\0\0\0\x01\0\0\0\x01\x08\0\0\0\0\x3A\x7E\x9B\x55"
+    "\0\0\0\x0AIDAT\x78\x9C\x63\x68\0\0\0\x82\0\x81\x77\xCD\x72\xB6"
+    "\0\0\0\0IEND\xAE\x42\x60\x82",
+    67);
+const std::string kJpeg("\xFF\xD8\xFF\xE0\0\x10JFIF\0 y unos bytes cualesquiera\xFF\xD9", 39);
+
+class OrdenImagen : public pruebas::Ordenes {
+ protected:
+  void SetUp() override {
+    Ordenes::SetUp();
+    if (IsSkipped()) return;
+    pruebas::GuardarProyectoPrueba(proyecto, "D3", 100, 1);
+    EscribirFichero(raiz / "foto.jpg", kJpeg);
+    EscribirFichero(raiz / "plano.jpg", kPng);
+  }
+  ResultadoProceso Imagen(std::vector<std::string> argumentos) const {
+    return Orden("imagen", proyecto.string(), std::move(argumentos));
+  }
+  std::string Ruta(const std::string& nombre) const { return (raiz / nombre).string(); }
+
+  fs::path proyecto = raiz / "casa.xml";
+};
+
+TEST_F(OrdenImagen, PoneYExtrae) {
+  const std::string antes = LeerFichero(proyecto);
+  auto r = Imagen({"--edificio", Ruta("foto.jpg"), "--salida", Ruta("otra.xml")});
+  ASSERT_EQ(r.codigo, 0) << r.errores;
+  EXPECT_THAT(r.salida, HasSubstr("otra.xml"));
+  EXPECT_EQ(LeerFichero(proyecto), antes);
+  proyecto = raiz / "otra.xml";
+  // El plano se pone en el mismo fichero, y la foto que ya tenía sigue.
+  ASSERT_EQ(Imagen({"--plano", Ruta("plano.jpg")}).codigo, 0);
+  r = Imagen({"--extraer", Ruta("sacadas/hoy")});
+  ASSERT_EQ(r.codigo, 0) << r.errores;
+  EXPECT_EQ(LeerFichero(raiz / "sacadas/hoy/imageEdificio.jpg"), kJpeg);
+  EXPECT_EQ(LeerFichero(raiz / "sacadas/hoy/imagePlano.png"), kPng);
+}
+
+TEST_F(OrdenImagen, LoQueNoSePuedeDejaElProyectoComoEstaba) {
+  const std::string antes = LeerFichero(proyecto);
+  EXPECT_EQ(Imagen({}).codigo, 2);
+  EXPECT_EQ(Imagen({"--edificio", Ruta("foto.jpg"), "--extraer", Ruta("s")}).codigo, 2);
+  EXPECT_EQ(Imagen({"--salida", Ruta("s.xml")}).codigo, 2);
+  auto r = Imagen({"--edificio", Ruta("foto.jpg"), "--plano", Ruta("falta.png")});
+  EXPECT_EQ(r.codigo, 3);
+  EXPECT_THAT(r.errores, HasSubstr("No se pudo abrir el archivo"));
+  r = Imagen({"--edificio", proyecto.string()});
+  EXPECT_EQ(r.codigo, 3);
+  EXPECT_THAT(r.errores, HasSubstr("no es una imagen JPEG ni PNG"));
+  r = Imagen({"--extraer", Ruta("s")});
+  EXPECT_EQ(r.codigo, 3);
+  EXPECT_THAT(r.errores, HasSubstr("no tiene ninguna imagen"));
+  EXPECT_EQ(LeerFichero(proyecto), antes);
+  // El nombre de un fichero que ya existe no puede ser una carpeta.
+  ASSERT_EQ(Imagen({"--edificio", Ruta("foto.jpg")}).codigo, 0);
+  EXPECT_EQ(Imagen({"--extraer", Ruta("foto.jpg")}).codigo, 3);
 }
 
 }  // namespace

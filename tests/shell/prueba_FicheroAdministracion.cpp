@@ -12,14 +12,19 @@
 #include "base/NumeroTexto.h"
 #include "calculation/CompletarProyecto.h"
 #include "calculation/EjecutarCalculo.h"
+#include "files/CaminoXml.h"
 #include "files/CarpetaTemporal.h"
 #include "files/ProyectoFichero.h"
 #include "improvements/EstudioMejoras.h"
+#include "model/Cambios.h"
+#include "outputs/administracion/CamposObligatorios.h"
 
 namespace novex {
 namespace {
 
 namespace fs = std::filesystem;
+using pruebas::En;
+using pruebas::Texto;
 
 constexpr const char* kEsquema = "xsd/informe_evaluacion_energetica_20.xsd";
 
@@ -49,18 +54,12 @@ std::vector<fs::path> ProyectosDe(const fs::path& carpeta) {
 
 // Los datos administrativos que un proyecto no traiga.
 void Completar(Edificio& edificio) {
-  DatosGenerales g = edificio.GetDatosGenerales();
-  for (auto campo :
-       {&DatosGenerales::Certificador_Nombre, &DatosGenerales::Certificador_Empresa,
-        &DatosGenerales::Certificador_Direccion, &DatosGenerales::Certificador_CP,
-        &DatosGenerales::Certificador_email, &DatosGenerales::Certificador_Movil,
-        &DatosGenerales::Certificador_Profesion, &DatosGenerales::Certificador_Provincia,
-        &DatosGenerales::Certificador_Localidad, &DatosGenerales::Certificador_NIF,
-        &DatosGenerales::Edificio_Titulo, &DatosGenerales::AnoConstruccion,
-        &DatosGenerales::Direccion, &DatosGenerales::CodigoPostal})
-    if ((g.*campo).empty()) g.*campo = "Dato <de> \"prueba\" & ]]> ñ";
-  g.NumeroVisitas = std::max(g.NumeroVisitas, 1.0F);
-  edificio.SetDatosGenerales(g);
+  pruebas::CambiarGenerales(edificio, [](DatosGenerales& g) {
+    for (auto campo : pruebas::kCamposObligatorios)
+      if ((g.*campo).empty()) g.*campo = "Dato <de> \"prueba\" & ]]> ñ";
+    if (g.Certificador_NIF.empty()) g.Certificador_NIF = "Dato";
+    g.NumeroVisitas = std::max(g.NumeroVisitas, 1.0F);
+  });
   DatosPantalla pantalla = edificio.GetDatosPantalla();
   pantalla.Registro = "DGC";
   pantalla.referencias = {{"1234501VK3713S", "0001AB", "Vivienda"}};
@@ -69,12 +68,8 @@ void Completar(Edificio& edificio) {
   edificio.SetDatosPantalla(pantalla);
 }
 
-XMLNode En(XMLNode nodo, std::initializer_list<const char*> camino) {
-  for (const char* etiqueta : camino) nodo = nodo.childNamed(etiqueta);
-  return nodo;
-}
-double Cifra(const XMLNode& nodo, std::initializer_list<const char*> camino) {
-  return RealInicial(En(nodo, camino).textAt(0).value_or(""));
+double Cifra(const XMLNode& nodo, std::string_view camino) {
+  return RealInicial(Texto(nodo, camino));
 }
 
 // La energía primaria y las emisiones que salen de multiplicar los vectores del propio informe por
@@ -85,7 +80,8 @@ double DeVectores(const XMLNode& consumo, const char* factores) {
   for (std::size_t i = 0; i < vectores.childCount(); ++i) {
     const XMLNode v = vectores.childAt(i);
     const std::string nombre(*v.nameOf());
-    suma += Cifra(v, {"Global"}) * Cifra(consumo, {"FactoresdePaso", factores, nombre.c_str()});
+    suma += Cifra(v, "Global") *
+            Cifra(consumo, std::string("FactoresdePaso/") + factores + "/" + nombre);
   }
   return suma;
 }
@@ -134,23 +130,24 @@ TEST_F(FicheroAdministracion, LosEjemplosPasanSinCompletarlosYCuadranConElCalcul
     ASSERT_EQ(escritura.fin, FinAdministracion::Escrito);
     const XMLNode n = XMLNode::loadFile(escritura.informe, "DatosEnergeticosDelEdificio");
     const ResultadosCaso& r = Base().GetCalculo()->resultados;
-    const double nren = Cifra(n, {"Consumo", "EnergiaPrimariaNoRenovable", "Global"});
-    const double co2 = Cifra(n, {"EmisionesCO2", "Global"});
+    const double nren = Cifra(n, "Consumo/EnergiaPrimariaNoRenovable/Global");
+    const double co2 = Cifra(n, "EmisionesCO2/Global");
     EXPECT_NEAR(nren, static_cast<double>(r.total[kPrimariaNoRenovable]), 0.0051);
     EXPECT_NEAR(co2, static_cast<double>(r.total[kEmisiones]), 0.0051);
     const XMLNode consumo = n.childNamed("Consumo");
     EXPECT_NEAR(DeVectores(consumo, "FinalAPrimariaNoRenovable"), nren, 0.03);
     EXPECT_NEAR(DeVectores(consumo, "FinalAEmisiones"), co2, 0.02);
-    EXPECT_NEAR(
-        Cifra(n, {"EmisionesCO2", "ConsumoElectrico"}) + Cifra(n, {"EmisionesCO2", "ConsumoOtros"}),
-        co2, 0.011);
-    EXPECT_GE(Cifra(n, {"EmisionesCO2", "ConsumoOtros"}), 0.0);
+    EXPECT_NEAR(Cifra(n, "EmisionesCO2/ConsumoElectrico") + Cifra(n, "EmisionesCO2/ConsumoOtros"),
+                co2, 0.011);
+    EXPECT_GE(Cifra(n, "EmisionesCO2/ConsumoOtros"), 0.0);
     const bool nuevo = Base().GetDatosGenerales().Modo_trabajo == "Nuevo";
     const XMLNode letras = n.childNamed("Calificacion");
     const auto letra = [&](const char* bloque) {
-      return std::string(En(letras, {bloque, "Global"}).textAt(0).value_or(""));
+      return Texto(letras, std::string(bloque) + "/Global");
     };
-    const auto escala = [&](const char* bloque) { return En(letras, {bloque, "EscalaGlobal"}); };
+    const auto escala = [&](const char* bloque) {
+      return En(letras, std::string(bloque) + "/EscalaGlobal");
+    };
     EXPECT_EQ(letra("EnergiaPrimariaNoRenovable"),
               std::string(1, LetraDe(escala("EnergiaPrimariaNoRenovable"), nren, nuevo)));
     EXPECT_EQ(letra("EmisionesCO2"), std::string(1, LetraDe(escala("EmisionesCO2"), co2, nuevo)));
@@ -205,9 +202,7 @@ TEST_F(FicheroAdministracion, ElInformeSeAbreComoProyecto) {
 TEST_F(FicheroAdministracion, LoQueSeRechazaNoEscribeNada) {
   const auto rechazo = [&](auto cambio) {
     Abrir(Ejemplo());
-    DatosGenerales g = Base().GetDatosGenerales();
-    cambio(g);
-    Base().SetDatosGenerales(g);
+    pruebas::CambiarGenerales(Base(), cambio);
     const auto escritura = Escribir(carpeta / "casa.xml");
     EXPECT_EQ(escritura.fin, FinAdministracion::Rechazado);
     EXPECT_FALSE(fs::exists(carpeta / "casa.xml"));
@@ -252,7 +247,7 @@ TEST_F(FicheroAdministracion, NoRepiteElCalculoYDejaHacerElInformeAOtro) {
   pedido.convertidor = [](const fs::path&, const fs::path&) { return false; };
   ASSERT_EQ(Escribir(carpeta / "casa.xml").fin, FinAdministracion::Escrito);
   const XMLNode n = XMLNode::loadFile(dado, "DatosEnergeticosDelEdificio");
-  EXPECT_EQ(Cifra(n, {"Demanda", "EdificioObjeto", "Calefaccion"}), 12.34);
+  EXPECT_EQ(Cifra(n, "Demanda/EdificioObjeto/Calefaccion"), 12.34);
   EXPECT_EQ(Base().GetCalculo().get(), antes);
 }
 
@@ -265,12 +260,12 @@ TEST_F(FicheroAdministracion, ElProyectoDiceLasMejorasQueSeHanPodidoCalcular) {
   const auto escritura = Escribir(carpeta / "casa.xml");
   ASSERT_EQ(escritura.fin, FinAdministracion::Escrito);
   const XMLNode novex = En(XMLNode::loadFile(escritura.proyecto, "DatosEnergeticosDelEdificio"),
-                           {"DatosPersonalizados", "Novex"});
+                           "DatosPersonalizados/Novex");
   const XMLNode medidas = novex.childNamed("MedidasMejora");
   EXPECT_EQ(medidas.childNamed("SinPosibilidadMejora").textAt(0), "No");
   EXPECT_EQ(medidas.childCount(), 3U);  // una medida y la secuencia
-  EXPECT_EQ(Cifra(medidas, {"MedidaMejora", "Indicadores", "Emisiones", "Tot"}),
-            Cifra(novex, {"Indicadores", "Emisiones", "Tot"}));  // es una copia de la base
+  EXPECT_EQ(Cifra(medidas, "MedidaMejora/Indicadores/Emisiones/Tot"),
+            Cifra(novex, "Indicadores/Emisiones/Tot"));  // es una copia de la base
 }
 
 TEST_F(FicheroAdministracion, LasMedidasMarcadasSonLasDelEstudio) {
@@ -282,9 +277,9 @@ TEST_F(FicheroAdministracion, LasMedidasMarcadasSonLasDelEstudio) {
                        estudio->MedirCodigo(11)[CifraMedida::EmisionesTotal];
   const auto escritura = Escribir(carpeta / "casa.xml");
   const XMLNode medidas =
-      En(XMLNode::loadFile(escritura.informe, "DatosEnergeticosDelEdificio"), {"MedidasDeMejora"});
+      En(XMLNode::loadFile(escritura.informe, "DatosEnergeticosDelEdificio"), "MedidasDeMejora");
   ASSERT_EQ(medidas.childCount(), 1U);
-  EXPECT_NEAR(Cifra(medidas.childAt(0), {"EmisionesCO2", "GlobalDiferenciaSituacionInicial"}),
+  EXPECT_NEAR(Cifra(medidas.childAt(0), "EmisionesCO2/GlobalDiferenciaSituacionInicial"),
               static_cast<double>(ahorro), 0.0051);
   EXPECT_GT(ahorro, 0.0F);
 }

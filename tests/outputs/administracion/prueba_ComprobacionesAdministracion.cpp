@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "model/Catastro.h"
+#include "outputs/administracion/CamposObligatorios.h"
 
 namespace novex {
 namespace {
@@ -12,15 +13,8 @@ namespace {
 class Administracion : public testing::Test {
  protected:
   Administracion() {
-    for (auto campo :
-         {&DatosGenerales::Certificador_Nombre, &DatosGenerales::Certificador_Empresa,
-          &DatosGenerales::Certificador_Direccion, &DatosGenerales::Certificador_CP,
-          &DatosGenerales::Certificador_email, &DatosGenerales::Certificador_Movil,
-          &DatosGenerales::Certificador_Profesion, &DatosGenerales::Certificador_Provincia,
-          &DatosGenerales::Certificador_Localidad, &DatosGenerales::Certificador_NIF,
-          &DatosGenerales::Edificio_Titulo, &DatosGenerales::AnoConstruccion,
-          &DatosGenerales::Direccion, &DatosGenerales::CodigoPostal})
-      g.*campo = "x";
+    for (auto campo : pruebas::kCamposObligatorios) g.*campo = "x";
+    g.Certificador_NIF = "x";
     g.NumeroVisitas = 1;
     pantalla.referencias = {{"1234501VK3713S", "0001AB", "Vivienda"}};
   }
@@ -37,14 +31,7 @@ class Administracion : public testing::Test {
 TEST_F(Administracion, CadaDatoObligatorioHaceFalta) {
   EXPECT_EQ(Comprobar(), std::nullopt);
   const auto todos = g;
-  for (auto campo :
-       {&DatosGenerales::Certificador_Nombre, &DatosGenerales::Certificador_Empresa,
-        &DatosGenerales::Certificador_Direccion, &DatosGenerales::Certificador_CP,
-        &DatosGenerales::Certificador_email, &DatosGenerales::Certificador_Movil,
-        &DatosGenerales::Certificador_Profesion, &DatosGenerales::Certificador_Provincia,
-        &DatosGenerales::Certificador_Localidad, &DatosGenerales::Edificio_Titulo,
-        &DatosGenerales::AnoConstruccion, &DatosGenerales::Direccion,
-        &DatosGenerales::CodigoPostal}) {
+  for (auto campo : pruebas::kCamposObligatorios) {
     for (const char* vacio : {"", " \t\r\n"}) {
       g = todos;
       g.*campo = vacio;

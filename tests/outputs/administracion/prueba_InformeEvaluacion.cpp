@@ -8,6 +8,7 @@
 #include "base/NumeroTexto.h"
 #include "base/Texto.h"
 #include "calculation/Entorno.h"
+#include "files/CaminoXml.h"
 #include "model/Cambios.h"
 #include "outputs/CasoPrueba.h"
 #include "outputs/administracion/EscrituraInforme.h"
@@ -18,25 +19,10 @@
 namespace novex {
 namespace {
 
+using pruebas::En;
+using pruebas::Texto;
 using testing::HasSubstr;
 using testing::Not;
-
-// El elemento de un camino "A/B/C", o vacío.
-XMLNode En(XMLNode nodo, std::string_view camino) {
-  while (!camino.empty()) {
-    const std::size_t barra = std::min(camino.find('/'), camino.size());
-    nodo = nodo.childNamed(camino.substr(0, barra));
-    camino.remove_prefix(std::min(barra + 1, camino.size()));
-  }
-  return nodo;
-}
-
-// El texto de un elemento; "(falta)" si no está.
-std::string Texto(const XMLNode& nodo, std::string_view camino) {
-  const XMLNode hallado = En(nodo, camino);
-  if (!hallado) return "(falta)";
-  return std::string(hallado.textAt(0).value_or(""));
-}
 
 // Una vivienda D3 de 100 m2 con energías puestas a mano, por m2 y año.
 class Informe : public testing::Test {

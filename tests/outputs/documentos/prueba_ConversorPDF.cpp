@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <lodepng.h>
 
 #include <array>
 #include <cstdlib>
@@ -10,6 +9,7 @@
 #include "base/FicheroSeguro.h"
 #include "base/Proceso.h"
 #include "files/CarpetaTemporal.h"
+#include "files/ImagenPrueba.h"
 
 namespace novex {
 namespace {
@@ -173,16 +173,6 @@ TEST_F(ConversorDePDF, SeEligeElQueHay) {
   EXPECT_FALSE(fs::exists(weasyprint.string() + ".argumentos"));
 }
 
-std::string Png() {
-  const std::array<unsigned char, 12> pixeles{255, 0, 0, 0, 255, 0, 0, 0, 255, 9, 8, 7};
-  unsigned char* datos = nullptr;
-  std::size_t n = 0;
-  EXPECT_EQ(lodepng_encode24(&datos, &n, pixeles.data(), 2, 2), 0U);
-  std::string png(reinterpret_cast<const char*>(datos), n);
-  std::free(datos);
-  return png;
-}
-
 // Lo que dice un programa de poppler de un PDF.
 std::string Mirar(const char* programa, const std::vector<std::string>& argumentos) {
   return EjecutarProceso({BuscarPrograma(programa), argumentos, {}}).salida;
@@ -194,7 +184,7 @@ TEST_F(ConversorDePDF, WeasyPrintDeVerdad) {
     GTEST_SKIP() << "sin weasyprint o sin poppler";
   const fs::path rara = carpeta / "salida/-a b' \"ñ\" #1?x=%20&[page]";
   fs::create_directories(rara);
-  EscribirFichero(rara / "foto#.png", Png());
+  EscribirFichero(rara / "foto#.png", pruebas::Png());
   EscribirFichero(rara / "-c#d?.html",
                   "<!DOCTYPE html><html><head><meta charset=\"utf-8\"></head><body>"
                   "<p>Calificación energética</p><img src=\"foto%23.png\">"
