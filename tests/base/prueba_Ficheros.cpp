@@ -96,13 +96,10 @@ TEST_F(FicheroSeguro, LeerLoQueNoEsUnFicheroCorrienteOEsEnorme) {
   fs::resize_file(enorme, kTamanoMaximoFichero + 1);  // hueco: no ocupa disco
   EXPECT_THROW(LeerFichero(enorme), ErrorFichero);
   const fs::path ruta = carpeta_ / "falta.xml";
-  try {
-    LeerFichero(ruta);
-    FAIL() << "ha leído un fichero que no existe";
-  } catch (const ErrorFichero& error) {
-    EXPECT_EQ(error.ruta, ruta.string());
-    EXPECT_NE(std::string(error.what()).find(ruta.string()), std::string::npos);
-  }
+  EXPECT_THAT([&] { LeerFichero(ruta); },
+              testing::Throws<ErrorFichero>(testing::Field(&ErrorFichero::ruta, ruta.string())));
+  EXPECT_THAT([&] { LeerFichero(ruta); },
+              testing::ThrowsMessage<ErrorFichero>(HasSubstr(ruta.string())));
 }
 
 using namespace std::chrono_literals;

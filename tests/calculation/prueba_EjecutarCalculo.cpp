@@ -143,13 +143,10 @@ TEST(EjecutarCalculo, UnRendimientoNuloSeDiceConSuNombre) {
                   "<DEFECTO><DEFECTO RENDACSR=\"0.92\" RENDCALER=\"0\" RENDREFRIR=\"2.6\"/>"
                   "</DEFECTO>");
   const auto caja = CajaCaliente();
-  try {
-    programa.Calcular(*caja);
-    ADD_FAILURE() << "No ha fallado";
-  } catch (const ErrorFichero& error) {
-    EXPECT_THAT(error.what(), HasSubstr("RENDCALER"));
-    EXPECT_THAT(error.ruta, HasSubstr("Defecto.xml"));
-  }
+  EXPECT_THAT([&] { programa.Calcular(*caja); },
+              testing::Throws<ErrorFichero>(
+                  testing::AllOf(testing::Property(&ErrorFichero::what, HasSubstr("RENDCALER")),
+                                 testing::Field(&ErrorFichero::ruta, HasSubstr("Defecto.xml")))));
 }
 
 TEST(EjecutarCalculo, UnDiaSinClasePideElUsoDePartida) {

@@ -217,36 +217,26 @@ TEST(FraccionSolCercana, PesaLasHorasConElCieloClaro) {
 }
 
 TEST(FraccionPersianaU, DeDiaPorElControlYDeNochePorLaEstacion) {
-  EXPECT_FLOAT_EQ(FraccionPersianaU(9, true, 0, 0), 0.1F);
-  EXPECT_FLOAT_EQ(FraccionPersianaU(19, true, 5, 0), 0.4F);
-  EXPECT_FLOAT_EQ(FraccionPersianaU(12, true, 8, 0), 0.5F);
-  EXPECT_EQ(FraccionPersianaU(8, true, 8, 0), 0.0F);
-  EXPECT_EQ(FraccionPersianaU(20, true, 8, 0), 0.0F);
-  EXPECT_FLOAT_EQ(FraccionPersianaU(9, false, 0, 4), 0.3F);
-  EXPECT_FLOAT_EQ(FraccionPersianaU(19, false, 0, 1), 0.7F);
-  EXPECT_EQ(FraccionPersianaU(8, false, 0, 1), 1.0F);
-  EXPECT_EQ(FraccionPersianaU(24, false, 0, 1), 1.0F);
-  EXPECT_EQ(FraccionPersianaU(12, true, 9, 0), 0.0F);
-  EXPECT_EQ(FraccionPersianaU(12, false, 0, -1), 0.0F);
+  const std::tuple<int, bool, int, int, float> casos[] = {
+      {9, true, 0, 0, 0.1F}, {19, true, 5, 0, 0.4F}, {12, true, 8, 0, 0.5F},  {8, true, 8, 0, 0},
+      {20, true, 8, 0, 0},   {9, false, 0, 4, 0.3F}, {19, false, 0, 1, 0.7F}, {8, false, 0, 1, 1},
+      {24, false, 0, 1, 1},  {12, true, 9, 0, 0},    {12, false, 0, -1, 0}};
+  for (const auto& [hora, verano, deVerano, deInvierno, fraccion] : casos)
+    EXPECT_FLOAT_EQ(FraccionPersianaU(hora, verano, deVerano, deInvierno), fraccion)
+        << hora << " h, controles " << deVerano << " y " << deInvierno;
 }
 
 TEST(FraccionPersianaSol, PorElControlElUmbralYLaHora) {
-  EXPECT_EQ(FraccionPersianaSol(12, true, 0, 0, 300), 0.0F);
-  EXPECT_FLOAT_EQ(FraccionPersianaSol(12, true, 0, 0, 301), 0.5F);
-  EXPECT_EQ(FraccionPersianaSol(12, true, 1, 0, 500), 0.0F);
-  EXPECT_FLOAT_EQ(FraccionPersianaSol(9, true, 2, 0, 400), 0.7F);
-  EXPECT_FLOAT_EQ(FraccionPersianaSol(19, true, 5, 0, 501), 0.9F);
-  EXPECT_EQ(FraccionPersianaSol(20, true, 5, 0, 501), 0.0F);
-  // Los controles 6 a 8 actúan a cualquier hora con sol.
-  EXPECT_FLOAT_EQ(FraccionPersianaSol(7, true, 8, 0, 1), 0.9F);
-  EXPECT_FLOAT_EQ(FraccionPersianaSol(12, true, 6, 0, 1), 0.5F);
-  EXPECT_EQ(FraccionPersianaSol(12, true, 6, 0, 0), 0.0F);
-  EXPECT_EQ(FraccionPersianaSol(12, true, 9, 0, 800), 0.0F);
-  // En invierno, solo sin sol.
-  EXPECT_EQ(FraccionPersianaSol(12, false, 8, 3, 1), 0.0F);
-  EXPECT_FLOAT_EQ(FraccionPersianaSol(12, false, 8, 2, 0), 0.9F);
-  EXPECT_FLOAT_EQ(FraccionPersianaSol(23, false, 8, 4, 0), 0.3F);
-  EXPECT_EQ(FraccionPersianaSol(23, false, 8, 5, 0), 0.0F);
+  // Los controles 6 a 8 actúan a cualquier hora con sol; en invierno, solo sin sol.
+  const std::tuple<int, bool, int, int, float, float> casos[] = {
+      {12, true, 0, 0, 300, 0},   {12, true, 0, 0, 301, 0.5F}, {12, true, 1, 0, 500, 0},
+      {9, true, 2, 0, 400, 0.7F}, {19, true, 5, 0, 501, 0.9F}, {20, true, 5, 0, 501, 0},
+      {7, true, 8, 0, 1, 0.9F},   {12, true, 6, 0, 1, 0.5F},   {12, true, 6, 0, 0, 0},
+      {12, true, 9, 0, 800, 0},   {12, false, 8, 3, 1, 0},     {12, false, 8, 2, 0, 0.9F},
+      {23, false, 8, 4, 0, 0.3F}, {23, false, 8, 5, 0, 0}};
+  for (const auto& [hora, verano, deVerano, deInvierno, sol, fraccion] : casos)
+    EXPECT_FLOAT_EQ(FraccionPersianaSol(hora, verano, deVerano, deInvierno, sol), fraccion)
+        << hora << " h, controles " << deVerano << " y " << deInvierno << ", " << sol << " W/m2";
 }
 
 TEST(FactorSombraFija, PorIndiceYOrientacion) {

@@ -170,12 +170,8 @@ TEST_F(ProyectoFichero, ElCaminoAcabaEnXml) {
   gestor_.ActivarCaso("Mejora_1");
   EXPECT_EQ(GuardarProyecto(gestor_, carpeta_ / "g.txt"), carpeta_ / "g.xml");
   EXPECT_EQ(gestor_.NombreActivo(), "Mejora_1");
-  try {
-    GuardarProyecto(gestor_, carpeta_ / "no/esta/g.xml");
-    FAIL();
-  } catch (const ErrorFichero& e) {
-    EXPECT_EQ(e.codigo, 15);
-  }
+  EXPECT_THAT([&] { GuardarProyecto(gestor_, carpeta_ / "no/esta/g.xml"); },
+              testing::Throws<ErrorFichero>(testing::Field(&ErrorFichero::codigo, 15)));
 }
 
 TEST_F(ProyectoFichero, LaMarcaDeOrdenSigueAlFicheroAbierto) {

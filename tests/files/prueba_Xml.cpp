@@ -1,3 +1,4 @@
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <utility>
@@ -215,15 +216,11 @@ TEST(ErroresXml, CadaFalloDaSuCodigoConLineaYColumna) {
 
 TEST(ErroresXml, UnFicheroQueFaltaEsElCodigo10YUnaCarpetaTambien) {
   const pruebas::CarpetaTemporal carpeta;
-  for (const auto& ruta : {carpeta / "no.xml", carpeta / ""}) {
-    try {
-      XMLNode::loadFile(ruta, "a");
-      FAIL();
-    } catch (const ErrorFichero& e) {
-      EXPECT_EQ(e.codigo, 10);
-      EXPECT_EQ(e.ruta, ruta.string());
-    }
-  }
+  for (const auto& ruta : {carpeta / "no.xml", carpeta / ""})
+    EXPECT_THAT([&] { XMLNode::loadFile(ruta, "a"); },
+                testing::Throws<ErrorFichero>(
+                    testing::AllOf(testing::Field(&ErrorFichero::codigo, 10),
+                                   testing::Field(&ErrorFichero::ruta, ruta.string()))));
 }
 
 TEST(ErroresXml, ElAnidamientoYElNumeroDeElementosTienenLimite) {

@@ -162,52 +162,40 @@ TEST(ValorSinComprobar, LosVaciosYLosCerosNoAvisan) {
   EXPECT_EQ(mensajes.recibidos[0].titulo, kLetraNoReal);
 }
 
-struct Muestra {
-  const char* registro;
-  const char* parte;
-  std::string texto;
-  bool correcta;
-};
-
 TEST(Catastro, FormaDeCadaParte) {
-  const std::vector<Muestra> muestras = {
-      {"DGC", "Parcela", "9872023VH5797S", true},
-      {"DGC", "Parcela", "9872023VH5797Sab", true},  // las minúsculas no cuentan ni estorban
-      {"DGC", "Parcela", "9872023VH5797", false},
-      {"DGC", "Parcela", "9872023 VH5797S", false},
-      {"DGC", "Inmueble", "1234AB", true},
-      {"DGC", "Inmueble", "12345A", false},
-      {"DGC", "Inmueble", "1234ab", false},
-      {"AFA", "Parcela", "12345678", true},
-      {"AFA", "Parcela", "12ABCabc345678", true},
-      {"AFA", "Parcela", "1234-5678", false},
-      {"AFA", "Inmueble", "A112345678BC", true},
-      {"AFA", "Inmueble", "a112345678BC", false},
-      {"AFA", "Inmueble", "A1A2345678BC", false},
-      {"BFA", "Parcela", "123456789012", true},
-      {"BFA", "Inmueble", "0123", true},
-      {"BFA", "Inmueble", "012A", false},
-      {"GFA", "Parcela", "123456789", true},
-      {"GFA", "Inmueble", "1234567A", true},
-      {"GFA", "Inmueble", "123456AA", false},
-      {"RRTN", "Parcela", "123456789", true},
-      {"RRTN", "Inmueble", "31000000001234567AB", false},
-      {"RRTN", "Inmueble", "310000000123456789AB", true},
-      {"RRTN", "Inmueble", "31000000012345678AAB", false},
-      {"AFA", "Parte", "ab-", true},
-      {"DGC", "Parte", "a-_", true},
-      {"DGC", "Parte", "a--b", false},
-      {"DGC", "Parte", "ab", false},
-      {"DGC", "Parte", "cañon", false},
-      {"BFA", "Parte", std::string(36, 'x'), true},
-      {"BFA", "Parte", std::string(37, 'x'), false},
-      {"BFA", "Otra", "abc", false},
-      {"XXX", "Inmueble", "1234AB", false},
+  struct Muestra {
+    const char *registro, *parte;
+    std::vector<std::string> buenas, malas;
   };
-  for (const Muestra& m : muestras)
-    EXPECT_EQ(ComprobarParteCatastro(m.texto, m.registro, m.parte),
-              m.correcta ? kCorrecto : kIncorrecto)
-        << m.registro << " " << m.parte << " " << m.texto;
+  // En la parcela del catastro las minúsculas no cuentan ni estorban.
+  const Muestra muestras[] = {
+      {"DGC",
+       "Parcela",
+       {"9872023VH5797S", "9872023VH5797Sab"},
+       {"9872023VH5797", "9872023 VH5797S"}},
+      {"DGC", "Inmueble", {"1234AB"}, {"12345A", "1234ab"}},
+      {"DGC", "Parte", {"a-_"}, {"a--b", "ab", "cañon"}},
+      {"AFA", "Parcela", {"12345678", "12ABCabc345678"}, {"1234-5678"}},
+      {"AFA", "Inmueble", {"A112345678BC"}, {"a112345678BC", "A1A2345678BC"}},
+      {"AFA", "Parte", {"ab-"}, {}},
+      {"BFA", "Parcela", {"123456789012"}, {}},
+      {"BFA", "Inmueble", {"0123"}, {"012A"}},
+      {"BFA", "Parte", {std::string(36, 'x')}, {std::string(37, 'x')}},
+      {"GFA", "Parcela", {"123456789"}, {}},
+      {"GFA", "Inmueble", {"1234567A"}, {"123456AA"}},
+      {"RRTN", "Parcela", {"123456789"}, {}},
+      {"RRTN",
+       "Inmueble",
+       {"310000000123456789AB"},
+       {"31000000001234567AB", "31000000012345678AAB"}},
+      {"BFA", "Otra", {}, {"abc"}},
+      {"XXX", "Inmueble", {}, {"1234AB"}}};
+  for (const auto& [registro, parte, buenas, malas] : muestras) {
+    for (const std::string& texto : buenas)
+      EXPECT_EQ(ComprobarParteCatastro(texto, registro, parte), kCorrecto) << texto;
+    for (const std::string& texto : malas)
+      EXPECT_EQ(ComprobarParteCatastro(texto, registro, parte), kIncorrecto) << texto;
+  }
   for (const auto registro : kRegistrosCatastro)
     for (const auto parte : kPartesCatastro) {
       EXPECT_EQ(ComprobarParteCatastro("", registro, parte), kIncorrecto);

@@ -219,19 +219,11 @@ TEST(MismosRegistros, CualquierCambioGuardadoLosHaceDistintos) {
       [](Edificio& x) { x.SetEstudioModificaciones({}); },
       [](Edificio& x) { x.SetVentilacion({}); },
       [](Edificio& x) { x.SetObstaculosRemotos({}); },
-      [](Edificio& x) {
-        Localizacion l;
-        l.latitud = 41;
-        x.SetLocalizacion(l);
-      },
+      [](Edificio& x) { pruebas::CambiarLugar(x, [](auto& l) { l.latitud = 41; }); },
       [](Edificio& x) {
         pruebas::CambiarGenerales(x, [](DatosGenerales& g) { g.perfiles.tabla[CCAC][8][24] = 1; });
       },
-      [](Edificio& x) {
-        Construccion c;
-        c.fi_Puentes[puente_suelo_terreno] = 0.5F;
-        x.SetConstruccion(c);
-      },
+      [](Edificio& x) { pruebas::CambiarConstruccion(x, [](auto& c) { c.fi_Puentes[6] = 0.5F; }); },
       [](Edificio& x) {
         DatosPantalla p;
         p.Plano = std::make_shared<const std::string>("");

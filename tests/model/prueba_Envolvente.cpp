@@ -135,16 +135,12 @@ TEST(FactorSolarHueco, SumaVidrioYMarco) {
 }
 
 TEST(FactorProteccionMovil, PorElTipoDeVidrioOPorSuU) {
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 0, 1), 0.22F);
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 1, 5.7F), 0.2F);
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 4, 5.7F), 0.17F);
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 5, 5.01F), 0.22F);
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 5, 5), 0.2F);
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 9, 3), 0.2F);
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, -1, 1.6F), 0.17F);
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(4, 9, 1.59F), 0.13F);
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(12, 0, 1), 0.65F);
-  EXPECT_FLOAT_EQ(FactorProteccionMovil(13, 1, 1), 0.05F);
+  const std::tuple<int, int, float, float> casos[] = {
+      {4, 0, 1, 0.22F},  {4, 1, 5.7F, 0.2F}, {4, 4, 5.7F, 0.17F},  {4, 5, 5.01F, 0.22F},
+      {4, 5, 5, 0.2F},   {4, 9, 3, 0.2F},    {4, -1, 1.6F, 0.17F}, {4, 9, 1.59F, 0.13F},
+      {12, 0, 1, 0.65F}, {13, 1, 1, 0.05F}};
+  for (const auto& [proteccion, vidrio, U, factor] : casos)
+    EXPECT_FLOAT_EQ(FactorProteccionMovil(proteccion, vidrio, U), factor) << vidrio << " " << U;
   for (const int indice : {0, 14, -3}) EXPECT_EQ(FactorProteccionMovil(indice, 0, 1), 1.0F);
 }
 

@@ -12,6 +12,7 @@
 #include "files/CarpetaTemporal.h"
 #include "files/ImagenesProyecto.h"
 #include "files/ProyectoFichero.h"
+#include "model/Cambios.h"
 
 namespace novex {
 namespace {
@@ -111,16 +112,25 @@ TEST_F(EmitirDocumentoTest, CadaEjemploDaSusDocumentosConSusCifras) {
   EXPECT_EQ(ejemplos, 12);
 }
 
-TEST_F(EmitirDocumentoTest, LoQueEscribeElUsuarioNoEntraComoHtml) {
+TEST_F(EmitirDocumentoTest, LoQueEscribeElUsuarioNoEntraComoHtmlYSusImagenesSi) {
   Abrir("vivienda_unifamiliar_D3.xml");
-  DatosGenerales g = Generales();
-  g.Edificio_Titulo = "<script>alert(1)</script> _REFCAT_";
-  g.Memo[1] = {"<!--TAG:MEJORAS", "-->"};
-  gestor.Caso(caso::kViejo)->SetDatosGenerales(g);
+  Edificio& base = *gestor.Caso(caso::kViejo);
+  pruebas::CambiarGenerales(base, [](DatosGenerales& g) {
+    g.Edificio_Titulo = "<script>alert(1)</script> _REFCAT_";
+    g.Memo[1] = {"<!--TAG:MEJORAS", "-->"};
+  });
+  DatosPantalla pantalla = base.GetDatosPantalla();
+  pantalla.Imagen =
+      std::make_shared<const std::string>("<![CDATA[data:image/jpeg;base64,/9j/4AA=]]>");
+  pantalla.Plano = nullptr;
+  base.SetDatosPantalla(pantalla);
   const std::string html = LeerFichero(Emitir(TipoDocumento::Certi).html);
-  EXPECT_THAT(html, HasSubstr("&lt;script&gt;alert(1)&lt;/script&gt; &#95;REFCAT&#95;"));
-  EXPECT_THAT(html, Not(HasSubstr("<script")));
-  EXPECT_THAT(html, HasSubstr("&lt;!--TAG:MEJORAS"));
+  for (const char* parte : {"&lt;script&gt;alert(1)&lt;/script&gt; &#95;REFCAT&#95;",
+                            "&lt;!--TAG:MEJORAS", "imageEdificio.jpg", "sinimagen.bmp"})
+    EXPECT_THAT(html, HasSubstr(parte));
+  for (const char* parte : {"<script", "imagePlano.jpg"}) EXPECT_THAT(html, Not(HasSubstr(parte)));
+  EXPECT_EQ(LeerFichero(ficheros->Espacio().Imagenes() / "imageEdificio.jpg"),
+            std::string("\xFF\xD8\xFF\xE0\0", 5));
 }
 
 TEST_F(EmitirDocumentoTest, UnaHojaPorMejoraMarcada) {
@@ -140,21 +150,6 @@ TEST_F(EmitirDocumentoTest, UnaHojaPorMejoraMarcada) {
   EXPECT_THAT(Texto(Emitir(TipoDocumento::Certi).html), Not(HasSubstr("MEJORA 1")));
   ASSERT_EQ(mensajes.recibidos.size(), 1U);
   EXPECT_THAT(mensajes.recibidos[0].texto, HasSubstr("Como máximo sólo se pueden indicar 3"));
-}
-
-TEST_F(EmitirDocumentoTest, LasImagenesSonLasDelProyecto) {
-  Abrir("vivienda_unifamiliar_D3.xml");
-  DatosPantalla pantalla = gestor.Caso(caso::kViejo)->GetDatosPantalla();
-  pantalla.Imagen =
-      std::make_shared<const std::string>("<![CDATA[data:image/jpeg;base64,/9j/4AA=]]>");
-  pantalla.Plano = nullptr;
-  gestor.Caso(caso::kViejo)->SetDatosPantalla(pantalla);
-  const std::string html = LeerFichero(Emitir(TipoDocumento::Certi).html);
-  EXPECT_THAT(html, HasSubstr("imageEdificio.jpg"));
-  EXPECT_THAT(html, Not(HasSubstr("imagePlano.jpg")));
-  EXPECT_THAT(html, HasSubstr("sinimagen.bmp"));
-  EXPECT_EQ(LeerFichero(ficheros->Espacio().Imagenes() / "imageEdificio.jpg"),
-            std::string("\xFF\xD8\xFF\xE0\0", 5));
 }
 
 TEST_F(EmitirDocumentoTest, LoQueImpideElDocumento) {
