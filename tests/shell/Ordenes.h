@@ -10,13 +10,47 @@
 #include "base/Proceso.h"
 #include "demand/GeneradorClima.h"
 #include "files/CarpetaTemporal.h"
-#include "shell/ProyectoPrueba.h"
+#include "files/ProyectoFichero.h"
+#include "model/Cambios.h"
 
 #ifndef NOVEX_EJECUTABLE_CLI
 #define NOVEX_EJECUTABLE_CLI ""
 #endif
 
 namespace novex::pruebas {
+
+/// Guarda un proyecto con la zona y la superficie útil dadas en su caso base, y tantas mejoras
+/// iguales a él. Solo tiene un suelo adiabático, su consigna y el sistema de agua caliente: lo
+/// justo para poderse calcular; sin agua caliente, las mejoras no se pueden.
+inline void GuardarProyectoPrueba(const std::filesystem::path& ruta, const std::string& zona,
+                                  float superficie, int mejoras, bool mejorasSinACS = false) {
+  GestorEdifActivo gestor;
+  gestor.NuevoProyecto();
+  Edificio& base = gestor.Activo();
+  Recinto& recinto = base.GetRecinto(0);
+  recinto.Suelo_habitable_m2 = superficie;
+  recinto.Suelo_adiabatico_m2[0] = superficie;
+  base.GetComposicion(ranura::SueloOtro2).U = 1;
+  SistemaResidencial sistema;
+  sistema.Tipo_sistema = "ACS";
+  Instalaciones& generador = sistema.instalaciones.emplace_back();
+  generador.Seleccion = "1 Caldera";
+  generador.TipoInstalacionesG = "Individual/Vivienda";
+  generador.Distribucion = "Directo";
+  generador.Alimentacion = "Alimentación agua red";
+  generador.NEquipos = 1;
+  base.AnadirSistema(sistema);
+  PonerLugar(base, zona);
+  CambiarGenerales(base, [&](DatosGenerales& generales) {
+    generales.Equipos_Defecto = "SI";
+    generales.perfiles.tabla[CTCh][0].fill(20);
+  });
+  for (int i = 0; i < mejoras; ++i) {
+    gestor.AnadirMejora();
+    while (mejorasSinACS && gestor.Activo().NumeroSistemas() > 0) gestor.Activo().BorrarSistema(0);
+  }
+  GuardarProyecto(gestor, ruta);
+}
 
 using Ejecucion = ResultadoProceso;
 
