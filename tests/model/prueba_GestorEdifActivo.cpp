@@ -228,9 +228,7 @@ TEST_F(Gestor, LosCasosMovidosPierdenElCalculoYLosDemasNo) {
   gestor.EliminarCaso("Viejo");
   EXPECT_EQ(gestor.Caso("Viejo")->GetCalculo(), nullptr);
   EXPECT_EQ(vivos, 0);
-}
-
-TEST_F(Gestor, UnSegundoCalculoEsUnFalloDeQuienLlama) {
+  // Un segundo cálculo es un fallo de quien llama.
   DarCalculo("Viejo");
   EXPECT_THAT([&] { DarCalculo("Viejo"); },
               testing::ThrowsMessage<std::logic_error>("m_ptrcalculo==NULL"));

@@ -91,7 +91,7 @@ TEST_F(UsoPorDefecto, ElCalendarioEmpiezaEnLunesConLosFestivosNacionales) {
   EXPECT_EQ(perfiles().calendario[365], 0);
 }
 
-TEST_F(UsoPorDefecto, TerciarioTomaSusPicosYSuHorario) {
+TEST_F(UsoPorDefecto, LosTerciariosTienenSusPicosYTodaPosicionDatosCoherentes) {
   const XMLNode raiz = Catalogo(LeerCatalogo());
   ASSERT_TRUE(AplicarUsoPorDefecto(raiz, "8hB", edificio, mensajes));
   const float horas8 = Suma(perfiles().tabla[C1][0]);
@@ -101,13 +101,9 @@ TEST_F(UsoPorDefecto, TerciarioTomaSusPicosYSuHorario) {
             std::tuple("24hA", 10, 6.31F, 10, 7.5F));
   EXPECT_FLOAT_EQ(horas8, 800);  // 8 h al 100 %
   EXPECT_FLOAT_EQ(Suma(perfiles().tabla[C1][0]), 2400);
-}
-
-TEST_F(UsoPorDefecto, TodaPosicionDePerfilUsoTieneDatosCoherentes) {
   const char* claves[] = {"Residencial", "Residencial", "Residencial", "8hB",  "8hM",  "8hA",
                           "12hB",        "12hM",        "12hA",        "16hB", "16hM", "16hA",
                           "24hB",        "24hM",        "24hA",        "12hM"};
-  const XMLNode raiz = Catalogo(LeerCatalogo());
   for (int perfil = 0; perfil <= 15; ++perfil) {
     const std::string_view clave = ClaveUsoPorDefecto(perfil);
     EXPECT_EQ(clave, claves[perfil]);

@@ -60,9 +60,7 @@ TEST_F(LanzadorExterno, EnLaCarpetaDelProgramaConOSinExtension) {
   EXPECT_TRUE(LanzarExterno(espacio, programaExterno::kInspeccion, {"a b", "-c"}, m));
   EXPECT_EQ(Dicho("iEPB_Novex"), aqui + "a b\n-c\n");
   EXPECT_TRUE(m.recibidos.empty());
-}
-
-TEST_F(LanzadorExterno, LoQueNoSePuedeArrancarSeDice) {
+  // Lo que no se puede arrancar se dice.
   EXPECT_FALSE(LanzarExterno(espacio, "otro", {}, m));
   fs::create_directory(carpeta / "otro");  // una carpeta no es un programa
   EXPECT_FALSE(LanzarExterno(espacio, "otro", {}, m));
