@@ -1,7 +1,8 @@
 #include "outputs/ArbolVariables.h"
 
-#include <string_view>
+#include <sstream>
 
+#include "base/Texto.h"
 #include "outputs/VariablesFijas.h"
 #include "outputs/VariablesSistema.h"
 
@@ -36,6 +37,14 @@ std::vector<NodoVariable> ArbolVariables(const Edificio& edificio, const calculo
     if (v.existe == nullptr || v.existe(contexto)) nodos.push_back(Nodo(v));
   }
   return nodos;
+}
+
+bool SaleAlBuscar(const NodoVariable& nodo, std::string_view buscado) {
+  const std::string donde = ClaveBusqueda(nodo.grupo + " " + nodo.texto);
+  std::istringstream palabras(ClaveBusqueda(buscado));
+  for (std::string palabra; palabras >> palabra;)
+    if (donde.find(palabra) == std::string::npos) return false;
+  return true;
 }
 
 }  // namespace novex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/Serie.h"
@@ -33,5 +34,9 @@ struct NodoVariable {
 /// ventilación, una rama por instalación y las de energía solar si la hay.
 /// \param caso ya calculado; sin calcular faltan las que dejan los sistemas
 std::vector<NodoVariable> ArbolVariables(const Edificio& edificio, const calculo& caso);
+
+/// ¿Sale una variable al buscar un texto? Sí, si cada una de sus palabras está en el grupo o en el
+/// texto del nodo, sin contar mayúsculas ni acentos. Sin texto salen todas.
+bool SaleAlBuscar(const NodoVariable& nodo, std::string_view buscado);
 
 }  // namespace novex

@@ -25,11 +25,13 @@ std::vector<Celda> FilaHora(std::span<const SerieMostrada> series, const Columna
   return fila;
 }
 
-// Las series de un eje con la unidad de la primera.
+// Las series de un eje con la unidad de la primera. El periodo existe.
 Grafico Eje(const Edificio& edificio, const calculo& caso,
             const std::array<std::string, kSeriesPorEje>& codigos, const PeriodoSerie& periodo,
             std::vector<Mensaje>& avisos) {
-  Grafico eje;
+  // Sin ninguna serie tiene también las horas y el rótulo.
+  Grafico eje = *GraficoPeriodo({{}, {{}, {}, {}, std::vector<float>(kHorasAno)}}, periodo).valor;
+  eje.series.clear();
   bool hay = false;
   bool avisado = false;
   for (const std::string& codigo : codigos) {
@@ -47,13 +49,9 @@ Grafico Eje(const Edificio& edificio, const calculo& caso,
       continue;
     }
     Grafico uno = *GraficoPeriodo(*buscada.serie, periodo).valor;
-    if (!hay) {
-      uno.titulo = RotuloPeriodo(periodo);
-      eje = std::move(uno);
-      hay = true;
-    } else {
-      eje.series.push_back(std::move(uno.series.front()));
-    }
+    hay = true;
+    eje.ejeY = uno.ejeY;
+    eje.series.push_back(std::move(uno.series.front()));
   }
   return eje;
 }

@@ -43,7 +43,7 @@ struct SeleccionEjes {
 
 /// Gráfico de dos ejes: comparten las horas del horizontal.
 struct GraficoDosEjes {
-  Grafico izquierda, derecha;
+  Grafico izquierda, derecha;  ///< el que no tiene series lleva las horas y ninguna línea
   /// Por eje, el de que hay series con otra unidad, que no se dibujan; y los códigos que no
   /// existen.
   std::vector<Mensaje> avisos;

@@ -1,5 +1,6 @@
 #include "outputs/PeriodoSerie.h"
 
+#include <algorithm>
 #include <cctype>
 
 namespace novex {
@@ -31,6 +32,27 @@ std::string DiaDeSemana(int h) {
   std::string mes = Mes(h);
   mes[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(mes[0])));
   return std::to_string(DiaDelMes(h)) + " " + mes;
+}
+
+// Un número de 1 a `cuantos` que da la vuelta.
+int Ciclo(int n, int cuantos) {
+  return ((n - 1) % cuantos + cuantos) % cuantos + 1;
+}
+
+std::string NombreTramo(TipoPeriodo tipo, int ultima) {
+  constexpr std::size_t kLetrasMes = 3;
+  const std::string dia = DiaDeSemana(ultima);
+  switch (tipo) {
+    case TipoPeriodo::Anual:
+      return dia.substr(dia.find(' ') + 1, kLetrasMes);
+    case TipoPeriodo::Mensual:
+      return std::to_string(DiaDelMes(ultima));
+    case TipoPeriodo::Semanal:
+      return dia;
+    case TipoPeriodo::Diario:
+      break;
+  }
+  return std::to_string(HoraDelDia(ultima));
 }
 
 std::string NombreSemana(int semana) {
@@ -82,6 +104,34 @@ std::string RotuloPeriodo(const PeriodoSerie& p) {
       break;
   }
   return horas ? "Dia " + std::to_string(p.dia) + " " + Mes(horas->primera) + " " : "Dia";
+}
+
+PeriodoSerie PeriodoContiguo(PeriodoSerie p, int pasos) {
+  if (p.tipo == TipoPeriodo::Mensual) p.mes = Ciclo(p.mes + pasos, kMeses);
+  if (p.tipo == TipoPeriodo::Semanal) p.semana = Ciclo(p.semana + pasos, kSemanas);
+  if (p.tipo == TipoPeriodo::Diario) {
+    const auto mes = static_cast<std::size_t>(Ciclo(p.mes, kMeses));
+    const int dia = kUltimaHoraMes[mes - 1] / kHorasDia + std::clamp(p.dia, 1, kDiasMes[mes]);
+    const int h = (Ciclo(dia + pasos, kHorasAno / kHorasDia) - 1) * kHorasDia + 1;
+    p.mes = HoraDelMes(h);
+    p.dia = DiaDelMes(h);
+  }
+  return p;
+}
+
+std::vector<TramoPeriodo> TramosPeriodo(const PeriodoSerie& p) {
+  const auto horas = HorasDelPeriodo(p).valor;
+  if (!horas) return {};
+  std::vector<TramoPeriodo> tramos;
+  int ultima = horas->primera - 1;
+  while (ultima < horas->ultima) {
+    if (p.tipo == TipoPeriodo::Anual)
+      ultima = kUltimaHoraMes[static_cast<std::size_t>(HoraDelMes(ultima + 1))];
+    else
+      ultima += p.tipo == TipoPeriodo::Diario ? 1 : kHorasDia;
+    tramos.push_back({NombreTramo(p.tipo, ultima), ultima});
+  }
+  return tramos;
 }
 
 int DiaDelMes(int h) {

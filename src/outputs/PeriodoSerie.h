@@ -56,6 +56,20 @@ std::vector<std::string> NombresSemanas();
 /// o "Dia 3 Enero ". Un periodo que no existe da solo la palabra de su tipo.
 std::string RotuloPeriodo(const PeriodoSerie& periodo);
 
+/// El periodo del mismo tipo que está `pasos` meses, semanas o días después, o antes con negativo;
+/// tras el último del año viene el primero. Un día que no existe cuenta como el último de su mes.
+PeriodoSerie PeriodoContiguo(PeriodoSerie periodo, int pasos);
+
+/// Una parte de un periodo con su rótulo corto.
+struct TramoPeriodo {
+  std::string nombre;
+  int ultima;  ///< su última hora del año
+  bool operator==(const TramoPeriodo&) const = default;
+};
+/// En lo que se parte el eje de un periodo: los meses del año ("ene"), los días del mes ("1"), los
+/// de la semana ("1 enero") o las horas del día ("1"). De uno que no existe, nada.
+std::vector<TramoPeriodo> TramosPeriodo(const PeriodoSerie& periodo);
+
 /// Día del mes (desde 1) de la hora del año `h` (1 a 8760).
 int DiaDelMes(int h);
 

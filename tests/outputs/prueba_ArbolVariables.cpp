@@ -59,6 +59,21 @@ TEST(ArbolVariables, LoFijoYSuOrden) {
                             "Calor iuminación DILU(kWh)", "Caudal agua a 60ºC CW60(l/h)"}));
 }
 
+TEST(ArbolVariables, SeBuscaSinAcentosNiMayusculas) {
+  const CasoSeries caso;
+  const auto salen = [&](const char* buscado) {
+    std::vector<std::string> codigos;
+    for (const NodoVariable& n : caso.Arbol())
+      if (SaleAlBuscar(n, buscado)) codigos.push_back(n.codigo);
+    return codigos;
+  };
+  EXPECT_THAT(salen("HÚMEDA"), ElementsAre("THL", "THE"));
+  EXPECT_THAT(salen(" calefaccion  DEMANDA "), ElementsAre("DCAL"));
+  EXPECT_THAT(salen("exterior rtsw"), ElementsAre("RTSW"));
+  EXPECT_EQ(salen("  ").size(), caso.Arbol().size());
+  EXPECT_TRUE(salen("inexistente").empty());
+}
+
 TEST(ArbolVariables, LoQueDependeDeLaVentilacion) {
   CasoSeries caso;
   caso.Generales([](DatosGenerales& g) {

@@ -248,6 +248,36 @@ TEST(PeriodoSerie, LimitesDelCalendarioYRotulos) {
             (Mensaje{"AVISO", "No se puede representar una gráficaen 3D para un sólo día"}));
 }
 
+TEST(PeriodoSerie, ElSiguienteDaLaVuelta) {
+  const auto dia = [](PeriodoSerie p, int pasos) {
+    const PeriodoSerie otro = PeriodoContiguo(p, pasos);
+    return std::pair(otro.mes, otro.dia);
+  };
+  EXPECT_EQ(dia({.tipo = Diario, .mes = 12, .dia = 31}, 1), std::pair(1, 1));
+  EXPECT_EQ(dia({.tipo = Diario, .mes = 3, .dia = 1}, -1), std::pair(2, 28));
+  EXPECT_EQ(dia({.tipo = Diario, .mes = 2, .dia = 31}, 1), std::pair(3, 1));
+  EXPECT_EQ(PeriodoContiguo({.tipo = Mensual, .mes = 1}, -1).mes, 12);
+  EXPECT_EQ(PeriodoContiguo({.tipo = Semanal, .semana = 52}, 1).semana, 1);
+  EXPECT_EQ(PeriodoContiguo({.mes = 4, .semana = 5}, 1).mes, 4);
+}
+
+TEST(PeriodoSerie, LosTramosDelEje) {
+  const auto ano = TramosPeriodo({});
+  ASSERT_EQ(ano.size(), 12U);
+  EXPECT_EQ(ano[1], (TramoPeriodo{"feb", 1416}));
+  EXPECT_EQ(ano.back(), (TramoPeriodo{"dic", 8760}));
+  const auto febrero = TramosPeriodo({.tipo = Mensual, .mes = 2});
+  ASSERT_EQ(febrero.size(), 28U);
+  EXPECT_EQ(febrero.front(), (TramoPeriodo{"1", 768}));
+  const auto semana = TramosPeriodo({.tipo = Semanal, .semana = 5});
+  ASSERT_EQ(semana.size(), 7U);
+  EXPECT_EQ(semana.back(), (TramoPeriodo{"4 febrero", 840}));
+  const auto dia = TramosPeriodo({.tipo = Diario, .mes = 1, .dia = 2});
+  ASSERT_EQ(dia.size(), 24U);
+  EXPECT_EQ(dia.front(), (TramoPeriodo{"1", 25}));
+  EXPECT_TRUE(TramosPeriodo({.tipo = Diario, .mes = 2, .dia = 30}).empty());
+}
+
 TEST(LineaEstadistica, TemperaturasYHumedades) {
   Serie serie = Llana("TSE", "ºC", ClaseSerie::Temperatura, 10);
   Poner(serie, 63, 30.5F);    // 15 h del 3 de enero
@@ -398,6 +428,14 @@ TEST(GraficosSeries, UnaContraOtra) {
   EXPECT_EQ(ejes.valor->avisos[0], unidades);
   EXPECT_NE(ejes.valor->avisos[1].texto.find("TXX"), std::string::npos);
   EXPECT_EQ(ejes.valor->avisos[2], unidades);
+  // Un eje sin series tiene las horas, para dibujar el otro.
+  const auto solo = GraficoMas(*caso.edificio, *caso.resultado, {{}, {"TSE"}},
+                               {.tipo = TipoPeriodo::Diario, .mes = 1, .dia = 2});
+  ASSERT_TRUE(solo.valor);
+  EXPECT_TRUE(solo.valor->izquierda.series.empty());
+  EXPECT_EQ(solo.valor->izquierda.x, solo.valor->derecha.x);
+  EXPECT_EQ(solo.valor->izquierda.x.front(), 25);
+  EXPECT_EQ(solo.valor->izquierda.titulo, "Dia 2 Enero ");
 }
 
 }  // namespace
