@@ -4,6 +4,7 @@
 #include <QBarCategoryAxis>
 #include <QBarSeries>
 #include <QBarSet>
+#include <QCategoryAxis>
 #include <QClipboard>
 #include <QFileDialog>
 #include <QHBoxLayout>
@@ -12,13 +13,13 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QMouseEvent>
-#include <QScatterSeries>
 #include <QSvgGenerator>
 #include <QVBoxLayout>
 #include <QValueAxis>
 #include <array>
 #include <cmath>
 
+#include "base/LineaAligerada.h"
 #include "base/NumeroTexto.h"
 #include "entry/HojaDeCalculo.h"
 #include "outputs/TextoTabla.h"
@@ -29,8 +30,13 @@ namespace novex::gui {
 namespace {
 
 // Se distinguen con fondo claro y oscuro y sin ver bien el color.
-constexpr std::array<QRgb, 8> kColores = {0xff3b7dd8, 0xffcc4b37, 0xff2a9d74, 0xffd9921a,
-                                          0xff8b5fbf, 0xff4aa3a3, 0xffb06a8f, 0xff7f8790};
+constexpr std::array<QRgb, 10> kColores = {0xff3b7dd8, 0xffcc4b37, 0xff2a9d74, 0xffd9921a,
+                                           0xff8b5fbf, 0xff4aa3a3, 0xffb06a8f, 0xff7f8790,
+                                           0xff9a7b4f, 0xff6f9b2f};
+// Una línea con más se dibuja aligerada.
+constexpr std::size_t kMuchosPuntos = 1500;
+// Los puntos de una nube a menos píxeles no se distinguen.
+constexpr int kSeparacionPuntos = 2;
 
 QColor ColorDeSerie(std::size_t i) {
   return QColor::fromRgb(kColores[i % kColores.size()]);
@@ -64,11 +70,30 @@ QValueAxis* EjeDeValores(const Grafico& grafico, bool desdeCero, QObject* padre)
   auto* eje = new QValueAxis(padre);
   eje->setRange(menor, mayor);
   eje->applyNiceNumbers();
+  // Los decimales que distinguen una marca de otra.
+  const double paso = (eje->max() - eje->min()) / (eje->tickCount() - 1);
+  int decimales = 0;
+  while (decimales < 6 && std::abs(std::round(paso * std::pow(10, decimales)) -
+                                   paso * std::pow(10, decimales)) > 1e-6)
+    ++decimales;
+  eje->setLabelFormat("%." + QString::number(decimales) + "f");
   return eje;
 }
 
 double PosicionX(const Grafico& grafico, std::size_t i) {
   return i < grafico.x.size() ? grafico.x[i] : static_cast<double>(i);
+}
+
+// Un punto de una nube.
+QImage Marca(const QColor& color, int ancho) {
+  QImage imagen(ancho, ancho, QImage::Format_ARGB32_Premultiplied);
+  imagen.fill(Qt::transparent);
+  QPainter pintor(&imagen);
+  pintor.setRenderHint(QPainter::Antialiasing);
+  pintor.setPen(Qt::NoPen);
+  pintor.setBrush(color);
+  pintor.drawEllipse(imagen.rect());
+  return imagen;
 }
 
 QString Valor(double v) {
@@ -121,6 +146,7 @@ VistaGrafico::VistaGrafico(QWidget* padre) : QWidget(padre) {
 }
 
 void VistaGrafico::Poner(const Grafico& grafico, const std::optional<Grafico>& derecho) {
+  largas_.clear();  // apuntan al gráfico que se cambia
   grafico_ = grafico;
   derecho_ = derecho;
   lectura_->clear();
@@ -137,8 +163,8 @@ void VistaGrafico::Poner(const Grafico& grafico, const std::optional<Grafico>& d
   if (barras) {
     PonerBarras(grafico);
   } else {
-    PonerPuntos(grafico, Qt::AlignLeft, 0);
-    if (derecho) PonerPuntos(*derecho, Qt::AlignRight, grafico.series.size());
+    PonerPuntos(grafico_, Qt::AlignLeft, 0);
+    if (derecho_) PonerPuntos(*derecho_, Qt::AlignRight, grafico.series.size());
   }
   const std::size_t series = grafico.series.size() + (derecho ? derecho->series.size() : 0);
   dibujo->legend()->setVisible(series > 1);
@@ -178,13 +204,17 @@ void VistaGrafico::PonerBarras(const Grafico& grafico) {
   barras->setBarWidth(0.7);
 }
 
-void VistaGrafico::PonerPuntos(const Grafico& grafico, Qt::Alignment lado,
-                               std::size_t primerColor) {
+QValueAxis* VistaGrafico::PonerEjeX(const Grafico& grafico) {
   QChart* dibujo = vista_->chart();
   const QColor texto = palette().color(QPalette::WindowText);
-  auto ejesX = dibujo->axes(Qt::Horizontal);
-  auto* x = ejesX.isEmpty() ? nullptr : qobject_cast<QValueAxis*>(ejesX.first());
-  if (x == nullptr) {
+  QValueAxis* x = nullptr;
+  if (!tramosX_.empty()) {
+    auto* partido = new QCategoryAxis(dibujo);
+    partido->setStartValue(inicioX_);
+    for (const auto& [rotulo, fin] : tramosX_) partido->append(rotulo, fin);
+    partido->setRange(inicioX_, tramosX_.back().second);
+    x = partido;
+  } else {
     x = new QValueAxis(dibujo);
     const std::size_t cuantas = std::max(grafico.x.size(), grafico.posiciones.size());
     double menor = PosicionX(grafico, 0), mayor = menor;
@@ -195,36 +225,80 @@ void VistaGrafico::PonerPuntos(const Grafico& grafico, Qt::Alignment lado,
     x->setRange(menor, mayor > menor ? mayor : menor + 1);
     x->setTickCount(cuantas > 2 && cuantas < 14 ? static_cast<int>(cuantas) : 9);
     x->setLabelFormat(mayor - menor < 8 ? "%.2g" : "%.0f");
-    Vestir(x, Q(grafico.ejeX), texto);
-    dibujo->addAxis(x, Qt::AlignBottom);
+    if (grafico.forma == Grafico::Forma::Puntos) x->applyNiceNumbers();
   }
+  Vestir(x, tramosX_.empty() ? Q(grafico.ejeX) : tituloTramos_, texto);
+  dibujo->addAxis(x, Qt::AlignBottom);
+  connect(x, &QValueAxis::rangeChanged, this, [this] {
+    for (const Larga& larga : largas_) Aligerar(larga);
+  });
+  return x;
+}
+
+void VistaGrafico::PonerPuntos(const Grafico& grafico, Qt::Alignment lado,
+                               std::size_t primerColor) {
+  QChart* dibujo = vista_->chart();
+  auto ejesX = dibujo->axes(Qt::Horizontal);
+  auto* x = ejesX.isEmpty() ? PonerEjeX(grafico) : qobject_cast<QValueAxis*>(ejesX.first());
+  if (grafico.series.empty()) return;
   QValueAxis* y = EjeDeValores(grafico, false, dibujo);
-  Vestir(y, Q(grafico.ejeY), texto);
+  Vestir(y, Q(grafico.ejeY), palette().color(QPalette::WindowText));
+  if (lado == Qt::AlignRight && !grafico_.series.empty()) y->setGridLineVisible(false);
   dibujo->addAxis(y, lado);
   for (std::size_t s = 0; s < grafico.series.size(); ++s) {
     const SerieGrafico& serie = grafico.series[s];
-    QList<QPointF> puntos;
-    puntos.reserve(static_cast<qsizetype>(serie.valores.size()));
-    for (std::size_t i = 0; i < serie.valores.size(); ++i)
-      puntos.append({PosicionX(grafico, i), serie.valores[i]});
     const QColor color = ColorDeSerie(primerColor + s);
-    QXYSeries* linea = nullptr;
+    auto* linea = new QLineSeries(dibujo);
     if (grafico.forma == Grafico::Forma::Puntos) {
-      auto* nube = new QScatterSeries(dibujo);
-      nube->setMarkerSize(puntos.size() > 500 ? 3 : 6);
-      nube->setBorderColor(Qt::transparent);
-      nube->setColor(color);
-      linea = nube;
+      // Una línea sin trazo y con marcas: una serie de puntos crea un objeto por cada uno.
+      const int ancho = serie.valores.size() > 500 ? 3 : 6;
+      linea->setPen(QPen(color, 1, Qt::NoPen));
+      linea->setLightMarker(Marca(color, ancho));
+      linea->setMarkerSize(ancho);
     } else {
-      linea = new QLineSeries(dibujo);
-      linea->setPen(QPen(color, puntos.size() > 1000 ? 1 : 2));
+      linea->setPen(QPen(color, serie.valores.size() > 1000 ? 1 : 2));
     }
-    linea->setName(Q(serie.nombre));
-    linea->replace(puntos);
+    linea->setName(Q(serie.nombre) +
+                   (lado == Qt::AlignRight ? " " + tr("(eje derecho)") : QString()));
+    PonerPuntosDe(linea, grafico, serie);
     dibujo->addSeries(linea);
     linea->attachAxis(x);
     linea->attachAxis(y);
   }
+}
+
+void VistaGrafico::PonerPuntosDe(QXYSeries* dibujada, const Grafico& grafico,
+                                 const SerieGrafico& serie) {
+  if (serie.valores.size() > kMuchosPuntos && grafico.x.size() == serie.valores.size()) {
+    largas_.push_back({dibujada, &grafico, &serie});
+    return Aligerar(largas_.back());
+  }
+  QList<QPointF> puntos;
+  puntos.reserve(static_cast<qsizetype>(serie.valores.size()));
+  for (std::size_t i = 0; i < serie.valores.size(); ++i)
+    puntos.append({PosicionX(grafico, i), serie.valores[i]});
+  dibujada->replace(puntos);
+}
+
+void VistaGrafico::Aligerar(const Larga& l) {
+  const auto* x = qobject_cast<QValueAxis*>(vista_->chart()->axes(Qt::Horizontal).first());
+  if (x == nullptr) return;
+  const auto aligerada =
+      l.grafico->forma == Grafico::Forma::Puntos
+          ? AligerarNube(l.grafico->x, l.serie->valores, x->min(), x->max(),
+                         vista_->width() / kSeparacionPuntos, vista_->height() / kSeparacionPuntos)
+          : AligerarLinea(l.grafico->x, l.serie->valores, x->min(), x->max(), vista_->width());
+  QList<QPointF> puntos;
+  puntos.reserve(static_cast<qsizetype>(aligerada.size()));
+  for (const auto& [donde, valor] : aligerada) puntos.append({donde, valor});
+  l.dibujada->replace(puntos);
+}
+
+void VistaGrafico::PartirX(double inicio, std::vector<std::pair<QString, double>> tramos,
+                           const QString& titulo) {
+  inicioX_ = inicio;
+  tituloTramos_ = titulo;
+  tramosX_ = std::move(tramos);
 }
 
 QString VistaGrafico::Lectura(double x) const {
@@ -245,6 +319,29 @@ QString VistaGrafico::Lectura(double x) const {
                         : decirX_                          ? decirX_(PosicionX(grafico_, cerca))
                                                            : Valor(PosicionX(grafico_, cerca));
   return donde + ": " + textos.join(" · ");
+}
+
+QString VistaGrafico::LecturaEn(const QPointF& donde) const {
+  if (grafico_.forma != Grafico::Forma::Puntos || grafico_.series.empty())
+    return Lectura(donde.x());
+  const auto ancho = [&](Qt::Orientation lado) {
+    const auto* eje = qobject_cast<QValueAxis*>(vista_->chart()->axes(lado).first());
+    return eje == nullptr ? 1.0 : eje->max() - eje->min();
+  };
+  const double anchoX = ancho(Qt::Horizontal), anchoY = ancho(Qt::Vertical);
+  QPointF cerca;
+  double menor = -1;
+  for (const SerieGrafico& serie : grafico_.series)
+    for (std::size_t i = 0; i < serie.valores.size(); ++i) {
+      const QPointF punto(PosicionX(grafico_, i), serie.valores[i]);
+      const double lejos =
+          std::hypot((punto.x() - donde.x()) / anchoX, (punto.y() - donde.y()) / anchoY);
+      if (menor >= 0 && lejos >= menor) continue;
+      menor = lejos;
+      cerca = punto;
+    }
+  return Q(grafico_.ejeX) + " " + Valor(cerca.x()) + " · " + Q(grafico_.ejeY) + " " +
+         Valor(cerca.y());
 }
 
 Tabla VistaGrafico::Datos() const {
@@ -349,7 +446,7 @@ bool VistaGrafico::AlRaton(QEvent* evento) {
     return true;
   }
   if (!dibujo->series().isEmpty())
-    lectura_->setText(Lectura(dibujo->mapToValue(raton->position()).x()));
+    lectura_->setText(LecturaEn(dibujo->mapToValue(raton->position())));
   return false;
 }
 

@@ -3,9 +3,13 @@
 #include <QChartView>
 #include <QLabel>
 #include <QToolButton>
+#include <QValueAxis>
 #include <QWidget>
+#include <QXYSeries>
 #include <functional>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "base/Grafico.h"
 #include "base/Tabla.h"
@@ -27,8 +31,15 @@ class VistaGrafico : public QWidget {
   const std::optional<Grafico>& Derecho() const { return derecho_; }
   /// Cómo se dice una posición numérica del eje horizontal, una hora del año por ejemplo.
   void DecirX(std::function<QString(double)> decir) { decirX_ = std::move(decir); }
+  /// Parte el eje horizontal de los gráficos que se pongan en tramos con su rótulo, los meses por
+  /// ejemplo. \param tramos rótulo y posición en que acaba cada uno; sin ninguno, van los números
+  /// \param titulo lo que son los rótulos, si hace falta decirlo
+  void PartirX(double inicio, std::vector<std::pair<QString, double>> tramos,
+               const QString& titulo = {});
   /// Lo que se lee con el puntero en una posición del eje horizontal.
   QString Lectura(double x) const;
+  /// Lo que se lee en un punto del plano: en una nube, las dos cifras del punto más cercano.
+  QString LecturaEn(const QPointF& donde) const;
   /// Los datos como tabla: las posiciones y una columna por serie.
   Tabla Datos() const;
   /// Escribe la imagen; por la extensión, SVG o PNG. \returns si se ha podido
@@ -44,12 +55,25 @@ class VistaGrafico : public QWidget {
  private:
   void PonerBarras(const Grafico& grafico);
   void PonerPuntos(const Grafico& grafico, Qt::Alignment lado, std::size_t primerColor);
+  QValueAxis* PonerEjeX(const Grafico& grafico);
+  void PonerPuntosDe(QXYSeries* dibujada, const Grafico& grafico, const SerieGrafico& serie);
   void GuardarPreguntando(const QString& filtro);
   bool AlRaton(QEvent* evento);
 
   Grafico grafico_;
   std::optional<Grafico> derecho_;
   std::function<QString(double)> decirX_;
+  double inicioX_ = 0;
+  std::vector<std::pair<QString, double>> tramosX_;
+  QString tituloTramos_;
+  // Las líneas de muchos puntos, que se dibujan con los que distingue la pantalla.
+  struct Larga {
+    QXYSeries* dibujada;
+    const Grafico* grafico;
+    const SerieGrafico* serie;
+  };
+  void Aligerar(const Larga& larga);
+  std::vector<Larga> largas_;
   QLabel *titulo_, *lectura_;
   QToolButton* menu_;
   QChartView* vista_;

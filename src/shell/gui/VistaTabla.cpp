@@ -21,6 +21,7 @@ namespace novex::gui {
 namespace {
 
 constexpr int kAnchoMaximo = 420;  // de una columna, en píxeles
+constexpr std::size_t kFilasMedidas = 200;
 
 bool EsLetra(const QString& texto) {
   return texto.size() == 1 && texto[0] >= 'A' && texto[0] <= 'G';
@@ -70,6 +71,7 @@ VistaTabla::VistaTabla(QWidget* padre) : QWidget(padre) {
   rejilla_ = new QTableWidget(this);
   rejilla_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   rejilla_->verticalHeader()->hide();
+  rejilla_->verticalHeader()->setDefaultSectionSize(rejilla_->fontMetrics().height() + 4);
   rejilla_->setAlternatingRowColors(true);
   rejilla_->setTabKeyNavigation(false);
   rejilla_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
@@ -107,7 +109,8 @@ void VistaTabla::Poner(const Tabla& tabla) {
     for (int c = 0; c < rejilla_->columnCount(); ++c)
       if (rejilla_->columnWidth(c) > kAnchoMaximo) rejilla_->setColumnWidth(c, kAnchoMaximo);
   }
-  rejilla_->resizeRowsToContents();
+  // Medir miles de filas se nota, y las de una tabla larga son todas de una línea.
+  if (tabla.filas.size() < kFilasMedidas) rejilla_->resizeRowsToContents();
   rejilla_->setUpdatesEnabled(true);
   QStringList notas;
   for (const std::string& nota : tabla.notas) notas << Q(nota);
