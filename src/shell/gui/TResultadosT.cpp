@@ -4,6 +4,7 @@
 
 #include "shell/gui/PaginaAnalisisTecnico.h"
 #include "shell/gui/PaginaCalificacion.h"
+#include "shell/gui/PaginaHorarias.h"
 #include "shell/gui/PaginaMensual.h"
 #include "shell/gui/PaginaReferencia.h"
 
@@ -11,6 +12,7 @@ namespace novex::gui {
 namespace {
 
 constexpr const char* kMensuales = "Mensuales";
+constexpr const char* kHorarias = "Horarias";
 constexpr const char* kReferencia = "Objeto_Referencia";
 
 }  // namespace
@@ -24,6 +26,7 @@ TResultadosT::TResultadosT(ContextoGui& contexto, QWidget* padre)
   static_cast<QVBoxLayout*>(layout())->insertWidget(0, fallo_);
   Anadir(new PaginaCalificacion(contexto), "Calificación");
   Anadir(new PaginaMensual(contexto), kMensuales);
+  Anadir(new PaginaHorarias(contexto), kHorarias);
   Anadir(new PaginaReferencia(contexto), kReferencia);
   Anadir(new PaginaAnalisisTecnico(contexto), "Análisis técnico");
 }
@@ -34,6 +37,11 @@ void TResultadosT::PonerPestanas() {
   Esconder(kReferencia, generales.EsResidencial() || libre);
   if (!abierta_ && libre) Mostrar(kMensuales);
   abierta_ = true;
+}
+
+void TResultadosT::AbrirEnHorarias() {
+  abierta_ = true;
+  Mostrar(kHorarias);
 }
 
 void TResultadosT::Refrescar() {

@@ -12,6 +12,8 @@ class TResultadosT : public PaginaPestanas {
  public:
   explicit TResultadosT(ContextoGui& contexto, QWidget* padre = nullptr);
   void Refrescar() override;
+  /// La abre en las series horarias en lugar de donde se abriría.
+  void AbrirEnHorarias();
 
  private:
   void PonerPestanas();
