@@ -27,4 +27,17 @@ std::shared_ptr<const FicheroMet> FicherosPrograma::Met(const std::filesystem::p
   return met;
 }
 
+const SeriesClima& FicherosPrograma::Clima(const std::filesystem::path& ruta, const FicheroMet& met,
+                                           int colorMuros, int colorCubiertas, Mensajes& mensajes) {
+  auto pedida = std::make_tuple(ruta, colorMuros, colorCubiertas);
+  if (clima_ && climaDe_ == pedida) return *clima_;
+  auto clima = std::make_unique<SeriesClima>();
+  LeerClima(met, *clima);
+  CalcularSolYRespuesta(Respuesta(mensajes), colorMuros, colorCubiertas, *clima);
+  RedondearClima(*clima);
+  clima_ = std::move(clima);
+  climaDe_ = std::move(pedida);
+  return *clima_;
+}
+
 }  // namespace novex

@@ -6,10 +6,12 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 
 #include "base/EspacioTrabajo.h"
 #include "base/Mensajes.h"
 #include "base/Progreso.h"
+#include "demand/Clima.h"
 #include "demand/CoeficientesRespuesta.h"
 #include "demand/FicheroMet.h"
 #include "files/xmlParser.h"
@@ -36,12 +38,20 @@ class FicherosPrograma {
   const CoeficientesRespuesta& Respuesta(Mensajes& mensajes);
   /// Año de clima de un fichero, o nulo si no se puede abrir. \throws ErrorFichero si está dañado.
   std::shared_ptr<const FicheroMet> Met(const std::filesystem::path& ruta);
+  /// Series de un año de clima con el sol y la respuesta de los cerramientos, sin el retardo
+  /// radiante. Es lo más largo de preparar un caso y solo depende del fichero y de los colores: se
+  /// guarda la última, que es la que piden de nuevo el siguiente cálculo y los demás casos.
+  /// \param met el año de `ruta` \param colorMuros, colorCubiertas posiciones de su lista
+  const SeriesClima& Clima(const std::filesystem::path& ruta, const FicheroMet& met, int colorMuros,
+                           int colorCubiertas, Mensajes& mensajes);
 
  private:
   EspacioTrabajo espacio_;
   std::map<std::string, XMLNode> xml_;
   std::map<std::filesystem::path, std::shared_ptr<const FicheroMet>> met_;
   std::optional<CoeficientesRespuesta> respuesta_;
+  std::unique_ptr<SeriesClima> clima_;
+  std::tuple<std::filesystem::path, int, int> climaDe_;
 };
 
 /// Todo lo que un cálculo toma de fuera del edificio.

@@ -29,11 +29,9 @@ bool EtapaClima(Edificio& edificio, Entorno& entorno, calculo& caso) {
     lugar.latitud = ComprobarValor(General(met->latitud), "Latitud", entorno.mensajes);
     edificio.SetLocalizacion(lugar);
   }
-  LeerClima(*met, caso.clima);
   const Construccion& c = edificio.GetConstruccion();
-  CalcularSolYRespuesta(entorno.ficheros.Respuesta(entorno.mensajes), c.NColorMurosExt,
-                        c.NColorCubiertasExt, caso.clima);
-  RedondearClima(caso.clima);
+  caso.clima =
+      entorno.ficheros.Clima(ruta, *met, c.NColorMurosExt, c.NColorCubiertasExt, entorno.mensajes);
   return true;
 }
 

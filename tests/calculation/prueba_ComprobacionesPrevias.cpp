@@ -312,9 +312,11 @@ const Elemento kElementos[] = {
 TEST_F(ComprobacionesPreviasTest, TodoElementoConAreaTieneUYSaleEnSuOrden) {
   for (const Elemento& elemento : kElementos) {
     elemento.area(recinto) = 5;
-    composicion& ranura = edificio.GetComposicion(*TablaEnvolvente::Indice(elemento.clave));
+    const std::size_t indice = *TablaEnvolvente::Indice(elemento.clave);
+    composicion& ranura = edificio.GetComposicion(indice);
     EXPECT_THAT(MensajesPrevios(edificio),
-                ElementsAre(MensajePrevio{std::string(kSinU) + elemento.texto, elemento.pagina}));
+                ElementsAre(MensajePrevio{
+                    std::string(kSinU) + elemento.texto, elemento.pagina, {}, indice}));
     ranura.U = 0.001F;
     EXPECT_THAT(Textos(), IsEmpty()) << elemento.clave;
     elemento.area(recinto) = ranura.U = 0;
