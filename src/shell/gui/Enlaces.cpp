@@ -21,7 +21,13 @@ const CampoCatalogo* EntradaDe(const std::string& direccion) {
   return datos ? BuscarCampo(ClaveDeCampo(datos->etiqueta)) : nullptr;
 }
 
+// Por encima de esto un límite es que no lo hay.
+constexpr float kSinLimite = 1e8F;
+
 QString Limites(const CampoCatalogo& entrada) {
+  if (entrada.minimo < -kSinLimite) return Q(entrada.unidad);
+  if (entrada.maximo > kSinLimite)
+    return QObject::tr("Desde %1 %2").arg(Q(General(entrada.minimo)), Q(entrada.unidad));
   return QObject::tr("De %1 a %2 %3")
       .arg(Q(General(entrada.minimo)), Q(General(entrada.maximo)), Q(entrada.unidad));
 }

@@ -130,20 +130,8 @@ void TForm1::CrearPaginas() {
   setCentralWidget(centro);
 
   titulo_ = new PaginaTitulo(contexto_);
-  auto* global = new PaginaPestanas(contexto_);
-  global->Anadir(new PaginaSitio(contexto_), "Sitio");
-  global->Anadir(new PaginaUso(contexto_), "Uso");
-  global->Anadir(new PaginaHorarios(contexto_), "Horarios");
-  global->Anadir(new PaginaAdministrativa(contexto_), "Datos administrativos");
-  paginas_ = {titulo_,
-              global,
-              new TDefEdificio(contexto_),
-              new TTEquipos(contexto_),
-              new TResultadosT(contexto_),
-              new PaginaTablas(contexto_, Destino::Comparacion),
-              new PaginaTablas(contexto_, Destino::HE),
-              new TFDefinicion(contexto_)};
-  for (Pagina* pagina : paginas_) pila_->addWidget(pagina);
+  paginas_[static_cast<std::size_t>(Destino::Titulo)] = titulo_;
+  pila_->addWidget(titulo_);
   connect(pestanas_, &QTabBar::currentChanged, this,
           [this](int i) { Mostrar(static_cast<Destino>(i)); });
   connect(casos_, &QComboBox::activated, this, [this](int i) {
@@ -178,8 +166,41 @@ void TForm1::CrearPaginas() {
   statusBar()->addPermanentWidget(falta_);
 }
 
-Pagina* TForm1::PaginaDe(Destino destino) const {
-  return paginas_[static_cast<std::size_t>(destino)];
+Pagina* TForm1::CrearPagina(Destino destino) {
+  switch (destino) {
+    case Destino::Titulo:
+      return titulo_;
+    case Destino::Global: {
+      auto* global = new PaginaPestanas(contexto_);
+      global->Anadir(new PaginaSitio(contexto_), "Sitio");
+      global->Anadir(new PaginaUso(contexto_), "Uso");
+      global->Anadir(new PaginaHorarios(contexto_), "Horarios");
+      global->Anadir(new PaginaAdministrativa(contexto_), "Datos administrativos");
+      return global;
+    }
+    case Destino::Edificio:
+      return new TDefEdificio(contexto_);
+    case Destino::Instalaciones:
+      return new TTEquipos(contexto_);
+    case Destino::Certificacion:
+      return new TResultadosT(contexto_);
+    case Destino::Comparacion:
+      return new PaginaTablas(contexto_, Destino::Comparacion);
+    case Destino::HE:
+      return new PaginaTablas(contexto_, Destino::HE);
+    case Destino::Definicion:
+      break;
+  }
+  return new TFDefinicion(contexto_);
+}
+
+Pagina* TForm1::PaginaDe(Destino destino) {
+  Pagina*& pagina = paginas_[static_cast<std::size_t>(destino)];
+  if (pagina == nullptr) {
+    pagina = CrearPagina(destino);
+    pila_->addWidget(pagina);
+  }
+  return pagina;
 }
 
 bool TForm1::PasaAResultados() {

@@ -38,7 +38,8 @@ class TForm1 : public QMainWindow {
   /// Enseña una página. A las de resultados solo se llega si el proyecto pasa las comprobaciones.
   void Mostrar(Destino destino);
   Destino Mostrada() const { return mostrada_; }
-  Pagina* PaginaDe(Destino destino) const;
+  /// La página de una pestaña, que se crea la primera vez que hace falta.
+  Pagina* PaginaDe(Destino destino);
   ContextoGui& Contexto() { return contexto_; }
   PanelVivo& Panel() { return *panel_; }
 
@@ -49,6 +50,7 @@ class TForm1 : public QMainWindow {
  private:
   void CrearOrdenes();
   void CrearPaginas();
+  Pagina* CrearPagina(Destino destino);
   QAction* Orden(QToolBar* barra, const char* icono, const QString& texto, const QString& ayuda,
                  const QKeySequence& tecla, void (TForm1::*hacer)());
   // Las órdenes.
