@@ -1,5 +1,6 @@
 #include "outputs/DetalleResultados.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "base/NumeroTexto.h"
@@ -144,14 +145,19 @@ const Barras& BarrasDe(const DesgloseServicio& d, AnalisisDetalle analisis) {
   return analisis == AnalisisDetalle::HuecosOrientacion ? d.orientacionHuecos : d.familias;
 }
 
-// Las barras de un servicio. Lo que no es demanda se reparte como ella.
+// Lo que no es demanda se reparte como ella: por cada kWh de demanda, cuánto de la salida.
+double PorDemanda(const CasoCalculado& caso, const Salida& salida, Servicio servicio) {
+  if (!salida.energia) return 1;
+  const double demanda = Demanda(caso, servicio);
+  return demanda != 0.0 ? ValorServicio(caso, salida, servicio) / demanda : 0.0;
+}
+
+// Las barras de un servicio.
 Barras Reparto(const CasoCalculado& caso, const Salida& salida, AnalisisDetalle analisis,
                Servicio servicio) {
   Barras barras =
       BarrasDe(DesglosarServicio(*caso.resultado, servicio, Superficie(caso)), analisis);
-  if (!salida.energia) return barras;
-  const double demanda = Demanda(caso, servicio);
-  const double razon = demanda != 0.0 ? ValorServicio(caso, salida, servicio) / demanda : 0.0;
+  const double razon = PorDemanda(caso, salida, servicio);
   for (BarraDesglose& b : barras) b.valor *= razon;
   return barras;
 }
@@ -239,6 +245,25 @@ std::vector<GraficoDetalle> Vectores(const CasoCalculado& caso, ServiciosDetalle
   return graficos;
 }
 
+// Los elementos de un servicio, en el mismo orden para los dos.
+Barras ElementosDe(const CasoCalculado& caso, const Salida& salida, Servicio servicio) {
+  const DesgloseServicio d = DesglosarServicio(*caso.resultado, servicio, Superficie(caso));
+  Barras elementos = d.opacos;
+  elementos.insert(elementos.end(), d.gruposHuecos.begin(), d.gruposHuecos.end());
+  constexpr std::size_t kAire = 2, kPuentes = 3;  // en las familias
+  elementos.push_back(d.familias[kAire]);
+  elementos.push_back(d.familias[kPuentes]);
+  const double razon = PorDemanda(caso, salida, servicio);
+  for (BarraDesglose& b : elementos) b.valor *= razon;
+  return elementos;
+}
+
+double Suma(const Barras& barras) {
+  double suma = 0;
+  for (const BarraDesglose& b : barras) suma += b.valor;
+  return suma;
+}
+
 }  // namespace
 
 std::vector<GraficoDetalle> PaginaDetalle(const CasoCalculado& caso,
@@ -247,6 +272,36 @@ std::vector<GraficoDetalle> PaginaDetalle(const CasoCalculado& caso,
   const Salida& salida = SalidaDe(seleccion.salida);
   if (seleccion.servicios == ServiciosDetalle::Totales) return {Totales(caso, salida)};
   return CalefaccionRefrigeracion(caso, salida, seleccion);
+}
+
+Tabla TablaElementos(const CasoCalculado& caso, SalidaDetalle salida) {
+  const Salida& de = SalidaDe(salida == SalidaDetalle::Vectores ? SalidaDetalle::Demanda : salida);
+  const Barras calor = ElementosDe(caso, de, kCalefaccion);
+  const Barras frio = ElementosDe(caso, de, kRefrigeracion);
+  const double sumaCalor = Suma(calor), sumaFrio = Suma(frio);
+  std::vector<std::size_t> orden(calor.size());
+  for (std::size_t i = 0; i < orden.size(); ++i) orden[i] = i;
+  std::stable_sort(orden.begin(), orden.end(), [&](std::size_t a, std::size_t b) {
+    return calor[a].valor + frio[a].valor > calor[b].valor + frio[b].valor;
+  });
+  Tabla tabla;
+  tabla.titulo = std::string(de.nombre) + "por elementos, " + de.unidad + " año";
+  tabla.cabeceras = {"Elemento", "Calef.", "%", "Refrig.", "%"};
+  const auto fila = [&](const std::string& nombre, double c, double f) {
+    const auto parte = [](double valor, double suma) {
+      return suma != 0.0 ? Celda::Numero(valor * 100 / suma, 1) : Celda();
+    };
+    tabla.filas.push_back({nombre, Celda::Numero(c, kDecimales), parte(c, sumaCalor),
+                           Celda::Numero(f, kDecimales), parte(f, sumaFrio)});
+  };
+  for (const std::size_t i : orden) fila(calor[i].rotulo, calor[i].valor, frio[i].valor);
+  fila("Total", sumaCalor, sumaFrio);
+  tabla.notas = {
+      "Calef.: lo que pierde cada elemento en las horas con calefacción. Refrig.: lo que gana en "
+      "las "
+      "horas con refrigeración. Cada columna suma la de su servicio.",
+      "M. muro, C. cubierta, S. suelo y H- grupo de huecos"};
+  return tabla;
 }
 
 }  // namespace novex

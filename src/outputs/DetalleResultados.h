@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/Grafico.h"
+#include "base/Tabla.h"
 #include "outputs/CasoCalculado.h"
 
 namespace novex {
@@ -63,5 +64,11 @@ struct GraficoDetalle {
 /// o en kg de CO2; los vectores, además, en kWh del edificio. \param caso ya calculado
 std::vector<GraficoDetalle> PaginaDetalle(const CasoCalculado& caso,
                                           const SeleccionDetalle& seleccion);
+
+/// Los elementos de la envolvente, de más a menos por lo que hacen entre las dos: la calefacción,
+/// por lo que pierden, y la refrigeración, por lo que ganan. Un cerramiento, un grupo de huecos, la
+/// renovación de aire o los puentes por fila, y el total; valores por m2 y año y su parte en %.
+/// \param salida en qué se da; los vectores no se reparten: la demanda
+Tabla TablaElementos(const CasoCalculado& caso, SalidaDetalle salida);
 
 }  // namespace novex

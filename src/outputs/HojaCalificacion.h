@@ -15,6 +15,10 @@ enum class BaseCalificacion : std::size_t { Emisiones, PrimariaNoRenovable };
 inline constexpr std::array<std::string_view, 2> kTextoBaseCalificacion = {
     "Emisiones", "Energía primaria no renovable"};
 
+/// Lo que se dice donde la hoja no se rellena.
+inline constexpr std::string_view kSinCalificacion =
+    "Una simulación libre no se califica: sus resultados están en \"Mensuales\"";
+
 inline constexpr std::string_view kTituloDemandaSensible = "Demanda sensible (kWh/m2 año)";
 
 /// Una fila de la hoja: un indicador con su letra y su escala.

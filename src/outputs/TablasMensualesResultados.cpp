@@ -421,6 +421,24 @@ std::optional<RejillaMensual> RejillaDeNombre(const CasoCalculado& caso, std::st
   return std::nullopt;
 }
 
+Grafico GraficoMeses(const Tabla& rejilla) {
+  Grafico grafico;
+  grafico.titulo = rejilla.titulo;
+  if (rejilla.cabeceras.size() <= kMeses) return grafico;
+  grafico.ejeY = rejilla.cabeceras.front();
+  grafico.posiciones.assign(rejilla.cabeceras.begin() + 1, rejilla.cabeceras.begin() + 1 + kMeses);
+  for (const auto& fila : rejilla.filas) {
+    const std::string& nombre = fila.front().texto;
+    if (nombre.starts_with("TOTAL") || nombre.starts_with("Total")) continue;
+    SerieGrafico serie{nombre, {}};
+    for (std::size_t m = 1; m <= kMeses && m < fila.size(); ++m)
+      serie.valores.push_back(fila[m].numero.value_or(0));
+    if (std::any_of(serie.valores.begin(), serie.valores.end(), [](double v) { return v != 0.0; }))
+      grafico.series.push_back(std::move(serie));
+  }
+  return grafico;
+}
+
 std::string RotuloDemanda(const CasoCalculado& caso) {
   const ResultadosCaso& r = caso.resultado->resultados;
   const auto cifra = [](float v) { return Fijo(static_cast<double>(v), kDecimalesResultado); };

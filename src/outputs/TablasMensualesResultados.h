@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Grafico.h"
 #include "base/Tabla.h"
 #include "outputs/CasoCalculado.h"
 
@@ -65,6 +66,10 @@ std::vector<std::string> NombresRejillas(const Edificio& edificio);
 
 /// La rejilla de ese nombre, comparado exactamente; vacía si no hay tal nombre en el caso.
 std::optional<RejillaMensual> RejillaDeNombre(const CasoCalculado& caso, std::string_view nombre);
+
+/// Los meses de una rejilla en barras, una serie por fila. Los totales y las filas que son 0 todo
+/// el año no tienen barras. \returns sin series si no hay nada que dibujar
+Grafico GraficoMeses(const Tabla& rejilla);
 
 /// Rótulo de la vista de demanda: las demandas del año, kWh/m2.
 std::string RotuloDemanda(const CasoCalculado& caso);

@@ -284,6 +284,43 @@ TEST(DesgloseElementos, EnRefrigeracionLaCargaInternaVaAparte) {
     EXPECT_EQ(b.valor, 0);
 }
 
+TEST(DesgloseElementos, LaTablaOrdenaPorLoQueHacenEntreLosDosServicios) {
+  CasoDesglose caso;
+  caso.edificio->GetRecinto(0).Suelo_habitable_m2 = 100;
+  caso.Resultados().servicio[kCalefaccion].porUnidad[kEmisiones][0] = 0.03F;
+  // En refrigeración solo ganan los huecos (900 Wh) y el aire (100): 90 % y 10 % de 0,02 kWh/m2.
+  // En calefacción, de 1950 Wh, lo que sale arriba; los opacos, como 600 y 350.
+  const double calor = static_cast<double>(0.015F), frio = static_cast<double>(0.02F);
+  const struct {
+    const char* elemento;
+    double calor, frio;
+  } esperados[] = {{"H-2", 0, frio * 0.9},
+                   {"Renov. aire", calor * 900 / 1950, frio * 0.1},
+                   {"M.(1). S", calor * 850 / 1950 * 600 / 950, 0},
+                   {"C.Hz.Sol1", calor * 850 / 1950 * 350 / 950, 0},
+                   {"Puentes T.", calor * 150 / 1950, 0},
+                   {"H-10", calor * 50 / 1950, 0},
+                   {"Total", calor, frio}};
+  const Tabla demanda = TablaElementos(caso.Mostrar(), SalidaDetalle::Demanda);
+  const Tabla emisiones = TablaElementos(caso.Mostrar(), SalidaDetalle::Emisiones);
+  EXPECT_EQ(demanda.titulo, "Demanda por elementos, kWh/m2 año");
+  EXPECT_EQ(emisiones.titulo, "Emisiones por elementos, kgCO2/m2 año");
+  EXPECT_EQ(TablaElementos(caso.Mostrar(), SalidaDetalle::Vectores).titulo, demanda.titulo);
+  ASSERT_EQ(demanda.filas.size(), std::size(esperados));
+  for (std::size_t i = 0; i < std::size(esperados); ++i) {
+    const auto& fila = demanda.filas[i];
+    EXPECT_EQ(fila[0].texto, esperados[i].elemento);
+    EXPECT_NEAR(fila[1].numero.value(), esperados[i].calor, 1e-9);
+    EXPECT_NEAR(fila[2].numero.value(), esperados[i].calor / calor * 100, 1e-6);
+    EXPECT_NEAR(fila[3].numero.value(), esperados[i].frio, 1e-9);
+    EXPECT_NEAR(fila[4].numero.value(), esperados[i].frio / frio * 100, 1e-6);
+  }
+  // Las emisiones de la calefacción son el doble de su demanda y la refrigeración no emite.
+  EXPECT_EQ(emisiones.filas[0][0].texto, "Renov. aire");
+  EXPECT_NEAR(emisiones.filas[0][1].numero.value(), 2 * calor * 900 / 1950, 1e-9);
+  EXPECT_EQ(emisiones.filas.back()[4].texto, "");
+}
+
 TEST(DesgloseElementos, CodigosDeLosCerramientos) {
   const struct {
     const char *grupo, *nombre, *orientacion, *codigo;

@@ -147,6 +147,24 @@ TEST_F(PaginaMensualTest, DemandaSolarYFotovoltaica) {
             "0.00 kW/hm2año");
 }
 
+TEST_F(PaginaMensualTest, LosMesesEnBarrasSinTotalesNiFilasVacias) {
+  const Grafico acs = GraficoMeses(Pedir(caso.Mostrar(), "instalacion-acs"));
+  EXPECT_EQ(acs.ejeY, "Instalacion ACS kWh");
+  ASSERT_EQ(acs.posiciones.size(), 12U);
+  EXPECT_EQ(acs.posiciones.front() + acs.posiciones.back(), "ENEDIC");
+  ASSERT_EQ(acs.series.size(), 3U);
+  EXPECT_EQ(acs.series[2].nombre, "Recirculacion");
+  EXPECT_EQ(acs.series[0].valores[0] + acs.series[1].valores[0] + acs.series[2].valores[0],
+            50 + 5 + 7);
+  EXPECT_EQ(acs.series[2].valores[11], 0);
+  std::string vectores;
+  for (const SerieGrafico& s : GraficoMeses(Pedir(caso.Mostrar(), "final-acs")).series)
+    vectores += s.nombre + " ";
+  EXPECT_EQ(vectores, "Electricidad_Red Solar Termica Fotovoltaica Medio_Ambiente ");
+  EXPECT_TRUE(GraficoMeses(Pedir(caso.Mostrar(), "final-iluminacion")).series.empty());
+  EXPECT_TRUE(GraficoMeses({}).series.empty());
+}
+
 TEST_F(PaginaMensualTest, LasRejillasSePidenPorSuNombre) {
   const Textos nombres = NombresRejillas(*caso.edificio);
   EXPECT_EQ(nombres.size(), 53U);  // 3 + 5 x 6 + 3 + 5 x 3 + 2
