@@ -17,42 +17,11 @@ namespace {
 
 // Memos del caso por su posición.
 constexpr std::size_t kMemoPrincipal = 0;
-constexpr std::size_t kMemoPrimeraVisita = 1;
-constexpr std::size_t kMemoPrimeraObservacion = 4;
 constexpr std::size_t kMemoFinal = 7;
 
 // Un campo lógico, como lo escribe el fichero.
 constexpr const char* kSi = "Si";
 constexpr const char* kNo = "No";
-
-struct Intervencion {
-  const char* campo;
-  const char* rotulo;
-};
-constexpr std::array<Intervencion, 13> kIntervenciones = {{
-    {"CBHuecos", "Huecos"},
-    {"CBCubiertas", "Cubiertas"},
-    {"CBFachadas", "Fachadas"},
-    {"CBSuelos", "Suelos"},
-    {"CBMedianeras", "Medianeras"},
-    {"CBSombras", "Sombras"},
-    {"CBGeneracionTermica", "Generación térmica"},
-    {"CBRenovables", "Renovables"},
-    {"CBIluminacion2", "Iluminación"},
-    {"CBDistribucion", "Distribución"},
-    {"CBRecuperacion", "Recuperación de energía"},
-    {"CBOtras", "Otras"},
-    {"CBUsoIntervencion", "Uso"},
-}};
-
-// Las casillas se reparten en columnas: cada una va en un formulario de una fila.
-QFormLayout* CeldaFormulario(QGridLayout* rejilla, std::size_t cual, int columnas) {
-  auto* filas = new QFormLayout;
-  filas->setContentsMargins(0, 0, 0, 0);
-  const int i = static_cast<int>(cual);
-  rejilla->addLayout(filas, i / columnas, i % columnas);
-  return filas;
-}
 
 void Marcar(QButtonGroup* grupo, int posicion) {
   QAbstractButton* elegido = grupo->button(posicion);
@@ -63,7 +32,8 @@ void Marcar(QButtonGroup* grupo, int posicion) {
 
 }  // namespace
 
-TFDefinicion::TFDefinicion(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, padre) {
+TFDefinicion::TFDefinicion(ContextoGui& contexto, QWidget* padre)
+    : Pagina(contexto, padre), visitas_(contexto, enlaces_, this) {
   auto* columna = new QVBoxLayout(this);
   columna->setContentsMargins(0, 0, 0, 0);
   auto* visor = new QScrollArea(this);
@@ -92,14 +62,9 @@ EditorMemo* TFDefinicion::NuevoMemo(std::size_t cual, const QString& nombre, con
 QWidget* TFDefinicion::ParteBase() {
   auto* cajas = new DosColumnas(this);
   cajas->AnadirIzquierda(CajaRecomendaciones());
-  cajas->AnadirIzquierda(CajaIntervenciones());
-  cajas->AnadirDerecha(CajaAnotaciones(
-      visitas_, tr("Visitas"), tr("Visita"), "NumeroVisitas", "FechaVisita", kMemoPrimeraVisita,
-      tr("El certificado necesita al menos una visita. En él salen sus diez primeras líneas")));
-  cajas->AnadirDerecha(CajaAnotaciones(observaciones_, tr("Observaciones"), tr("Observación"),
-                                       "NumeroObservaciones", "FechaObservacion",
-                                       kMemoPrimeraObservacion,
-                                       tr("Pruebas, comprobaciones e inspecciones, si las hay")));
+  cajas->AnadirIzquierda(visitas_.Intervenciones());
+  cajas->AnadirDerecha(visitas_.Visitas());
+  cajas->AnadirDerecha(visitas_.Observaciones());
   return cajas;
 }
 
@@ -119,49 +84,6 @@ QWidget* TFDefinicion::CajaRecomendaciones() {
       NuevoMemo(kMemoFinal, tr("Justificación de la secuencia"), "MemoSecuencia", secuencia_));
   columna->addWidget(secuencia_);
   return recomendaciones_;
-}
-
-QWidget* TFDefinicion::CajaAnotaciones(Anotaciones& anotaciones, const QString& titulo,
-                                       const QString& una, const std::string& numero,
-                                       const std::string& fecha, std::size_t primerMemo,
-                                       const QString& ninguna) {
-  const auto [caja, filas] = NuevaCaja(titulo, this);
-  enlaces_.Lista(filas, numero, {"0", "1", "2", "3"}, OpcionesSinCalculo(tr("Cuántas")));
-  anotaciones.ninguna = NuevaNota(caja);
-  anotaciones.ninguna->setText(ninguna);
-  filas->addRow(anotaciones.ninguna);
-  for (std::size_t i = 0; i < anotaciones.cajas.size(); ++i) {
-    const QString nombre = QString("%1 %2").arg(una).arg(i + 1);
-    auto* bloque = new QWidget(caja);
-    auto* columna = new QVBoxLayout(bloque);
-    columna->setContentsMargins(0, 4, 0, 0);
-    auto* fila = new QHBoxLayout;
-    fila->addWidget(new QLabel(tr("%1. Fecha").arg(nombre), bloque));
-    QLineEdit* dia =
-        enlaces_.Celda(fecha + std::to_string(i + 1),
-                       OpcionesSinCalculo(tr("%1, fecha").arg(nombre), tr("dd/mm/aaaa")));
-    dia->setMinimumWidth(110);
-    dia->setMaximumWidth(140);
-    fila->addWidget(dia);
-    fila->addWidget(BotonCalendario(dia, bloque));
-    fila->addStretch(1);
-    columna->addLayout(fila);
-    const std::string objeto = "Memo" + std::to_string(primerMemo + i);
-    columna->addWidget(NuevoMemo(primerMemo + i, nombre, objeto.c_str(), bloque));
-    filas->addRow(bloque);
-    anotaciones.cajas[i] = bloque;
-  }
-  return caja;
-}
-
-QWidget* TFDefinicion::CajaIntervenciones() {
-  auto* caja = new QGroupBox(tr("Intervenciones en el edificio"), this);
-  auto* rejilla = new QGridLayout(caja);
-  PonerMargenes(caja);
-  for (std::size_t i = 0; i < kIntervenciones.size(); ++i)
-    enlaces_.Casilla(CeldaFormulario(rejilla, i, 3), kIntervenciones[i].campo,
-                     OpcionesSinCalculo(kIntervenciones[i].rotulo), kSi, kNo);
-  return caja;
 }
 
 QWidget* TFDefinicion::ParteMejora() {
@@ -247,13 +169,7 @@ void TFDefinicion::Refrescar() {
   recomendaciones_->setTitle(conMejoras ? tr("Recomendaciones Uso /Justificación secuencia")
                                         : tr("Recomendaciones Uso"));
   secuencia_->setVisible(conMejoras);
-  const auto ensenar = [](const Anotaciones& anotaciones, float cuantas) {
-    anotaciones.ninguna->setVisible(cuantas < 1);
-    for (std::size_t i = 0; i < anotaciones.cajas.size(); ++i)
-      anotaciones.cajas[i]->setVisible(static_cast<float>(i) < cuantas);
-  };
-  ensenar(visitas_, g.NumeroVisitas);
-  ensenar(observaciones_, g.NumeroObservaciones);
+  visitas_.Refrescar();
   Marcar(coste_, g.Coste);
   Marcar(plazo_, g.PlazoAmortizacion);
   for (EditorMemo* memo : memos_) memo->Refrescar();

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <array>
 #include <vector>
 
+#include "shell/gui/CajasVisitas.h"
 #include "shell/gui/Pagina.h"
 
 class QButtonGroup;
@@ -22,20 +22,11 @@ class TFDefinicion : public Pagina {
   void Refrescar() override;
 
  private:
-  /// Las tres visitas o las tres observaciones.
-  struct Anotaciones {
-    QLabel* ninguna = nullptr;
-    std::array<QWidget*, 3> cajas{};
-  };
   /// Una lista de opciones excluyentes.
   using PonerPosicion = void (*)(Edificio&, int);
 
   QWidget* ParteBase();
   QWidget* CajaRecomendaciones();
-  QWidget* CajaAnotaciones(Anotaciones& anotaciones, const QString& titulo, const QString& una,
-                           const std::string& numero, const std::string& fecha,
-                           std::size_t primerMemo, const QString& ninguna);
-  QWidget* CajaIntervenciones();
   QWidget* ParteMejora();
   QWidget* CajaDescripcion();
   QWidget* CajaOpciones(QButtonGroup*& grupo, std::string_view titulo,
@@ -46,7 +37,7 @@ class TFDefinicion : public Pagina {
 
   QWidget *base_ = nullptr, *mejora_ = nullptr, *secuencia_ = nullptr;
   QGroupBox* recomendaciones_ = nullptr;
-  Anotaciones visitas_, observaciones_;
+  CajasVisitas visitas_;
   QButtonGroup *coste_ = nullptr, *plazo_ = nullptr;
   std::vector<EditorMemo*> memos_;
 };
