@@ -69,6 +69,7 @@ QValueAxis* EjeDeValores(const Grafico& grafico, bool desdeCero, QObject* padre)
   if (mayor - menor < 1e-9) mayor = menor + 1;
   auto* eje = new QValueAxis(padre);
   eje->setRange(menor, mayor);
+  eje->setTruncateLabels(false);  // en un gráfico bajo no quedarían más que puntos
   eje->applyNiceNumbers();
   // Los decimales que distinguen una marca de otra.
   const double paso = (eje->max() - eje->min()) / (eje->tickCount() - 1);
@@ -192,7 +193,6 @@ void VistaGrafico::PonerBarras(const Grafico& grafico) {
     nombres << nombre;
   }
   x->append(nombres);
-  if (nombres.size() > 9) x->setLabelsAngle(-60);
   Vestir(x, Q(grafico.ejeX), texto);
   x->setGridLineVisible(false);
   QValueAxis* y = EjeDeValores(grafico, true, dibujo);
@@ -202,6 +202,28 @@ void VistaGrafico::PonerBarras(const Grafico& grafico) {
   barras->attachAxis(x);
   barras->attachAxis(y);
   barras->setBarWidth(0.7);
+  InclinarRotulos();
+}
+
+void VistaGrafico::InclinarRotulos() {
+  constexpr int kEje = 80;  // lo que ocupan los valores y los márgenes
+  const auto ejes = vista_->chart()->axes(Qt::Horizontal);
+  for (QAbstractAxis* eje : ejes) {
+    auto* x = qobject_cast<QBarCategoryAxis*>(eje);
+    if (x == nullptr || x->count() == 0) continue;
+    int ancho = 0;
+    const QStringList nombres = x->categories();
+    for (const QString& nombre : nombres)
+      ancho = std::max(ancho, QFontMetrics(x->labelsFont()).horizontalAdvance(nombre));
+    const bool caben = ancho + 6 <= (vista_->width() - kEje) / x->count();
+    x->setLabelsAngle(caben ? 0 : -90);  // inclinados, los de los bordes no salen
+    x->setTruncateLabels(caben);
+  }
+}
+
+void VistaGrafico::resizeEvent(QResizeEvent* evento) {
+  QWidget::resizeEvent(evento);
+  InclinarRotulos();
 }
 
 QValueAxis* VistaGrafico::PonerEjeX(const Grafico& grafico) {

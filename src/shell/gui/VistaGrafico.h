@@ -51,9 +51,12 @@ class VistaGrafico : public QWidget {
 
  protected:
   bool eventFilter(QObject* objeto, QEvent* evento) override;
+  void resizeEvent(QResizeEvent* evento) override;
 
  private:
   void PonerBarras(const Grafico& grafico);
+  /// Los nombres de las barras se inclinan cuando no caben.
+  void InclinarRotulos();
   void PonerPuntos(const Grafico& grafico, Qt::Alignment lado, std::size_t primerColor);
   QValueAxis* PonerEjeX(const Grafico& grafico);
   void PonerPuntosDe(QXYSeries* dibujada, const Grafico& grafico, const SerieGrafico& serie);

@@ -13,6 +13,7 @@
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
 #include "entry/HojaDeCalculo.h"
+#include "outputs/ExportacionTablas.h"
 #include "outputs/TextoTabla.h"
 #include "shell/gui/EtiquetaEnergetica.h"
 #include "shell/gui/TextoQt.h"
@@ -20,11 +21,23 @@
 namespace novex::gui {
 namespace {
 
-constexpr int kAnchoMaximo = 420;  // de una columna, en píxeles
+constexpr std::size_t kColumnasAnchas = 10;  // con más, las cabeceras van en dos líneas
+constexpr int kAnchoMaximo = 420;            // de una columna, en píxeles
 constexpr std::size_t kFilasMedidas = 200;
 
-bool EsLetra(const QString& texto) {
-  return texto.size() == 1 && texto[0] >= 'A' && texto[0] <= 'G';
+// La letra de una casilla que la lleva sola o delante de su ahorro, "B" o "B,12.50".
+QString LetraDe(const QString& texto) {
+  const bool letra = !texto.isEmpty() && texto[0] >= 'A' && texto[0] <= 'G' &&
+                     (texto.size() == 1 || texto[1] == ',');
+  return letra ? texto.left(1) : QString();
+}
+
+// Con muchas columnas una cabecera se parte en dos líneas por su última palabra.
+QString Cabecera(const std::string& texto, bool partida) {
+  QString cabecera = Q(texto);
+  const qsizetype corte = cabecera.lastIndexOf(' ');
+  if (partida && corte > 0) cabecera[corte] = '\n';
+  return cabecera;
 }
 
 bool EsTotal(const std::vector<Celda>& fila) {
@@ -35,16 +48,25 @@ QTableWidgetItem* Casilla(const Celda& celda, bool total) {
   auto* casilla = new QTableWidgetItem(Q(celda.texto));
   QFont letra = casilla->font();
   if (celda.numero) casilla->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  if (EsLetra(casilla->text())) {
+  const QString calificacion = LetraDe(casilla->text());
+  if (!calificacion.isEmpty()) {
     casilla->setTextAlignment(Qt::AlignCenter);
-    casilla->setBackground(ColorLetra(casilla->text()));
-    casilla->setForeground(TextoSobreLetra(casilla->text()));
+    casilla->setBackground(ColorLetra(calificacion));
+    casilla->setForeground(TextoSobreLetra(calificacion));
   }
-  if (total || EsLetra(casilla->text())) {
+  if (total || (!calificacion.isEmpty() && casilla->text() == calificacion)) {
     letra.setBold(true);
     casilla->setFont(letra);
   }
   return casilla;
+}
+
+void Guardar(QWidget* padre, const std::filesystem::path& ruta, const std::string& texto) {
+  try {
+    EscribirFichero(ruta, texto);
+  } catch (const ErrorFichero& error) {
+    QMessageBox::warning(padre, "AVISO", Q(error.what()));
+  }
 }
 
 }  // namespace
@@ -96,7 +118,9 @@ void VistaTabla::Poner(const Tabla& tabla) {
   rejilla_->setRowCount(static_cast<int>(tabla.filas.size()));
   rejilla_->setColumnCount(static_cast<int>(columnas));
   QStringList cabeceras;
-  for (const std::string& c : tabla.cabeceras) cabeceras << Q(c);
+  const bool muchas = columnas > kColumnasAnchas;
+  for (std::size_t c = 0; c < tabla.cabeceras.size(); ++c)
+    cabeceras << Cabecera(tabla.cabeceras[c], muchas && c > 0);
   rejilla_->setHorizontalHeaderLabels(cabeceras);
   rejilla_->horizontalHeader()->setVisible(!tabla.cabeceras.empty());
   for (std::size_t f = 0; f < tabla.filas.size(); ++f)
@@ -191,12 +215,14 @@ void GuardarTextoPreguntando(QWidget* padre, const QString& nombre, const QStrin
     if (!c.isLetterOrNumber() && c != ' ' && c != '-') c = '_';
   const QString ruta =
       QFileDialog::getSaveFileName(padre, QObject::tr("Exportar"), propuesta.trimmed(), filtro);
-  if (ruta.isEmpty()) return;
-  try {
-    EscribirFichero(S(ruta), texto);
-  } catch (const ErrorFichero& error) {
-    QMessageBox::warning(padre, "AVISO", Q(error.what()));
-  }
+  if (!ruta.isEmpty()) Guardar(padre, S(ruta), texto);
+}
+
+void ExportarTextoPreguntando(QWidget* padre, const std::filesystem::path& carpeta,
+                              const std::string& texto) {
+  const QString ruta = QFileDialog::getSaveFileName(padre, QObject::tr("Guardar datos"), Q(carpeta),
+                                                    "Text files (*.txt *.TXT)");
+  if (!ruta.isEmpty()) Guardar(padre, RutaExportacion(S(ruta)), texto);
 }
 
 }  // namespace novex::gui

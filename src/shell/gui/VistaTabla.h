@@ -4,6 +4,7 @@
 #include <QTableWidget>
 #include <QToolButton>
 #include <QWidget>
+#include <filesystem>
 
 #include "base/Tabla.h"
 
@@ -46,5 +47,9 @@ class VistaTabla : public QWidget {
 /// \param filtro de `QFileDialog`, "Texto (*.txt)"
 void GuardarTextoPreguntando(QWidget* padre, const QString& nombre, const QString& filtro,
                              const std::string& texto);
+/// Escribe una exportación de resultados, en ".txt", donde diga el usuario; al principio se le
+/// ofrece la carpeta de los proyectos.
+void ExportarTextoPreguntando(QWidget* padre, const std::filesystem::path& carpeta,
+                              const std::string& texto);
 
 }  // namespace novex::gui
