@@ -13,7 +13,10 @@ PaginaPestanas::PaginaPestanas(ContextoGui& contexto, QWidget* padre) : Pagina(c
   pestanas_ = new QTabWidget(this);
   pestanas_->setDocumentMode(true);
   columna->addWidget(pestanas_);
-  connect(pestanas_, &QTabWidget::currentChanged, this, [this] { Refrescar(); });
+  // La que no está a la vista se refresca al enseñarla.
+  connect(pestanas_, &QTabWidget::currentChanged, this, [this] {
+    if (isVisible()) Refrescar();
+  });
 }
 
 void PaginaPestanas::Anadir(Pagina* pagina, const QString& titulo) {
