@@ -1,11 +1,18 @@
 #pragma once
 
+#include <vector>
+
+#include "outputs/HojaCalificacion.h"
+#include "shell/gui/EtiquetaEnergetica.h"
 #include "shell/gui/PaginaResultados.h"
-#include "shell/gui/VistaTablas.h"
+#include "shell/gui/SelectorOpciones.h"
+
+class QGridLayout;
 
 namespace novex::gui {
 
-/// La hoja de calificación: indicadores con su letra, su escala y sus notas.
+/// La hoja de calificación, dibujada como en el certificado: la demanda, el indicador elegido por
+/// servicios y su total, cada uno en su escala, con las notas debajo.
 class PaginaCalificacion : public PaginaResultados {
   Q_OBJECT
 
@@ -16,7 +23,14 @@ class PaginaCalificacion : public PaginaResultados {
   void Ensenar(const CasoCalculado& caso) override;
 
  private:
-  VistaTablas* tablas_;
+  QWidget* Columnas();
+  void EnsenarNotas(const HojaCalificacion& hoja);
+
+  SelectorOpciones* base_;
+  QWidget* columnas_;
+  QLabel *sinHoja_, *tituloDemanda_, *tituloServicios_, *zona_, *horas_;
+  std::vector<EtiquetaEnergetica*> demanda_, servicios_;
+  EtiquetaEnergetica* total_;
 };
 
 }  // namespace novex::gui
