@@ -1,11 +1,16 @@
 #pragma once
 
+#include <QComboBox>
+
+#include "outputs/ExportacionTablas.h"
+#include "outputs/TablasMensualesResultados.h"
 #include "shell/gui/PaginaResultados.h"
+#include "shell/gui/VistaGrafico.h"
 #include "shell/gui/VistaTablas.h"
 
 namespace novex::gui {
 
-/// Los resultados por meses, en sus tres vistas.
+/// Los resultados por meses, en sus tres vistas: las rejillas y, debajo, los meses de una de ellas.
 class PaginaMensual : public PaginaResultados {
   Q_OBJECT
 
@@ -16,7 +21,15 @@ class PaginaMensual : public PaginaResultados {
   void Ensenar(const CasoCalculado& caso) override;
 
  private:
+  SeleccionMensual Seleccion() const;
+  void Exportar(AlcanceExportacion alcance);
+  void Dibujar();
+
+  QComboBox *seleccion_, *servicio_, *resultado_, *dibujada_;
   VistaTablas* tablas_;
+  VistaGrafico* grafico_;
+  QLabel* sinValores_;
+  std::vector<RejillaMensual> rejillas_;
 };
 
 }  // namespace novex::gui

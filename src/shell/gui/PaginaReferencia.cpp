@@ -1,9 +1,10 @@
 #include "shell/gui/PaginaReferencia.h"
 
 #include <QHBoxLayout>
+#include <QPushButton>
 #include <QVBoxLayout>
 
-#include "outputs/TablaObjetoReferencia.h"
+#include "outputs/ExportacionTablas.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -12,22 +13,33 @@ PaginaReferencia::PaginaReferencia(ContextoGui& contexto, QWidget* padre)
     : PaginaResultados(contexto, padre) {
   auto* columna = new QVBoxLayout(this);
   auto* fila = new QHBoxLayout;
-  unidades_ = new QComboBox(this);
-  unidades_->setObjectName("RGUnidades");
-  for (const std::string_view texto : kTextoUnidadesReferencia) unidades_->addItem(Q(texto));
+  unidades_ = new SelectorOpciones("RGUnidades", kTextoUnidadesReferencia, this);
   unidades_->setToolTip(tr("Del edificio entero, o por m² de superficie útil"));
-  connect(unidades_, &QComboBox::activated, this, [this] { Refrescar(); });
+  connect(unidades_, &SelectorOpciones::Cambiada, this, [this] { Refrescar(); });
   fila->addWidget(unidades_);
   fila->addStretch(1);
+  auto* guardar = new QPushButton(tr("Guardar datos"), this);
+  guardar->setObjectName("SpeedButton2");
+  connect(guardar, &QPushButton::clicked, this, &PaginaReferencia::Exportar);
+  fila->addWidget(guardar);
   columna->addLayout(fila);
   tabla_ = new VistaTabla(this);
   tabla_->Estirar(true);
   columna->addWidget(tabla_, 1);
 }
 
+UnidadesReferencia PaginaReferencia::Unidades() const {
+  return static_cast<UnidadesReferencia>(unidades_->Elegida());
+}
+
+void PaginaReferencia::Exportar() {
+  if (const auto caso = Calculado())
+    ExportarTextoPreguntando(this, contexto_.Ficheros().Espacio().Proyectos(),
+                             ExportarObjetoReferencia(*caso, Unidades()));
+}
+
 void PaginaReferencia::Ensenar(const CasoCalculado& caso) {
-  const auto unidades = static_cast<UnidadesReferencia>(unidades_->currentIndex());
-  tabla_->Poner(TablaObjetoReferencia(caso, unidades)
+  tabla_->Poner(TablaObjetoReferencia(caso, Unidades())
                     .value_or(Tabla{.titulo = std::string(kSinObjetoReferencia),
                                     .cabeceras = {},
                                     .filas = {},

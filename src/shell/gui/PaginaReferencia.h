@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QComboBox>
-
+#include "outputs/TablaObjetoReferencia.h"
 #include "shell/gui/PaginaResultados.h"
+#include "shell/gui/SelectorOpciones.h"
 #include "shell/gui/VistaTabla.h"
 
 namespace novex::gui {
@@ -18,7 +18,10 @@ class PaginaReferencia : public PaginaResultados {
   void Ensenar(const CasoCalculado& caso) override;
 
  private:
-  QComboBox* unidades_;
+  UnidadesReferencia Unidades() const;
+  void Exportar();
+
+  SelectorOpciones* unidades_;
   VistaTabla* tabla_;
 };
 
