@@ -4,9 +4,11 @@
 
 #include "shell/gui/PaginaAnalisisTecnico.h"
 #include "shell/gui/PaginaCalificacion.h"
+#include "shell/gui/PaginaDetalle.h"
 #include "shell/gui/PaginaHorarias.h"
 #include "shell/gui/PaginaMensual.h"
 #include "shell/gui/PaginaReferencia.h"
+#include "shell/gui/PaginaVisitas.h"
 
 namespace novex::gui {
 namespace {
@@ -14,6 +16,7 @@ namespace {
 constexpr const char* kMensuales = "Mensuales";
 constexpr const char* kHorarias = "Horarias";
 constexpr const char* kReferencia = "Objeto_Referencia";
+constexpr const char* kVisitas = "Visitas/Observaciones/Intervenciones";
 
 }  // namespace
 
@@ -27,7 +30,9 @@ TResultadosT::TResultadosT(ContextoGui& contexto, QWidget* padre)
   Anadir(new PaginaCalificacion(contexto), "Calificación");
   Anadir(new PaginaMensual(contexto), kMensuales);
   Anadir(new PaginaHorarias(contexto), kHorarias);
+  Anadir(new PaginaDetalle(contexto), "Detalle");
   Anadir(new PaginaReferencia(contexto), kReferencia);
+  Anadir(new PaginaVisitas(contexto), kVisitas);
   Anadir(new PaginaAnalisisTecnico(contexto), "Análisis técnico");
 }
 
@@ -35,12 +40,14 @@ void TResultadosT::PonerPestanas() {
   const DatosGenerales generales = contexto_.Caso().GetDatosGenerales();
   const bool libre = generales.Tiposimulacion == "Simulacion";
   Esconder(kReferencia, generales.EsResidencial() || libre);
-  if (!abierta_ && libre) Mostrar(kMensuales);
-  abierta_ = true;
+  Esconder(kVisitas, !contexto_.Sesion().Gestor().EsCasoActivo(caso::kViejo));
+  const bool pasaALibre = libre && !libre_;
+  libre_ = libre;
+  if (pasaALibre) Mostrar(kMensuales);
 }
 
 void TResultadosT::AbrirEnHorarias() {
-  abierta_ = true;
+  PonerPestanas();
   Mostrar(kHorarias);
 }
 

@@ -19,7 +19,7 @@ class TResultadosT : public PaginaPestanas {
   void PonerPestanas();
 
   QLabel* fallo_;
-  bool abierta_ = false;
+  bool libre_ = false;  // la última vez era una simulación libre
 };
 
 }  // namespace novex::gui
