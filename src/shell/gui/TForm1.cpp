@@ -18,6 +18,7 @@
 #include "shell/LanzadorExterno.h"
 #include "shell/gui/DialogoExpres.h"
 #include "shell/gui/PaginaAdministrativa.h"
+#include "shell/gui/PaginaComparacion.h"
 #include "shell/gui/PaginaHorarios.h"
 #include "shell/gui/PaginaPestanas.h"
 #include "shell/gui/PaginaSitio.h"
@@ -185,7 +186,7 @@ Pagina* TForm1::CrearPagina(Destino destino) {
     case Destino::Certificacion:
       return new TResultadosT(contexto_);
     case Destino::Comparacion:
-      return new PaginaTablas(contexto_, Destino::Comparacion);
+      return new PaginaComparacion(contexto_);
     case Destino::HE:
       return new PaginaTablas(contexto_, Destino::HE);
     case Destino::Definicion:
@@ -271,6 +272,7 @@ void TForm1::PonerCasos() {
   const bool varios = gestor.NumeroCasos() > 1;
   casos_->setEnabled(varios);
   pestanas_->setTabVisible(static_cast<int>(Destino::Comparacion), varios);
+  pestanas_->updateGeometry();
   duplicar_->setVisible(gestor.NumeroCasos() < kCasosMaximos);
 }
 
