@@ -9,6 +9,7 @@ namespace {
 constexpr double kParteHoras = 0.04;  // de las de ocupación
 constexpr int kDecimales = 2;
 constexpr const char* kUnidad = "kWh/m2 año";
+constexpr const char* kPieHoras = "* con una diferencia > 1ºC respecto a la consigna";
 
 double Anual(const ResultadosCaso& r, Servicio servicio, UnidadEnergia unidad) {
   return static_cast<double>(r.servicio[servicio].porUnidad[unidad][0]);
@@ -49,6 +50,36 @@ Tabla TablaIndicadores(const RequisitoHE0& he0, const ResultadosCaso& r) {
   return tabla;
 }
 
+Grafico GraficoIndicadores(const RequisitoHE0& he0, const ResultadosCaso& r) {
+  const auto cifra = [](float x) { return static_cast<double>(x); };
+  Grafico g;
+  g.titulo = "Energía primaria y demandas";
+  g.posiciones = {"Cep,tot", "Cep,nren", "Refrigeración", "Calefacción"};
+  g.ejeY = kUnidad;
+  // La calefacción, la última, no tiene barra de límite.
+  g.series = {
+      {"Real",
+       {he0.CepTot, he0.CepNren, cifra(r.demandaRefrigeracion), cifra(r.demandaCalefaccion)}},
+      {"Límite",
+       {cifra(r.limites.CepTot), cifra(r.limites.CepNren), cifra(r.limites.demandaRefrigeracion)}}};
+  return g;
+}
+
+Tabla TablaHoras(const RequisitoHE0& he0, const ResultadosCaso& r) {
+  Tabla tabla;
+  tabla.cabeceras = {"Horas al año", "h"};
+  const auto fila = [&](const char* nombre, double horas, int decimales) {
+    tabla.filas.push_back({nombre, Celda::Numero(horas, decimales)});
+  };
+  fila("Fuera de consigna de calefacción *", static_cast<double>(r.horasFueraCalefaccion), 0);
+  fila("Fuera de consigna de refrigeración *", static_cast<double>(r.horasFueraRefrigeracion), 0);
+  fila("Total fuera de consigna", he0.horasFuera, 0);
+  fila("Límite, 4 % de las de ocupación", he0.horasLimite, kDecimales);
+  fila("Horas de ocupación", static_cast<double>(r.horasOcupacion), 0);
+  tabla.notas = {kPieHoras};
+  return tabla;
+}
+
 }  // namespace
 
 RequisitoHE0 ComprobarHE0(const Edificio& edificio, const ResultadosCaso& r) {
@@ -75,8 +106,10 @@ RequisitoHE0 ComprobarHE0(const Edificio& edificio, const ResultadosCaso& r) {
                     Fijo(static_cast<double>(r.demandaCalefaccion), kDecimales),
                 "Demanda real refrigeración (kW/h m2 año):    " +
                     Fijo(static_cast<double>(r.demandaRefrigeracion), kDecimales),
-                "* con una diferencia > 1ºC respecto a la consigna"};
+                kPieHoras};
   he0.indicadores = TablaIndicadores(he0, r);
+  he0.grafico = GraficoIndicadores(he0, r);
+  he0.horas = TablaHoras(he0, r);
 
   std::string notaLimite = NotaAplicacion(d, respuesta);
   if (aplica && !r.limites.puestos)

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "base/Grafico.h"
 #include "base/Tabla.h"
 #include "compliance/Veredicto.h"
 #include "demand/ResultadosCaso.h"
@@ -18,6 +19,8 @@ struct RequisitoHE0 {
   std::string veredictoHoras, veredictoTot, veredictoNren;
   std::vector<std::string> textos;  ///< demandas y pie
   Tabla indicadores;                ///< demandas y energía primaria con su límite
+  Grafico grafico;                  ///< los mismos en barras
+  Tabla horas;                      ///< fuera de consigna y de ocupación
   std::vector<Veredicto> veredictos;
   bool Cumple() const { return cumpleHoras && cumpleTot && cumpleNren; }
 };

@@ -101,7 +101,7 @@ Tabla TablaK(const EnvolventeHE1& e) {
 Grafico GraficoK(const EnvolventeHE1& e) {
   Grafico g;
   g.titulo = "K*A por grupo";
-  g.posiciones = {"Exterior", "Terreno", "Huecos", "Puentes térmicos"};
+  g.posiciones = {"Exterior", "Terreno", "Huecos", "Puentes"};
   g.ejeY = "W/K";
   g.series = {{"K*A", {e.KAext, e.KAterr, e.KAhuecos, e.KLpuentes}}};
   return g;

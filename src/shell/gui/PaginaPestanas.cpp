@@ -25,6 +25,8 @@ void PaginaPestanas::Anadir(Pagina* pagina, const QString& titulo) {
   visor->setFrameShape(QFrame::NoFrame);
   visor->setWidget(pagina);
   paginas_.push_back(pagina);
+  // La primera pasa a ser la que se ve; enseñarla le toca a quien entre en la página.
+  const QSignalBlocker callada(pestanas_);
   pestanas_->addTab(visor, titulo);
 }
 
@@ -49,6 +51,14 @@ void PaginaPestanas::Mostrar(const QString& titulo) {
 void PaginaPestanas::Esconder(const QString& titulo, bool si) {
   for (int i = 0; i < pestanas_->count(); ++i)
     if (pestanas_->tabText(i) == titulo) pestanas_->setTabVisible(i, !si);
+}
+
+void PaginaPestanas::Marcar(const QString& titulo, const QIcon& icono, const QString& ayuda) {
+  for (int i = 0; i < pestanas_->count(); ++i)
+    if (pestanas_->tabText(i) == titulo) {
+      pestanas_->setTabIcon(i, icono);
+      pestanas_->setTabToolTip(i, ayuda);
+    }
 }
 
 }  // namespace novex::gui

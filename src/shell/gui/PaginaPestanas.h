@@ -21,6 +21,8 @@ class PaginaPestanas : public Pagina {
   void Mostrar(const QString& titulo);
   /// Esconde o enseña la de ese título.
   void Esconder(const QString& titulo, bool si);
+  /// Pone a la de ese título un icono y lo que quiere decir.
+  void Marcar(const QString& titulo, const QIcon& icono, const QString& ayuda);
   const std::vector<Pagina*>& Paginas() const { return paginas_; }
 
  private:

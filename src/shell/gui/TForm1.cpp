@@ -27,6 +27,7 @@
 #include "shell/gui/PaginaUso.h"
 #include "shell/gui/TDefEdificio.h"
 #include "shell/gui/TFDefinicion.h"
+#include "shell/gui/THE1.h"
 #include "shell/gui/TResultadosT.h"
 #include "shell/gui/TTEquipos.h"
 #include "shell/gui/TextoQt.h"
@@ -188,7 +189,7 @@ Pagina* TForm1::CrearPagina(Destino destino) {
     case Destino::Comparacion:
       return new PaginaComparacion(contexto_);
     case Destino::HE:
-      return new PaginaTablas(contexto_, Destino::HE);
+      return new THE1(contexto_);
     case Destino::Definicion:
       break;
   }

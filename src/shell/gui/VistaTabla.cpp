@@ -41,7 +41,11 @@ QString Cabecera(const std::string& texto, bool partida) {
 }
 
 bool EsTotal(const std::vector<Celda>& fila) {
-  return !fila.empty() && Q(fila.front().texto).contains("total", Qt::CaseInsensitive);
+  if (fila.empty()) return false;
+  // "Total" o "Demanda total"; no "Energía primaria total Cep,tot", que es un requisito.
+  const QString rotulo = Q(fila.front().texto);
+  return rotulo.startsWith("total", Qt::CaseInsensitive) ||
+         rotulo.endsWith("total", Qt::CaseInsensitive);
 }
 
 QTableWidgetItem* Casilla(const Celda& celda, bool total) {
