@@ -21,6 +21,23 @@ bool PasaComprobaciones(const Edificio& edificio, Mensajes& mensajes) {
   return avisos.empty();
 }
 
+// Hasta dónde llega cada paso, en el avance del documento.
+constexpr int kHastaCalculo = 40, kHastaMejoras = 60, kHastaHtml = 70, kHecho = 100;
+
+// El avance de un paso dentro del entero.
+class TramoProgreso : public Progreso {
+ public:
+  TramoProgreso(Progreso& entero, int desde, int hasta)
+      : entero_(entero), desde_(desde), hasta_(hasta) {}
+  void Avanzar(int porcentaje) override {
+    entero_.Avanzar(desde_ + (hasta_ - desde_) * porcentaje / 100);
+  }
+
+ private:
+  Progreso& entero_;
+  int desde_, hasta_;
+};
+
 bool Calculado(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno& entorno) {
   const Edificio& edificio = *gestor.Caso(nombreCaso);
   const bool hecho = edificio.GetCalculo() && edificio.GetCalculo()->Calculado();
@@ -71,11 +88,17 @@ DocumentoEmitido EmitirDocumento(GestorEdifActivo& gestor, std::string_view nomb
   const Edificio& edificio = *gestor.Caso(nombreCaso);
   const EspacioTrabajo& espacio = entorno.ficheros.Espacio();
   if (!PasaComprobaciones(edificio, entorno.mensajes)) return {Emision::Rechazada, {}, {}};
-  if (!Calculado(gestor, nombreCaso, entorno)) return {Emision::SinCalculo, {}, {}};
+  TramoProgreso alCalcular(entorno.progreso, 0, kHastaCalculo);
+  Entorno calculando{entorno.ficheros, entorno.mensajes, alCalcular, entorno.ficherosDeCaso};
+  if (!Calculado(gestor, nombreCaso, calculando)) return {Emision::SinCalculo, {}, {}};
+  entorno.progreso.Avanzar(kHastaCalculo);
+  TramoProgreso alMedir(entorno.progreso, kHastaCalculo, kHastaMejoras);
+  Entorno midiendo{entorno.ficheros, entorno.mensajes, alMedir, entorno.ficherosDeCaso};
   const bool certificado = pedido.tipo == TipoDocumento::Certi;
-  const auto mejoras = certificado ? MedirMarcadas(gestor, nombreCaso, pedido.hilos, entorno)
+  const auto mejoras = certificado ? MedirMarcadas(gestor, nombreCaso, pedido.hilos, midiendo)
                                    : std::optional(MejorasMedidas());
   if (!mejoras) return {Emision::SinCalculo, {}, {}};
+  entorno.progreso.Avanzar(kHastaMejoras);
 
   const CasoCalculado caso = {std::string(nombreCaso), &edificio, edificio.GetCalculo().get(), {}};
   DatosDocumento datos;
@@ -94,6 +117,7 @@ DocumentoEmitido EmitirDocumento(GestorEdifActivo& gestor, std::string_view nomb
 
   const VerificacionHE verificacion =
       VerificarHE(edificio, *caso.resultado, LeerDocumentosHE(espacio.Datos()));
+  entorno.progreso.Avanzar(kHastaHtml);
   DocumentoEmitido hecho;
   const bool residencial = edificio.GetDatosGenerales().EsResidencial();
   const std::filesystem::path html = NombreDocumento(pedido.proyecto, pedido.tipo, pedido.carpeta);
@@ -103,6 +127,7 @@ DocumentoEmitido EmitirDocumento(GestorEdifActivo& gestor, std::string_view nomb
   hecho.html = html;
   if (pedido.pdf && !EscribirPdf(edificio, espacio, hecho, entorno.mensajes))
     hecho.estado = Emision::SinPdf;
+  entorno.progreso.Avanzar(kHecho);
   return hecho;
 }
 

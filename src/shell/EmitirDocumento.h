@@ -36,7 +36,9 @@ struct DocumentoEmitido {
 
 /// Escribe el certificado o la verificación de un caso, en HTML y si se pide en PDF: comprueba el
 /// caso, lo calcula si no lo está, mide las mejoras marcadas, deja sus imágenes en la carpeta de
-/// imágenes y rellena la plantilla. De lo que impide algo se avisa por `entorno.mensajes`.
+/// imágenes y rellena la plantilla. De lo que impide algo se avisa por `entorno.mensajes`, y el
+/// avance va del cálculo al PDF, en `entorno.progreso`: lo que este lance hasta el 70 %
+/// interrumpe el documento sin haber escrito nada.
 /// \throws ErrorFichero si un fichero de datos del programa falta o no se entiende
 DocumentoEmitido EmitirDocumento(GestorEdifActivo& gestor, std::string_view nombreCaso,
                                  const PedidoDocumento& pedido, Entorno& entorno);

@@ -35,6 +35,8 @@ class SesionProyecto {
   /// Fichero del proyecto; "Nuevo.xml" sin carpeta si no se ha guardado nunca.
   const std::filesystem::path& Fichero() const { return fichero_; }
   bool TieneFichero() const { return fichero_.has_parent_path(); }
+  /// Codificación del fichero abierto, con la que se guarda.
+  const ModoCodificacion& Codificacion() const { return codificacion_; }
   /// ¿Hay algo sin guardar?
   bool Modificado() const { return revision_ != guardada_; }
   /// Cambia con cada edición, también al deshacerla; no se repite.
