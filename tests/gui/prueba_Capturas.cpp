@@ -1,7 +1,8 @@
-#include <QComboBox>
+#include <QPushButton>
 #include <QTabWidget>
 
 #include "gui/VentanaPrueba.h"
+#include "shell/gui/TImpresor.h"
 
 namespace novex::gui::pruebas {
 namespace {
@@ -12,8 +13,10 @@ TEST_F(VentanaTest, Capturas) {
   const QString destino = qEnvironmentVariable("NOVEX_CAPTURAS");
   if (destino.isEmpty()) GTEST_SKIP() << "sin NOVEX_CAPTURAS";
   const QString ejemplo = qEnvironmentVariable("NOVEX_CAPTURAS_EJEMPLO");
-  ASSERT_TRUE(ventana->Abrir(
-      Ejemplo(ejemplo.isEmpty() ? "vivienda_unifamiliar_D3.xml" : ejemplo.toStdString())));
+  const std::string proyecto =
+      ejemplo.isEmpty() ? "vivienda_unifamiliar_D3.xml" : ejemplo.toStdString();
+  std::filesystem::copy_file(Ejemplo(proyecto), carpeta / proyecto);  // el documento va a su lado
+  ASSERT_TRUE(ventana->Abrir(carpeta / proyecto));
   EsperarVivo();
   const auto guardar = [&](const QString& nombre) {
     QTest::qWait(50);
@@ -30,8 +33,25 @@ TEST_F(VentanaTest, Capturas) {
       guardar(QString(kNombres[i]) +
               (pestanas == nullptr ? QString()
                                    : "_" + pestanas->tabText(p).toLower().replace(' ', '_')));
+      // Las pestañas que una pestaña lleva dentro.
+      auto* dentro = pestanas == nullptr ? nullptr : pestanas->widget(p)->findChild<QTabWidget*>();
+      for (int d = 1; dentro != nullptr && d < dentro->count(); ++d) {
+        dentro->setCurrentIndex(d);
+        guardar(QString("%1_%2_%3").arg(kNombres[i]).arg(p).arg(d));
+      }
     }
   }
+  ventana->Mostrar(Destino::Certificacion);
+  ConDialogo<TImpresor>([&] { Ordenar("Imprimir"); },
+                        [&](TImpresor& d) {
+                          EXPECT_TRUE(d.grab().save(destino + "/impresor.png"));
+                          for (auto* boton : d.findChildren<QPushButton*>())
+                            if (boton->isVisible() && !boton->icon().isNull() && !d.Ocupado())
+                              boton->click();
+                          for (int i = 0; i < 3000 && d.Ocupado(); ++i) QTest::qWait(20);
+                          QTest::qWait(50);
+                          EXPECT_TRUE(d.grab().save(destino + "/impresor_documento.png"));
+                        });
 }
 
 }  // namespace

@@ -28,6 +28,7 @@
 #include "shell/gui/TDefEdificio.h"
 #include "shell/gui/TFDefinicion.h"
 #include "shell/gui/THE1.h"
+#include "shell/gui/TImpresor.h"
 #include "shell/gui/TResultadosT.h"
 #include "shell/gui/TTEquipos.h"
 #include "shell/gui/TextoQt.h"
@@ -93,6 +94,15 @@ void TForm1::CrearOrdenes() {
         &TForm1::Guardar);
   Orden(barra, "guardarcomo", tr("Guardar como"), tr("Guarda con otro nombre"),
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &TForm1::GuardarComo);
+  QAction* imprimir = barra->addAction(QIcon(":/iconos/imprimir.svg"), tr("Imprimir"));
+  imprimir->setObjectName("SBImpresor");
+  imprimir->setShortcut(QKeySequence::Print);
+  imprimir->setToolTip(tr("Escribe el certificado o la verificación en PDF (Ctrl+P)"));
+  connect(imprimir, &QAction::triggered, this, [this] {
+    if (QWidget* foco = QApplication::focusWidget()) foco->clearFocus();
+    gui::Imprimir(
+        contexto_, mostrada_ == Destino::HE, [this] { Guardar(); }, this);
+  });
   Orden(barra, "anadir", tr("Añadir"), tr("Añade los casos de otro fichero"), {}, &TForm1::Anadir);
   barra->addSeparator();
   duplicar_ = Orden(barra, "duplicar", tr("Duplicar"), tr("Una mejora igual al caso activo"),
