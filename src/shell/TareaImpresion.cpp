@@ -41,7 +41,9 @@ std::unique_ptr<GestorEdifActivo> CopiarConResultados(const GestorEdifActivo& ge
     destino.TomarRegistros(std::move(*origen.Clonar()));
     const auto& resultado = origen.GetCalculo();
     destino.QuitarCalculo();
-    if (resultado && resultado->Calculado()) destino.SetCalculo(resultado);
+    // También copiados: calificar el caso otra vez los escribe.
+    if (resultado && resultado->Calculado())
+      destino.SetCalculo(std::make_shared<calculo>(*resultado));
   };
   for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i) {
     const std::string_view nombre = GestorEdifActivo::NombreCasoUsuario(i);

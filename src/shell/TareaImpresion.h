@@ -21,8 +21,7 @@ class TareaImpresion {
   static constexpr int kAvanceInicial = 100, kAvanceFinal = 10000;
   static constexpr int kSinVuelta = 7000;
 
-  /// Empieza. La copia comparte los resultados de los casos que están calculados, que nadie ha de
-  /// cambiar mientras.
+  /// Empieza. La copia lleva los resultados de los casos que están calculados.
   TareaImpresion(const GestorEdifActivo& gestor, const EspacioTrabajo& espacio, Trabajo trabajo);
   /// Lo interrumpe y espera a que pare.
   ~TareaImpresion();
@@ -54,7 +53,7 @@ class TareaImpresion {
   std::thread hilo_;
 };
 
-/// Copia de un proyecto con los resultados de los casos calculados, compartidos con él.
+/// Copia de un proyecto con los resultados de los casos calculados, que no se repiten.
 std::unique_ptr<GestorEdifActivo> CopiarConResultados(const GestorEdifActivo& gestor);
 
 /// Hace de un PDF una imagen por página. \param carpeta donde se dejan

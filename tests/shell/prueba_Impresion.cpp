@@ -63,20 +63,26 @@ TEST_F(TareaImpresionTest, EscribeSobreUnaCopiaConLosResultadosDelProyecto) {
   Entorno entorno{ficheros, mensajes, progreso};
   ASSERT_TRUE(CalcularCaso(gestor, caso::kViejo, entorno));
   gestor.AnadirMejora();
-  const calculo* resultado = gestor.Caso(caso::kViejo)->GetCalculo().get();
+  const calculo& resultado = *gestor.Caso(caso::kViejo)->GetCalculo();
+  const float demanda = resultado.resultados.demandaCalefaccion;
+  // Lo que ha calculado el proyecto es lo que se escribe: no se vuelve a calcular.
+  gestor.Caso(caso::kViejo)->GetCalculo()->resultados.demandaCalefaccion = demanda + 1;
   DocumentoEmitido hecho;
-  const calculo* usado = nullptr;
+  float usada = 0;
   TareaImpresion tarea(gestor, espacio, [&](GestorEdifActivo& copia, Entorno& suyo) {
     EXPECT_NE(&copia, &gestor);
     EXPECT_EQ(copia.NombreActivo(), gestor.NombreActivo());
     EXPECT_EQ(copia.Caso("Mejora_1")->GetCalculo(), nullptr);
     hecho = EmitirDocumento(copia, caso::kViejo, Pedido(), suyo);
-    usado = copia.Caso(caso::kViejo)->GetCalculo().get();
+    ResultadosCaso& suyos = copia.Caso(caso::kViejo)->GetCalculo()->resultados;
+    usada = suyos.demandaCalefaccion;
+    suyos.demandaCalefaccion = 0;
   });
   Esperar(tarea);
   EXPECT_EQ(hecho.estado, Emision::Hecha);
   EXPECT_TRUE(fs::exists(carpeta / "casa.html"));
-  EXPECT_EQ(usado, resultado);
+  EXPECT_EQ(usada, demanda + 1);
+  EXPECT_EQ(resultado.resultados.demandaCalefaccion, demanda + 1);
   EXPECT_EQ(tarea.Avance(), TareaImpresion::kAvanceFinal);
   EXPECT_FALSE(tarea.Cancelada());
 }
