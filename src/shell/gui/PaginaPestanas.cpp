@@ -25,8 +25,6 @@ void PaginaPestanas::Anadir(Pagina* pagina, const QString& titulo) {
   visor->setFrameShape(QFrame::NoFrame);
   visor->setWidget(pagina);
   paginas_.push_back(pagina);
-  // La primera pasa a ser la que se ve; enseñarla le toca a quien entre en la página.
-  const QSignalBlocker callada(pestanas_);
   pestanas_->addTab(visor, titulo);
 }
 

@@ -39,6 +39,8 @@ THE1::THE1(ContextoGui& contexto, QWidget* padre) : PaginaPestanas(contexto, pad
   const auto hoja = [&](PaginaPestanas* donde, HojaHE cual) {
     donde->Anadir(new PaginaHE(contexto, cual, verificacion_), Q(TituloHojaHE(cual)));
   };
+  // Añadir la primera pestaña la elige, y elegirla sería ya calcular.
+  const QSignalBlocker callada(findChild<QTabWidget*>());
   he1_ = new PaginaPestanas(contexto);
   for (const HojaHE cual : kDeHE1) hoja(he1_, cual);
   hoja(this, HojaHE::Resumen);
