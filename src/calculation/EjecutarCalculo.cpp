@@ -19,20 +19,6 @@ void Avanzar(SimulacionCaso& simulacion, Progreso& progreso) {
   simulacion.Terminar();
 }
 
-// Un caso preparado, con lo que se impone. \param antes lo que se pide a la simulación sin empezar
-template <typename Antes>
-std::unique_ptr<calculo> Simular(Edificio& edificio, const calculo& preparado,
-                                 const Forzados& forzados, Mensajes& mensajes, Progreso& progreso,
-                                 Antes antes) {
-  auto caso = std::make_unique<calculo>(preparado);
-  caso->resultados.forzados = forzados;
-  SimulacionCaso simulacion(edificio, ResolverAjustes(edificio), *caso, mensajes);
-  antes(simulacion);
-  Avanzar(simulacion, progreso);
-  ComprobarResultados(*caso);
-  return caso;
-}
-
 void EscribirFicherosDeCaso(std::string_view nombreCaso, Entorno& entorno, const calculo& caso) {
   const auto carpeta = entorno.ficheros.Espacio().Datos();
   EscribirFicheroBalance(carpeta, nombreCaso, caso);
@@ -101,20 +87,6 @@ std::unique_ptr<calculo> PrepararCalculo(Edificio& edificio, Entorno& entorno) {
   auto preparado = std::make_unique<calculo>();
   if (!PrepararCaso(edificio, ResolverAjustes(edificio), entorno, *preparado)) return nullptr;
   return preparado;
-}
-
-std::unique_ptr<calculo> SimularPreparado(Edificio& edificio, const calculo& preparado,
-                                          const Forzados& forzados, const AnosACS& aguaCaliente,
-                                          Mensajes& mensajes, Progreso& progreso) {
-  return Simular(edificio, preparado, forzados, mensajes, progreso,
-                 [&](SimulacionCaso& s) { s.RepetirACS(aguaCaliente); });
-}
-
-std::unique_ptr<calculo> SimularApuntando(Edificio& edificio, const calculo& preparado,
-                                          const Forzados& forzados, AnosACS& aguaCaliente,
-                                          Mensajes& mensajes, Progreso& progreso) {
-  return Simular(edificio, preparado, forzados, mensajes, progreso,
-                 [&](SimulacionCaso& s) { s.GrabarACS(aguaCaliente); });
 }
 
 bool CalcularCaso(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno& entorno) {

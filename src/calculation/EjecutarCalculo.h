@@ -28,23 +28,10 @@ bool EjecutarCalculo(Edificio& edificio, std::string_view nombreCaso, std::strin
                      Entorno& entorno);
 
 /// Prepara un caso sin simularlo: clima, cargas, sitio, factores y equipos. Un caso que cambia solo
-/// en lo que una medida impone se simula después con `SimularPreparado`, sin repetir esto.
+/// en lo que una medida impone se simula después con `SimulacionPreparada`, sin repetir esto.
 /// \returns el cálculo preparado, o nulo si falta el fichero de clima (el aviso ya se ha dado)
 /// \throws lo mismo que `EjecutarCalculo`
 std::unique_ptr<calculo> PrepararCalculo(Edificio& edificio, Entorno& entorno);
-
-/// Simula un caso ya preparado con los cambios de una medida. El resultado es el de calcularlo
-/// entero. No lee ningún fichero: con su propio edificio, mensajes y progreso se puede llamar desde
-/// varios hilos. \param edificio una copia del preparado \param preparado no cambia \param
-/// aguaCaliente la que apuntó `SimularApuntando` del mismo caso, que ningún cambio de una medida
-/// toca
-std::unique_ptr<calculo> SimularPreparado(Edificio& edificio, const calculo& preparado,
-                                          const Forzados& forzados, const AnosACS& aguaCaliente,
-                                          Mensajes& mensajes, Progreso& progreso);
-/// Lo mismo, y apunta el año de agua caliente.
-std::unique_ptr<calculo> SimularApuntando(Edificio& edificio, const calculo& preparado,
-                                          const Forzados& forzados, AnosACS& aguaCaliente,
-                                          Mensajes& mensajes, Progreso& progreso);
 
 /// Demanda del edificio de referencia de un proyecto, que se calcula si no tiene resultados; vacía
 /// si falta su clima. \throws lo mismo que `EjecutarCalculo`

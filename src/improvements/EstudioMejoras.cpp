@@ -14,6 +14,7 @@ namespace novex {
 namespace {
 
 constexpr std::size_t kMarcasMaximas = 3;
+constexpr int kHorasPorTramo = 730;
 
 constexpr std::array<std::string_view, kCifrasMedida> kClaves = {
     "DemandaCale",          "DemandaRef",
@@ -109,9 +110,25 @@ std::string_view ClaveCifra(CifraMedida cifra) {
   return kClaves.at(static_cast<std::size_t>(cifra));
 }
 
+ResultadoMedida BaseDeEstudio(const ResultadosCaso& resultados, const DatosGenerales& generales) {
+  return Anotar(kCodigoBase, resultados, generales);
+}
+
 std::unique_ptr<EstudioMejoras> EstudioMejoras::Preparar(GestorEdifActivo& gestor,
                                                          std::string_view nombreCaso,
                                                          Entorno& entorno) {
+  auto estudio = Empezar(gestor, nombreCaso, entorno);
+  if (!estudio) return nullptr;
+  while (estudio->AvanzarBase(kHorasPorTramo)) entorno.progreso.Avanzar(estudio->PorcentajeBase());
+  for (const Mensaje& m : estudio->avisosBase_.recibidos)
+    entorno.mensajes.Avisar(m.titulo, m.texto);
+  // Sin volumen de depósito falta el agua caliente: nada de lo demás vale.
+  return estudio->HayBase() ? std::move(estudio) : nullptr;
+}
+
+std::unique_ptr<EstudioMejoras> EstudioMejoras::Empezar(GestorEdifActivo& gestor,
+                                                        std::string_view nombreCaso,
+                                                        Entorno& entorno) {
   auto estudio = std::make_unique<EstudioMejoras>(Llave{});
   estudio->edificio_ = gestor.Caso(nombreCaso)->Clonar();
   estudio->preparado_ = PrepararCalculo(*estudio->edificio_, entorno);
@@ -120,27 +137,25 @@ std::unique_ptr<EstudioMejoras> EstudioMejoras::Preparar(GestorEdifActivo& gesto
     estudio->referencia_ = DemandaDeReferencia(gestor, entorno);
     if (!estudio->referencia_) return nullptr;
   }
-  const std::unique_ptr<Edificio> copia = estudio->edificio_->Clonar();
-  estudio->calculoBase_ =
-      SimularApuntando(*copia, *estudio->preparado_, SinForzar(), estudio->aguaCaliente_,
-                       entorno.mensajes, entorno.progreso);
-  // Sin volumen de depósito falta el agua caliente: nada de lo demás vale.
-  if (estudio->calculoBase_->resultados.depositoNulo) return nullptr;
-  estudio->PonerReferencia(*copia, *estudio->calculoBase_);
-  CalificarCaso(*copia, *estudio->calculoBase_);
-  estudio->base_ =
-      Anotar(kCodigoBase, estudio->calculoBase_->resultados, copia->GetDatosGenerales());
+  estudio->simulacionBase_ = std::make_unique<SimulacionPreparada>(
+      *estudio->edificio_, *estudio->preparado_, SinForzar(), estudio->avisosBase_);
+  estudio->simulacionBase_->GrabarACS(estudio->aguaCaliente_);
   return estudio;
 }
 
-std::unique_ptr<calculo> EstudioMejoras::Simular(Edificio& edificio,
-                                                 const Forzados& forzados) const {
-  RegistroMensajes mensajes;
-  Progreso progreso;
-  std::unique_ptr<calculo> caso =
-      SimularPreparado(edificio, *preparado_, forzados, aguaCaliente_, mensajes, progreso);
-  PonerReferencia(edificio, *caso);
-  return caso;
+bool EstudioMejoras::AvanzarBase(int horas) {
+  if (!simulacionBase_) return false;
+  if (simulacionBase_->Avanzar(horas)) return true;
+  Edificio& caso = simulacionBase_->Caso();
+  calculo& hecho = simulacionBase_->Calculo();
+  if (!hecho.resultados.depositoNulo) {
+    PonerReferencia(caso, hecho);
+    CalificarCaso(caso, hecho);
+    acsBase_ = hecho.resultados.servicio[kACS];
+    base_ = BaseDeEstudio(hecho.resultados, caso.GetDatosGenerales());
+  }
+  simulacionBase_.reset();
+  return false;
 }
 
 void EstudioMejoras::PonerReferencia(const Edificio& edificio, calculo& caso) const {
@@ -160,19 +175,34 @@ void EstudioMejoras::RehacerServicios(const Edificio& edificio, calculo& caso) c
   if (!f.CasoACS.Concreto()) return;
   const float parte = ParteSolarForzada(f.CasoACS);
   if (parte > 0.0F)
-    PonerParteSolar(r.servicio[kACS], calculoBase_->resultados.servicio[kACS], parte,
-                    f.CasoACS.rendimiento, r.demandaACS);
+    PonerParteSolar(r.servicio[kACS], acsBase_, parte, f.CasoACS.rendimiento, r.demandaACS);
   else
     PonerGenerador(r.servicio[kACS], f.CasoACS, r.demandaACS, conversor);
 }
 
+MedicionPorTramos::MedicionPorTramos(const EstudioMejoras& estudio, int codigo)
+    : estudio_(estudio),
+      simulacion_(*estudio.edificio_, *estudio.preparado_, ForzadosDe(codigo), avisos_) {
+  simulacion_.RepetirACS(estudio.aguaCaliente_);
+  resultado_.codigo = codigo;
+}
+
+bool MedicionPorTramos::Avanzar(int horas) {
+  if (simulacion_.Avanzar(horas)) return true;
+  Edificio& edificio = simulacion_.Caso();
+  calculo& caso = simulacion_.Calculo();
+  estudio_.PonerReferencia(edificio, caso);
+  estudio_.RehacerServicios(edificio, caso);
+  CalificarCaso(edificio, caso);
+  resultado_ = Anotar(resultado_.codigo, caso.resultados, edificio.GetDatosGenerales());
+  return false;
+}
+
 ResultadoMedida EstudioMejoras::MedirCodigo(int codigo) const {
-  const Forzados& forzados = ForzadosDe(codigo);
-  const std::unique_ptr<Edificio> edificio = edificio_->Clonar();
-  const std::unique_ptr<calculo> caso = Simular(*edificio, forzados);
-  RehacerServicios(*edificio, *caso);
-  CalificarCaso(*edificio, *caso);
-  return Anotar(codigo, caso->resultados, edificio->GetDatosGenerales());
+  MedicionPorTramos medicion(*this, codigo);
+  while (medicion.Avanzar(kHorasPorTramo)) {
+  }
+  return medicion.Resultado();
 }
 
 std::vector<ResultadoMedida> EstudioMejoras::Medir(std::span<const int> codigos, unsigned hilos,

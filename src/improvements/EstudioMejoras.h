@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "calculation/EjecutarCalculo.h"
+#include "calculation/SimulacionPreparada.h"
 #include "improvements/MedidasPredefinidas.h"
 
 namespace novex {
@@ -61,10 +62,13 @@ struct MejorasMedidas {
   std::vector<ResultadoMedida> medidas;  ///< las marcadas, por orden de código
 };
 
+/// Las cifras de un caso calculado tal como está: la base de su estudio.
+ResultadoMedida BaseDeEstudio(const ResultadosCaso& resultados, const DatosGenerales& generales);
+
 /// El estudio de medidas de un caso. Prepara el caso una vez; cada medida se simula sobre una
 /// copia, así que el caso y sus resultados quedan como estaban.
 class EstudioMejoras {
-  // Solo `Preparar` hace estudios.
+  // Solo `Empezar` hace estudios.
   struct Llave {};
 
  public:
@@ -74,6 +78,17 @@ class EstudioMejoras {
   /// \throws lo mismo que `EjecutarCalculo`
   static std::unique_ptr<EstudioMejoras> Preparar(GestorEdifActivo& gestor,
                                                   std::string_view nombreCaso, Entorno& entorno);
+  /// Lo mismo sin simular la base, que quien llama avanza por tramos antes de medir nada. El caso
+  /// de un uso terciario ha de tener ya su referencia, o se calcula entera aquí.
+  static std::unique_ptr<EstudioMejoras> Empezar(GestorEdifActivo& gestor,
+                                                 std::string_view nombreCaso, Entorno& entorno);
+  /// Avanza la base hasta `horas` horas. \returns false cuando ya no queda ninguna
+  /// \throws ErrorCalculo
+  bool AvanzarBase(int horas);
+  /// Parte hecha de la base, de 0 a 100.
+  int PorcentajeBase() const { return simulacionBase_ ? simulacionBase_->Porcentaje() : 100; }
+  /// Acabada la base, ¿vale? No, si un depósito no tiene volumen.
+  bool HayBase() const { return base_.codigo == kCodigoBase; }
 
   /// El caso como está.
   const ResultadoMedida& Base() const { return base_; }
@@ -87,7 +102,7 @@ class EstudioMejoras {
                                      const std::function<void()>& hecha = {}) const;
 
  private:
-  std::unique_ptr<calculo> Simular(Edificio& edificio, const Forzados& forzados) const;
+  friend class MedicionPorTramos;
   void PonerReferencia(const Edificio& edificio, calculo& caso) const;
   void RehacerServicios(const Edificio& edificio, calculo& caso) const;
 
@@ -95,8 +110,28 @@ class EstudioMejoras {
   std::unique_ptr<calculo> preparado_;
   AnosACS aguaCaliente_;
   std::optional<DemandaReferencia> referencia_;
-  std::unique_ptr<calculo> calculoBase_;
+  RegistroMensajes avisosBase_;
+  std::unique_ptr<SimulacionPreparada> simulacionBase_;
+  IndicadoresServicio acsBase_;
   ResultadoMedida base_;
+};
+
+/// La medida de un código, por tramos.
+class MedicionPorTramos {
+ public:
+  /// \param estudio con su base; ha de durar más que esto \throws std::out_of_range si el código no
+  /// es de una medida ni de la base
+  MedicionPorTramos(const EstudioMejoras& estudio, int codigo);
+  /// Avanza hasta `horas` horas. \returns false cuando está medida \throws ErrorCalculo
+  bool Avanzar(int horas);
+  /// Lo medido, al acabar.
+  const ResultadoMedida& Resultado() const { return resultado_; }
+
+ private:
+  const EstudioMejoras& estudio_;
+  RegistroMensajes avisos_;
+  SimulacionPreparada simulacion_;
+  ResultadoMedida resultado_;
 };
 
 /// Más marcas de las que se pueden calcular, o nada.

@@ -14,19 +14,19 @@ std::string LetraDe(const ResultadosCaso& r, Indicador indicador) {
   return r.escala.letra[static_cast<std::size_t>(indicador)];
 }
 
-std::unique_ptr<GestorEdifActivo> Copiar(const GestorEdifActivo& gestor,
-                                         const std::string& activo) {
+}  // namespace
+
+std::unique_ptr<GestorEdifActivo> CopiarProyecto(const GestorEdifActivo& gestor,
+                                                 const std::string& activo) {
   auto copia = std::make_unique<GestorEdifActivo>();
   copia->NuevoProyecto();
   copia->Caso(caso::kViejo)->TomarRegistros(std::move(*gestor.Caso(caso::kViejo)->Clonar()));
   if (activo != caso::kViejo) {
     copia->CrearCasoVacio(activo);
-    copia->Caso(activo)->TomarRegistros(std::move(*gestor.Activo().Clonar()));
+    copia->Caso(activo)->TomarRegistros(std::move(*gestor.Caso(activo)->Clonar()));
   }
   return copia;
 }
-
-}  // namespace
 
 ResumenVivo ResumirCaso(const calculo& caso) {
   const ResultadosCaso& r = caso.resultados;
@@ -55,7 +55,7 @@ void CalculoVivo::Empezar(const GestorEdifActivo& gestor) {
     return;
   }
   nombre_ = gestor.NombreActivo();
-  copia_ = Copiar(gestor, nombre_);
+  copia_ = CopiarProyecto(gestor, nombre_);
   mensajes_.recibidos.clear();
   entorno_ = std::make_unique<Entorno>(Entorno{ficheros_, mensajes_, progreso_});
   tramos_ = std::make_unique<CalculoPorTramos>(*copia_, nombre_, *entorno_);

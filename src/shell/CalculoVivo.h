@@ -70,6 +70,11 @@ class CalculoVivo {
   std::string fallo_;
 };
 
+/// Copia de los registros de un caso de un proyecto y de su base, para calcularla sin tocar el
+/// proyecto. El caso queda activo en ella.
+std::unique_ptr<GestorEdifActivo> CopiarProyecto(const GestorEdifActivo& gestor,
+                                                 const std::string& activo);
+
 /// El resumen de un caso calculado.
 ResumenVivo ResumirCaso(const calculo& caso);
 
