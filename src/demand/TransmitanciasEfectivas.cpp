@@ -174,6 +174,10 @@ void EquivalentesDelTerreno(const Recinto& r, const Construccion& c, ResultadosC
 
 }  // namespace
 
+float ResistenciaAnadida(std::size_t posicion, const Forzados& forzados) {
+  return ResistenciaExtra(PapelDe(posicion).extra, forzados);
+}
+
 std::array<float, kRanuras> TransmitanciasEfectivas(const Edificio& edificio,
                                                     const Forzados& forzados) {
   // Las composiciones traen las dos resistencias de una pared exterior: 0,13 y 0,04.

@@ -5,6 +5,9 @@
 
 namespace novex {
 
+/// Resistencia que una medida añade a los elementos de una posición, m2K/W; 0 si a ninguno.
+float ResistenciaAnadida(std::size_t posicion, const Forzados& forzados);
+
 /// U efectiva de cada posición de la envolvente, W/m2K: la de su composición, con las resistencias
 /// superficiales de su papel si la construcción no las da por buenas, y la resistencia añadida de
 /// la medida que se estudia. Una U de 0 sigue en 0.

@@ -27,6 +27,12 @@ float FactorCargaParcial(float x, ControlVentilador control) {
   return 0.0F;
 }
 
+float PotenciaRecuperadorForzado(float eficiencia, float caudal, float viviendas) {
+  const float especifica = ((eficiencia * 0.01F - 0.73F) * 3000.0F + 1100.0F) -
+                           (caudal / kSegundosHora * 300.0F / viviendas) * 0.5F;
+  return 2.0F * especifica * (caudal / viviendas) / kSegundosHora;
+}
+
 VentiladorAire::VentiladorAire(const DatosGenerales& g, int viviendas, const AjustesUso& ajustes,
                                float forzada, float caudalNominal)
     : ajustes_(ajustes),
@@ -63,11 +69,8 @@ VentiladorAire::Hora VentiladorAire::EnVivienda(float NRR, float Te, float QV) c
         break;
     }
   }
-  if (forzada_ > 0.0F && viviendas_ > 0.0F) {
-    const float especifica = ((forzada_ * 0.01F - 0.73F) * 3000.0F + 1100.0F) -
-                             (QV / kSegundosHora * 300.0F / viviendas_) * 0.5F;
-    hora.potencia = 2.0F * especifica * (QV / viviendas_) / kSegundosHora;
-  }
+  if (forzada_ > 0.0F && viviendas_ > 0.0F)
+    hora.potencia = PotenciaRecuperadorForzado(forzada_, QV, viviendas_);
   return hora;
 }
 

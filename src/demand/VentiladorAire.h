@@ -8,6 +8,10 @@ namespace novex {
 /// Parte de la potencia nominal de un ventilador con el caudal `x` en % del nominal.
 float FactorCargaParcial(float x, ControlVentilador control);
 
+/// Potencia de los ventiladores de un recuperador que impone una medida en una vivienda, W.
+/// \param eficiencia % \param caudal m3/h, de todas \param viviendas mayor que 0
+float PotenciaRecuperadorForzado(float eficiencia, float caudal, float viviendas);
+
 /// Potencia de los ventiladores de ventilación de un caso.
 class VentiladorAire {
  public:

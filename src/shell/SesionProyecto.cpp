@@ -202,9 +202,13 @@ std::filesystem::path SesionProyecto::Guardar(const std::filesystem::path& ruta)
 }
 
 bool SesionProyecto::DuplicarCaso() {
+  return DuplicarCambiando("duplicar el caso", {});
+}
+
+bool SesionProyecto::DuplicarCambiando(std::string_view nombre, const CambioCaso& cambio) {
   const std::string activo(gestor_.NombreActivo());
-  return EditarProyecto("duplicar el caso", [&](GestorEdifActivo& gestor) {
-    novex::DuplicarCaso(gestor, activo, mensajes_);
+  return EditarProyecto(nombre, [&](GestorEdifActivo& gestor) {
+    if (!novex::DuplicarCaso(gestor, activo, mensajes_).empty() && cambio) cambio(gestor.Activo());
   });
 }
 

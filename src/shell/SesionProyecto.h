@@ -78,6 +78,8 @@ class SesionProyecto {
   std::filesystem::path Guardar(const std::filesystem::path& ruta = {});
   /// Duplica el caso activo en una mejora, que queda activa. \returns si ha cabido
   bool DuplicarCaso();
+  /// Lo mismo y cambia la mejora, todo en una edición. \param nombre qué se hace, para "Deshacer"
+  bool DuplicarCambiando(std::string_view nombre, const CambioCaso& cambio);
   /// Borra el caso activo; el único es como un proyecto nuevo.
   void BorrarCaso();
   /// Pone en marcha un proyecto recuperado: el de un fichero de recuperación, que sigue siendo el
