@@ -36,6 +36,12 @@ float Numero(const std::string& texto) {
   return LeerReal(texto, valor) ? static_cast<float>(valor) : 0.0F;
 }
 
+const MedidaEstudio* Medida(const EstudioModificaciones& estudio, int codigo) {
+  const auto it = std::find_if(estudio.medidas.begin(), estudio.medidas.end(),
+                               [=](const MedidaEstudio& m) { return m.codigo == codigo; });
+  return it == estudio.medidas.end() ? nullptr : &*it;
+}
+
 void GuardarCifras(EstudioModificaciones& estudio, const CifrasTecleadas& cifras,
                    Mensajes& mensajes) {
   auto it = BuscarMedida(estudio.medidas, cifras.codigo);
@@ -52,6 +58,19 @@ void GuardarCifras(EstudioModificaciones& estudio, const CifrasTecleadas& cifras
   it->precio = comprobar(cifras.precio, "Coste");
   it->amortizacion = comprobar(cifras.amortizacion, "Amortización");
   if (!TieneContenido(*it)) estudio.medidas.erase(it);
+}
+
+struct CifrasUna {
+  int codigo;
+  bool marcada;
+  std::string precio, amortizacion;
+};
+
+void GuardarUna(Edificio& edificio, const CifrasUna& una, Mensajes& mensajes) {
+  EstudioModificaciones estudio = edificio.GetEstudioModificaciones();
+  const CifrasTecleadas cifras{una.codigo, una.marcada, una.precio, una.amortizacion};
+  GuardarCifrasEstudio(estudio, {&cifras, 1}, mensajes);
+  edificio.SetEstudioModificaciones(std::move(estudio));
 }
 
 }  // namespace
@@ -97,11 +116,40 @@ void GuardarCifrasEstudio(EstudioModificaciones& estudio, std::span<const Cifras
   for (const CifrasTecleadas& c : cifras) GuardarCifras(estudio, c, mensajes);
 }
 
+bool MedidaMarcada(const EstudioModificaciones& estudio, int codigo) {
+  const MedidaEstudio* m = Medida(estudio, codigo);
+  return m != nullptr && m->marca;
+}
+
+void MarcarMedida(Edificio& edificio, int codigo, bool marcada) {
+  const auto& estudio = edificio.GetEstudioModificaciones();
+  RegistroMensajes sinAvisos;  // lo guardado ya está comprobado
+  GuardarUna(edificio,
+             {codigo, marcada, TextoCifraMedida(estudio, codigo, kPrecioMedida),
+              TextoCifraMedida(estudio, codigo, kAmortizacionMedida)},
+             sinAvisos);
+}
+
+std::string TextoCifraMedida(const EstudioModificaciones& estudio, int codigo,
+                             std::string MedidaEstudio::*cifra) {
+  const MedidaEstudio* m = Medida(estudio, codigo);
+  return m == nullptr || (m->*cifra).empty() ? "0" : m->*cifra;
+}
+
+void PonerCifraMedida(Edificio& edificio, int codigo, std::string MedidaEstudio::*cifra,
+                      std::string_view texto, Mensajes& mensajes) {
+  const auto& estudio = edificio.GetEstudioModificaciones();
+  if (!MedidaMarcada(estudio, codigo)) return;
+  std::string precio = TextoCifraMedida(estudio, codigo, kPrecioMedida);
+  std::string amortizacion = TextoCifraMedida(estudio, codigo, kAmortizacionMedida);
+  (cifra == kPrecioMedida ? precio : amortizacion) = texto;
+  GuardarUna(edificio, {codigo, true, precio, amortizacion}, mensajes);
+}
+
 CifrasMedida CifrasDeMedida(const EstudioModificaciones& estudio, int codigo) {
-  const auto it = std::find_if(estudio.medidas.begin(), estudio.medidas.end(),
-                               [=](const MedidaEstudio& m) { return m.codigo == codigo; });
-  if (it == estudio.medidas.end()) return {};
-  return {Numero(it->precio), Numero(it->amortizacion)};
+  const MedidaEstudio* m = Medida(estudio, codigo);
+  if (m == nullptr) return {};
+  return {Numero(m->precio), Numero(m->amortizacion)};
 }
 
 }  // namespace novex

@@ -67,6 +67,21 @@ struct CifrasTecleadas {
 void GuardarCifrasEstudio(EstudioModificaciones& estudio, std::span<const CifrasTecleadas> cifras,
                           Mensajes& mensajes);
 
+/// Marca o desmarca una medida en el estudio de un caso; sin marca pierde sus cifras.
+void MarcarMedida(Edificio& edificio, int codigo, bool marcada);
+/// ¿Está marcada?
+bool MedidaMarcada(const EstudioModificaciones& estudio, int codigo);
+
+/// Las dos cifras que se teclean de una medida, como textos del estudio.
+inline constexpr std::string MedidaEstudio::*kPrecioMedida = &MedidaEstudio::precio;
+inline constexpr std::string MedidaEstudio::*kAmortizacionMedida = &MedidaEstudio::amortizacion;
+/// El texto guardado de una; "0" si no tiene.
+std::string TextoCifraMedida(const EstudioModificaciones& estudio, int codigo,
+                             std::string MedidaEstudio::*cifra);
+/// Guarda una tecleada, comprobada; la otra queda como estaba.
+void PonerCifraMedida(Edificio& edificio, int codigo, std::string MedidaEstudio::*cifra,
+                      std::string_view texto, Mensajes& mensajes);
+
 /// Cifras guardadas de una medida.
 struct CifrasMedida {
   float PrecioMejora = 0;  ///< euros

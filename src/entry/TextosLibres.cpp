@@ -33,4 +33,10 @@ bool GuardarNotaMedida(EstudioModificaciones& estudio, int codigo, std::string_v
   return true;
 }
 
+std::vector<std::string> NotaMedida(const EstudioModificaciones& estudio, int codigo) {
+  for (const MedidaEstudio& m : estudio.medidas)
+    if (m.codigo == codigo) return m.notas;
+  return {};
+}
+
 }  // namespace novex

@@ -24,4 +24,7 @@ std::vector<std::string> LineasDeTexto(std::string_view texto, std::size_t limit
 bool GuardarNotaMedida(EstudioModificaciones& estudio, int codigo, std::string_view texto,
                        Mensajes& mensajes);
 
+/// La nota guardada de una medida; vacía si no tiene.
+std::vector<std::string> NotaMedida(const EstudioModificaciones& estudio, int codigo);
+
 }  // namespace novex

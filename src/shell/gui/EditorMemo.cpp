@@ -15,7 +15,6 @@ namespace novex::gui {
 namespace {
 
 constexpr int kLineasALaVista = 5;
-constexpr int kLimite = static_cast<int>(kLineasMemo);
 
 QString Junto(const std::vector<std::string>& lineas) {
   QStringList textos;
@@ -23,14 +22,25 @@ QString Junto(const std::vector<std::string>& lineas) {
   return textos.join('\n');
 }
 
+OpcionesMemo TextoLibre(std::size_t cual, const QString& nombre) {
+  return {nombre, kLineasMemo,
+          [cual](const Edificio& e) { return e.GetDatosGenerales().Memo[cual]; },
+          [cual](Edificio& e, std::string_view texto, Mensajes& avisos) {
+            const auto lineas = LineasDeTexto(texto, kLineasMemo, avisos);
+            CambiarGenerales(e, [&](DatosGenerales& g) { g.Memo[cual] = lineas; });
+          }};
+}
+
 }  // namespace
 
 EditorMemo::EditorMemo(ContextoGui& contexto, std::size_t cual, const QString& nombre,
                        QWidget* padre)
+    : EditorMemo(contexto, TextoLibre(cual, nombre), padre) {}
+
+EditorMemo::EditorMemo(ContextoGui& contexto, OpcionesMemo opciones, QWidget* padre)
     : QWidget(padre),
       contexto_(contexto),
-      cual_(cual),
-      nombre_(nombre),
+      opciones_(std::move(opciones)),
       texto_(new QPlainTextEdit(this)),
       cuenta_(new QLabel(this)) {
   auto* columna = new QVBoxLayout(this);
@@ -40,8 +50,8 @@ EditorMemo::EditorMemo(ContextoGui& contexto, std::size_t cual, const QString& n
   cuenta_->setProperty("papel", "nota");
   cuenta_->setAlignment(Qt::AlignRight);
   columna->addWidget(cuenta_);
-  texto_->setAccessibleName(nombre);
-  texto_->setToolTip(tr("Hasta %1 líneas").arg(kLimite));
+  texto_->setAccessibleName(opciones_.nombre);
+  texto_->setToolTip(tr("Hasta %1 líneas").arg(opciones_.lineas));
   texto_->setTabChangesFocus(true);
   texto_->setMinimumHeight(kLineasALaVista * QFontMetrics(texto_->font()).lineSpacing() + 12);
   texto_->installEventFilter(this);
@@ -50,7 +60,7 @@ EditorMemo::EditorMemo(ContextoGui& contexto, std::size_t cual, const QString& n
 
 void EditorMemo::Refrescar() {
   const bool tecleando = texto_->hasFocus() && texto_->document()->isModified();
-  const QString guardado = Junto(contexto_.Caso().GetDatosGenerales().Memo[cual_]);
+  const QString guardado = Junto(opciones_.leer(contexto_.Caso()));
   if (!tecleando && texto_->toPlainText() != guardado) {
     const QSignalBlocker callado(texto_);
     texto_->setPlainText(guardado);
@@ -61,10 +71,10 @@ void EditorMemo::Refrescar() {
 
 void EditorMemo::Contar() {
   const int lineas = texto_->document()->isEmpty() ? 0 : texto_->blockCount();
-  const bool cabe = lineas <= kLimite;
-  cuenta_->setText(cabe
-                       ? tr("%1 de %2 líneas").arg(lineas).arg(kLimite)
-                       : tr("%1 líneas: al salir quedan las %2 primeras").arg(lineas).arg(kLimite));
+  const int limite = static_cast<int>(opciones_.lineas);
+  const bool cabe = lineas <= limite;
+  cuenta_->setText(cabe ? tr("%1 de %2 líneas").arg(lineas).arg(limite)
+                        : tr("%1 líneas: al salir quedan las %2 primeras").arg(lineas).arg(limite));
   PonerPapel(cuenta_, cabe ? "nota" : "aviso");
 }
 
@@ -72,11 +82,9 @@ void EditorMemo::Guardar() {
   if (!texto_->document()->isModified()) return;
   texto_->document()->setModified(false);
   RegistroMensajes avisos;
-  const auto lineas = LineasDeTexto(S(texto_->toPlainText()), kLineasMemo, avisos);
+  const std::string texto = S(texto_->toPlainText());
   contexto_.Editar(
-      nombre_,
-      [&](Edificio& e) { CambiarGenerales(e, [&](DatosGenerales& g) { g.Memo[cual_] = lineas; }); },
-      false);
+      opciones_.nombre, [&](Edificio& e) { opciones_.poner(e, texto, avisos); }, false);
   Refrescar();
   if (avisos.recibidos.empty()) return;
   // El aviso espera a que acabe el cambio de foco que lo ha provocado.

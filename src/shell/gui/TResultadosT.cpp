@@ -8,6 +8,7 @@
 #include "shell/gui/PaginaHorarias.h"
 #include "shell/gui/PaginaMensual.h"
 #include "shell/gui/PaginaReferencia.h"
+#include "shell/gui/PaginaTendencias.h"
 #include "shell/gui/PaginaVisitas.h"
 
 namespace novex::gui {
@@ -34,6 +35,7 @@ TResultadosT::TResultadosT(ContextoGui& contexto, QWidget* padre)
   Anadir(new PaginaReferencia(contexto), kReferencia);
   Anadir(new PaginaVisitas(contexto), kVisitas);
   Anadir(new PaginaAnalisisTecnico(contexto), "Análisis técnico");
+  Anadir(new PaginaTendencias(contexto), "Tendencias de Rehabilitaciones");
 }
 
 void TResultadosT::PonerPestanas() {

@@ -25,11 +25,14 @@ constexpr std::size_t kColumnasAnchas = 10;  // con más, las cabeceras van en d
 constexpr int kAnchoMaximo = 420;            // de una columna, en píxeles
 constexpr std::size_t kFilasMedidas = 200;
 
-// La letra de una casilla que la lleva sola o delante de su ahorro, "B" o "B,12.50".
+// La letra de una casilla que la lleva sola, delante de su ahorro o tras la que cambia: "B",
+// "B,12.50" o "D → B".
 QString LetraDe(const QString& texto) {
-  const bool letra = !texto.isEmpty() && texto[0] >= 'A' && texto[0] <= 'G' &&
-                     (texto.size() == 1 || texto[1] == ',');
-  return letra ? texto.left(1) : QString();
+  const qsizetype flecha = texto.indexOf(" → ");
+  const QString final = flecha == 1 ? texto.sliced(flecha + 3) : texto;
+  const bool letra = !final.isEmpty() && final[0] >= 'A' && final[0] <= 'G' &&
+                     (final.size() == 1 || final[1] == ',');
+  return letra ? final.left(1) : QString();
 }
 
 // Con muchas columnas una cabecera se parte en dos líneas por su última palabra.
