@@ -6,18 +6,16 @@
 namespace novex {
 namespace {
 
-// La latitud sale del municipio y, al calcular, del fichero de clima.
-constexpr std::array<std::string_view, 1> kCalculados = {"latitud"};
+// Lo que se sigue de otros datos: la zona de radiación, del municipio; la clave del perfil y la
+// potencia de iluminación que admite, del uso; el servicio de un sistema, de su creación.
+constexpr std::array<std::string_view, 4> kCalculados = {"zona_radiante", "Tipo", "EPotIluMax",
+                                                         "Tipo_sistema"};
 
-// La instalación solar se calcula con sus datos y no con estos totales.
-constexpr std::array<std::string_view, 8> kConservados = {"Aporte_fotovoltaico_kwh_ano",
-                                                          "Aporte_solar_tanto_por_cien",
-                                                          "Super_FV",
-                                                          "Super_FV2",
-                                                          "Super_FV3",
-                                                          "PTcelula_FV",
-                                                          "Tipo_Inst_ST",
-                                                          "saltoZona"};
+// Lo que un fichero trae y ningún cálculo lee: se devuelve como vino. La bomba de calor segunda de
+// un sistema y las cargas de ocupación del modo simple son de programas anteriores.
+constexpr std::array<std::string_view, 11> kConservados = {
+    "Pt",        "QOCUPSSimple", "QOCUPLSimple", "TipoBC12",     "QcalorBC2", "WeCalor2",
+    "QFrioSen2", "QFrioTot2",    "WeFrio2",      "Tipo_Inst_ST", "saltoZona"};
 
 template <std::size_t N>
 bool Esta(const std::array<std::string_view, N>& lista, std::string_view etiqueta) {

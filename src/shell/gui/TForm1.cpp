@@ -22,7 +22,6 @@
 #include "shell/gui/PaginaHorarios.h"
 #include "shell/gui/PaginaPestanas.h"
 #include "shell/gui/PaginaSitio.h"
-#include "shell/gui/PaginaTablas.h"
 #include "shell/gui/PaginaTitulo.h"
 #include "shell/gui/PaginaUso.h"
 #include "shell/gui/TDefEdificio.h"
