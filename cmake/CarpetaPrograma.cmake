@@ -23,6 +23,16 @@ foreach(carpeta IN ITEMS database proyectos bmp clima)
                                "${programa}/${carpeta}")
   endif()
 endforeach()
+foreach(carpeta IN ITEMS manual manual/imagenes)
+  file(GLOB ficheros CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/docs/${carpeta}/*.md"
+                                       "${CMAKE_SOURCE_DIR}/docs/${carpeta}/*.png")
+  list(APPEND datos ${ficheros})
+  list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E make_directory "${programa}/${carpeta}")
+  if(ficheros)
+    list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E copy_if_different ${ficheros}
+                               "${programa}/${carpeta}")
+  endif()
+endforeach()
 add_custom_command(
   OUTPUT "${sello_datos}" ${copias}
   COMMAND "${CMAKE_COMMAND}" -E touch "${sello_datos}"

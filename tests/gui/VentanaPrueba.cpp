@@ -38,6 +38,11 @@ void VentanaTest::Ordenar(const QString& texto) {
   ADD_FAILURE() << "no hay orden " << texto.toStdString();
 }
 
+bool GuardarCaptura(QWidget& ventana, const QString& ruta) {
+  const QImage imagen = ventana.grab().toImage().convertToFormat(QImage::Format_RGB888);
+  return imagen.save(ruta, "PNG", 0);
+}
+
 std::filesystem::path Ejemplo(const std::string& nombre) {
   return std::filesystem::path(NOVEX_RAIZ_DATOS) / "proyectos" / nombre;
 }

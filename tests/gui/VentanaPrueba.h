@@ -68,6 +68,10 @@ class VentanaTest : public testing::Test {
   std::unique_ptr<TForm1> ventana;
 };
 
+/// Guarda la imagen de una ventana para el manual, sin transparencia y muy comprimida.
+/// \returns si se ha podido
+bool GuardarCaptura(QWidget& ventana, const QString& ruta);
+
 /// Un proyecto de ejemplo.
 std::filesystem::path Ejemplo(const std::string& nombre);
 std::vector<std::filesystem::path> Ejemplos();

@@ -280,15 +280,15 @@ TEST_F(EditorTest, CapturasDeLosDialogos) {
   TFMuros biblioteca(*contexto, ranura::MuroExt1);
   biblioteca.show();
   biblioteca.findChild<QTableWidget*>("composiciones")->selectRow(20);
-  EXPECT_TRUE(biblioteca.grab().save(destino + "/biblioteca.png"));
-  EXPECT_TRUE(editor->grab().save(destino + "/editor_composicion.png"));
+  EXPECT_TRUE(GuardarCaptura(biblioteca, destino + "/biblioteca.png"));
+  EXPECT_TRUE(GuardarCaptura(*editor, destino + "/editor_composicion.png"));
   TFCrearMuro otro(*contexto, catalogo, ranura::MuroExt1,
                    CopiaParaEditar(catalogo.Composiciones(kFamilia, kTodosLosGrupos)[20]));
   otro.show();
   otro.findChild<QTabWidget*>()->setCurrentIndex(1);
   otro.findChild<QComboBox*>("grupos")->setCurrentText("Aislantes");
   Pulsar(otro, "nuevoMaterial");
-  EXPECT_TRUE(otro.grab().save(destino + "/editor_vapor.png"));
+  EXPECT_TRUE(GuardarCaptura(otro, destino + "/editor_vapor.png"));
 }
 
 }  // namespace

@@ -7,6 +7,14 @@
 namespace novex::gui::pruebas {
 namespace {
 
+// El título de una pestaña como nombre de fichero.
+QString EnAscii(const QString& titulo) {
+  QString nombre;
+  for (const QChar c : titulo.toLower().normalized(QString::NormalizationForm_D))
+    if (c.unicode() < 128) nombre += c.isLetterOrNumber() ? c : QChar('_');
+  return nombre;
+}
+
 // Capturas de todas las páginas con un ejemplo abierto, para el manual. Las hace
 // scripts/capturas.sh, que da la carpeta en NOVEX_CAPTURAS.
 TEST_F(VentanaTest, Capturas) {
@@ -20,38 +28,54 @@ TEST_F(VentanaTest, Capturas) {
   EsperarVivo();
   const auto guardar = [&](const QString& nombre) {
     QTest::qWait(50);
-    EXPECT_TRUE(ventana->grab().save(destino + "/" + nombre + ".png")) << nombre.toStdString();
+    EXPECT_TRUE(GuardarCaptura(*ventana, destino + "/" + nombre + ".png")) << nombre.toStdString();
   };
   constexpr std::array kNombres = {"titulo",        "global",      "edificio", "instalaciones",
                                    "certificacion", "comparacion", "he",       "definicion"};
   for (std::size_t i = 0; i < kNombres.size(); ++i) {
     ventana->Mostrar(static_cast<Destino>(i));
     auto* pestanas = ventana->PaginaDe(static_cast<Destino>(i))->findChild<QTabWidget*>();
+    // Con un caso solo no hay con qué comparar: su captura va al final.
+    if (static_cast<Destino>(i) == Destino::Comparacion) continue;
     const int cuantas = pestanas == nullptr ? 1 : pestanas->count();
     for (int p = 0; p < cuantas; ++p) {
+      if (pestanas != nullptr && !pestanas->isTabVisible(p)) continue;
       if (pestanas != nullptr) pestanas->setCurrentIndex(p);
-      guardar(QString(kNombres[i]) +
-              (pestanas == nullptr ? QString()
-                                   : "_" + pestanas->tabText(p).toLower().replace(' ', '_')));
+      const QString nombre =
+          QString(kNombres[i]) + (pestanas == nullptr ? "" : "_" + EnAscii(pestanas->tabText(p)));
+      guardar(nombre);
       // Las pestañas que una pestaña lleva dentro.
       auto* dentro = pestanas == nullptr ? nullptr : pestanas->widget(p)->findChild<QTabWidget*>();
       for (int d = 1; dentro != nullptr && d < dentro->count(); ++d) {
         dentro->setCurrentIndex(d);
-        guardar(QString("%1_%2_%3").arg(kNombres[i]).arg(p).arg(d));
+        guardar(nombre + "_" + EnAscii(dentro->tabText(d)));
       }
     }
   }
   ventana->Mostrar(Destino::Certificacion);
   ConDialogo<TImpresor>([&] { Ordenar("Imprimir"); },
                         [&](TImpresor& d) {
-                          EXPECT_TRUE(d.grab().save(destino + "/impresor.png"));
+                          EXPECT_TRUE(GuardarCaptura(d, destino + "/impresor.png"));
                           for (auto* boton : d.findChildren<QPushButton*>())
                             if (boton->isVisible() && !boton->icon().isNull() && !d.Ocupado())
                               boton->click();
                           for (int i = 0; i < 3000 && d.Ocupado(); ++i) QTest::qWait(20);
+                          // Ninguna carpeta de la máquina en una imagen del manual.
+                          for (auto* texto : d.findChildren<QLabel*>())
+                            if (texto->text().startsWith('/'))
+                              texto->setText("vivienda_unifamiliar_D3.pdf");
                           QTest::qWait(50);
-                          EXPECT_TRUE(d.grab().save(destino + "/impresor_documento.png"));
+                          EXPECT_TRUE(GuardarCaptura(d, destino + "/impresor_documento.png"));
                         });
+  sesion.DuplicarCaso();
+  sesion.Editar("U", [](Edificio& e) {
+    for (const std::size_t cual : {ranura::MuroExt1, ranura::TechoExt1, ranura::SueloTerr1})
+      e.GetComposicion(cual).U *= 0.5F;
+  });
+  emit ventana->Contexto().ProyectoCambiado();
+  ventana->Mostrar(Destino::Comparacion);
+  EsperarVivo();
+  guardar("comparacion");
 }
 
 }  // namespace

@@ -141,7 +141,7 @@ TEST_F(ExpresTest, Capturas) {
     Abrir();
     dialogo->findChild<QPushButton*>("proponer")->click();
     QTest::qWait(200);
-    EXPECT_TRUE(dialogo->grab().save(destino + QString("/expres_%1.png").arg(perfil)));
+    EXPECT_TRUE(GuardarCaptura(*dialogo, destino + QString("/expres_%1.png").arg(perfil)));
   }
 }
 

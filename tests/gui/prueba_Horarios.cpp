@@ -182,10 +182,10 @@ TEST_F(HorariosTest, Capturas) {
   Entrar("oficina_VRV_B4.xml");
   Familias("CIlu");
   QApplication::processEvents();
-  EXPECT_TRUE(ventana->grab().save(destino + "/horarios_terciario.png"));
+  EXPECT_TRUE(GuardarCaptura(*ventana, destino + "/horarios_terciario.png"));
   VerCalendario();
   QApplication::processEvents();
-  EXPECT_TRUE(ventana->grab().save(destino + "/horarios_calendario.png"));
+  EXPECT_TRUE(GuardarCaptura(*ventana, destino + "/horarios_calendario.png"));
 }
 
 }  // namespace

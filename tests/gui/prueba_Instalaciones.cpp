@@ -323,12 +323,12 @@ TEST_F(InstalacionesTest, CapturasDeInstalaciones) {
     antes = *it;
     Arbol()->setCurrentItem(*it);
     QTest::qWait(30);
-    ventana->grab().save(destino + QString("/instalaciones_%1.png").arg(n++));
+    GuardarCaptura(*ventana, destino + QString("/instalaciones_%1.png").arg(n++));
   }
   const auto dialogo = [&](QPushButton* boton, const QString& nombre) {
     QTimer::singleShot(100, [&] {
       QWidget* d = QApplication::activeModalWidget();
-      d->grab().save(destino + "/instalaciones_" + nombre + ".png");
+      GuardarCaptura(*d, destino + "/instalaciones_" + nombre + ".png");
       d->close();
     });
     boton->click();

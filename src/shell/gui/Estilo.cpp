@@ -22,7 +22,7 @@ void PonerEstilo(QApplication& aplicacion) {
     QLabel[papel="cumple"] { color: %5; font-weight: 600; }
     QLabel[papel="nocumple"] { color: %2; font-weight: 600; }
     QLabel[papel="noaplica"] { color: %1; font-weight: 600; }
-    QLineEdit[distinto="true"], QComboBox[distinto="true"] { border-left: 3px solid %3; }
+    QLineEdit[distinto="true"], QComboBox[distinto="true"] { color: %3; }
     QLineEdit { padding: 3px 5px; }
     QGroupBox { font-weight: 600; border: none; border-top: 1px solid %4; margin-top: 1.7em;
                 padding-top: 2px; }

@@ -10,12 +10,14 @@
 #include <QSettings>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "base/ErrorFichero.h"
 #include "base/NumeroTexto.h"
 #include "files/ErroresXml.h"
 #include "shell/LanzadorExterno.h"
+#include "shell/gui/DialogoAyuda.h"
 #include "shell/gui/DialogoExpres.h"
 #include "shell/gui/PaginaAdministrativa.h"
 #include "shell/gui/PaginaComparacion.h"
@@ -43,6 +45,11 @@ constexpr int kRecientes = 10;
 constexpr std::size_t kCasosMaximos = 6;
 constexpr const char* kFiltro = "Proyectos (*.xml *.txt)";
 
+constexpr const char* kManual = "manual";  // carpeta del manual en la de programa
+constexpr std::array<const char*, 8> kPaginasManual = {
+    "titulo.md",        "global.md",      "edificio.md", "instalaciones.md",
+    "certificacion.md", "comparacion.md", "he.md",       "definicion.md"};
+
 bool EsDeResultados(Destino d) {
   return d == Destino::Certificacion || d == Destino::Comparacion || d == Destino::HE;
 }
@@ -52,6 +59,10 @@ QString Cifra(float valor) {
 }
 
 }  // namespace
+
+QString PaginaManualDe(Destino destino) {
+  return kPaginasManual[static_cast<std::size_t>(destino)];
+}
 
 TForm1::TForm1(SesionProyecto& sesion, MensajesVentana& mensajes,
                const std::filesystem::path& carpetaRecuperacion)
@@ -116,8 +127,9 @@ void TForm1::CrearOrdenes() {
   Orden(barra, "inspeccion", tr("Inspección"),
         tr("Abre el programa del fichero de inspección de la comunidad"), {},
         &TForm1::AbrirInspeccion);
-  Orden(barra, "acerca", tr("Acerca de"), tr("Qué es este programa"), QKeySequence::HelpContents,
-        &TForm1::Acerca);
+  Orden(barra, "ayuda", tr("Ayuda"), tr("El manual de la página que se ve"),
+        QKeySequence::HelpContents, &TForm1::Ayuda);
+  Orden(barra, "acerca", tr("Acerca de"), tr("Qué es este programa"), {}, &TForm1::Acerca);
 }
 
 void TForm1::CrearPaginas() {
@@ -134,6 +146,7 @@ void TForm1::CrearPaginas() {
   fila->addStretch(1);
   fila->addWidget(new QLabel(tr("Caso"), centro));
   casos_ = new QComboBox(centro);
+  casos_->setMinimumWidth(casos_->fontMetrics().horizontalAdvance("Mejora 5") + 48);
   fila->addWidget(casos_);
   columna->addLayout(fila);
   pila_ = new QStackedWidget(centro);
@@ -165,6 +178,11 @@ void TForm1::CrearPaginas() {
   muelle->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
   muelle->setWidget(panel_);
   addDockWidget(Qt::RightDockWidgetArea, muelle);
+  auto* plegar = new QToolButton(centro);
+  plegar->setDefaultAction(muelle->toggleViewAction());
+  plegar->setToolTip(tr("Enseña o esconde la calificación en vivo (F9)"));
+  muelle->toggleViewAction()->setShortcut(Qt::Key_F9);
+  fila->addWidget(plegar);
   resumen_ = new QLabel(this);
   falta_ = new QLabel(this);
   falta_->setTextFormat(Qt::RichText);
@@ -451,6 +469,14 @@ void TForm1::Deshacer() {
 void TForm1::Rehacer() {
   contexto_.Sesion().Rehacer();
   emit contexto_.ProyectoCambiado();
+}
+
+void TForm1::Ayuda() {
+  if (ayuda_ == nullptr)
+    ayuda_ = new DialogoAyuda(contexto_.Ficheros().Espacio().programa / kManual, this);
+  ayuda_->Mostrar(PaginaManualDe(mostrada_));
+  ayuda_->show();
+  ayuda_->raise();
 }
 
 void TForm1::Acerca() {

@@ -20,7 +20,11 @@ namespace novex::gui {
 /// Código de salida con un fichero XML que no se entiende.
 inline constexpr int kXmlErroneo = 255;
 
+class DialogoAyuda;
 class PaginaTitulo;
+
+/// El fichero del manual que explica una pestaña.
+QString PaginaManualDe(Destino destino);
 
 /// La ventana principal: órdenes, tira de pestañas, selector de casos, páginas y calificación en
 /// vivo.
@@ -64,6 +68,7 @@ class TForm1 : public QMainWindow {
   void Deshacer();
   void Rehacer();
   void Acerca();
+  void Ayuda();
   void AbrirInspeccion();
 
   bool PasaAResultados();
@@ -90,6 +95,7 @@ class TForm1 : public QMainWindow {
   PanelVivo* panel_;
   QLabel *resumen_, *falta_;
   QAction *deshacer_, *rehacer_, *duplicar_;
+  DialogoAyuda* ayuda_ = nullptr;
   PaginaTitulo* titulo_;
   std::array<Pagina*, 8> paginas_{};
   Destino mostrada_ = Destino::Titulo;
