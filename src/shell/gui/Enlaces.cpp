@@ -1,6 +1,5 @@
 #include "shell/gui/Enlaces.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QStyle>
@@ -11,6 +10,7 @@
 #include "entry/ProyectoNuevo.h"
 #include "model/CatalogoCampos.h"
 #include "model/ClavesCampos.h"
+#include "shell/gui/ListaSinRueda.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -140,12 +140,10 @@ QLineEdit* Enlaces::Linea(QFormLayout* formulario, const std::string& direccion,
 QComboBox* Enlaces::Lista(QFormLayout* formulario, const std::string& direccion,
                           const std::vector<std::string>& textos, const OpcionesCampo& opciones,
                           const std::vector<std::string>& rotulos) {
-  auto* lista = new QComboBox(pagina_);
+  auto* lista = new ListaSinRueda(pagina_);
   for (std::size_t i = 0; i < textos.size(); ++i)
     lista->addItem(Q(i < rotulos.size() ? rotulos[i] : textos[i]), Q(textos[i]));
   lista->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  lista->setFocusPolicy(Qt::StrongFocus);
-  lista->installEventFilter(this);
   QLabel* avisos = nullptr;
   QWidget* caja = ConUnidadYAviso(lista, opciones.unidad, &avisos);
   if (opciones.rotulo.isEmpty())
@@ -176,16 +174,6 @@ QCheckBox* Enlaces::Casilla(QFormLayout* formulario, const std::string& direccio
   connect(casilla, &QCheckBox::clicked, this,
           [this, indice, si, no](bool marcada) { Guardar(indice, marcada ? si : no); });
   return casilla;
-}
-
-// La rueda que pasa por encima de una lista es para la página: solo cambia la que tiene el foco.
-bool Enlaces::eventFilter(QObject* objeto, QEvent* evento) {
-  const auto* editor = qobject_cast<QWidget*>(objeto);
-  if (evento->type() == QEvent::Wheel && editor != nullptr && !editor->hasFocus()) {
-    evento->ignore();
-    return true;
-  }
-  return QObject::eventFilter(objeto, evento);
 }
 
 void Enlaces::Guardar(std::size_t indice, const std::string& texto) {

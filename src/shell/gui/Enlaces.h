@@ -66,9 +66,6 @@ class Enlaces : public QObject {
   /// El editor de una dirección, o nulo.
   QWidget* Editor(const std::string& direccion) const;
 
- protected:
-  bool eventFilter(QObject* objeto, QEvent* evento) override;
-
  private:
   struct Enlace {
     std::string direccion;
