@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "entry/BloqueSistema.h"
 #include "entry/CamposSistema.h"
@@ -174,6 +175,32 @@ bool PonerCampoSistema(Edificio& edificio, std::size_t numero, std::string_view 
                         TipoDeCatalogo(bloque.Seleccion).familia == "Generadores";
   if (etiqueta == "TipoGenerador1" && generica && catalogo != nullptr)
     PonerModeloGenerico(*catalogo, bloque);
+  return true;
+}
+
+bool AdmiteServicios(const Edificio& edificio, std::size_t cual, std::string_view tipoSistema) {
+  const auto& bloques = edificio.GetSistema(cual).instalaciones;
+  return std::all_of(bloques.begin(), bloques.end(), [tipoSistema](const I& bloque) {
+    return EstaEn(ClasesOfrecidas(tipoSistema, bloque.TipoInstalacionesG), bloque.Seleccion);
+  });
+}
+
+bool CambiarServicios(Edificio& edificio, std::size_t cual, std::string_view tipoSistema) {
+  if (!AdmiteServicios(edificio, cual, tipoSistema)) return false;
+  SistemaResidencial& sistema = edificio.GetSistema(cual);
+  const std::string antes = std::exchange(sistema.Tipo_sistema, std::string(tipoSistema));
+  for (I& bloque : sistema.instalaciones) {
+    const AlimentacionOfrecida tenia = AlimentacionDeBloque(antes, bloque);
+    const std::string alimentacion = tenia.campo != nullptr ? bloque.*tenia.campo : std::string();
+    AjustarElecciones(sistema.Tipo_sistema, bloque);
+    const AlimentacionOfrecida tiene = AlimentacionDeBloque(sistema.Tipo_sistema, bloque);
+    if (tiene.campo != nullptr && EstaEn(tiene.valores, alimentacion))
+      bloque.*tiene.campo = alimentacion;
+  }
+  const TipoSistema tipo = TipoSistemaDe(tipoSistema);
+  if (!DaACS(tipo)) sistema.Sup_ACS = 0;
+  if (!DaCalefaccion(tipo)) sistema.Sup_Calefaccion = 0;
+  if (!DaRefrigeracion(tipo)) sistema.Sup_Refrigeracion = 0;
   return true;
 }
 

@@ -28,6 +28,14 @@ std::size_t NumeroDeBloque(const Edificio& edificio, std::size_t sistema);
 bool PonerCampoSistema(Edificio& edificio, std::size_t numero, std::string_view etiqueta,
                        std::string_view texto, const CatalogoEquipos* catalogo, Mensajes& mensajes);
 
+/// ¿Siguen ofreciéndose las clases de los bloques de un sistema si pasa a dar otros servicios?
+/// \param cual el sistema, desde 0 \param tipoSistema texto de `Tipo_sistema`
+bool AdmiteServicios(const Edificio& edificio, std::size_t cual, std::string_view tipoSistema);
+/// Da a un sistema otros servicios: sus bloques conservan clase, tamaño y alimentación, y lo demás
+/// que el servicio nuevo no admita pasa a lo primero que se ofrece. \param cual desde 0
+/// \returns false, sin cambios, si no se admiten
+bool CambiarServicios(Edificio& edificio, std::size_t cual, std::string_view tipoSistema);
+
 /// Da a un bloque curvas propias. Dejan de ser las de su modelo, que si es genérico se volverían a
 /// tomar del catálogo. \returns si eran otras
 bool PonerCurvas(const CurvasEquipo& curvas, Instalaciones& bloque);

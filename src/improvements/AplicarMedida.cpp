@@ -12,6 +12,7 @@
 #include "demand/VentiladorAire.h"
 #include "entry/CambiarGenerales.h"
 #include "entry/CosteMejora.h"
+#include "improvements/GeneradorSupuesto.h"
 #include "improvements/MedidasPredefinidas.h"
 
 namespace novex {
@@ -114,18 +115,12 @@ void PonerRecuperador(Edificio& edificio, float eficiencia) {
   });
 }
 
-bool HayServicio(const Forzados& f) {
-  return f.CasoACS.Concreto() || f.CasoCalefaccion.Concreto() || f.CasoRefrigeracion.Concreto();
-}
-
 // Lo que impide aplicar una medida en cualquier caso o en este; vacío si nada.
 std::string Motivo(const Edificio& edificio, const Forzados& f) {
   const DatosGenerales& g = edificio.GetDatosGenerales();
   if (ParteSolarForzada(f.CasoACS) > 0.0F)
     return "La medida supone una parte solar: los captadores se definen en Instalaciones";
-  if (HayServicio(f))
-    return "La medida supone un generador sin potencia ni reparto: el equipo que lo da se define "
-           "en Instalaciones, con \"Rend. estacional conocido\"";
+  if (std::string motivo = ImpideGenerador(edificio, f); !motivo.empty()) return motivo;
   if (f.FactorSolarVerano > 0.0F)
     return "La medida reduce lo mismo el sol de todos los huecos: un toldo se define en cada grupo "
            "de huecos, con su protección solar móvil";
@@ -159,8 +154,9 @@ std::string TextoAislados(const Forzados& f) {
          ", o su U si no tiene composición";
 }
 
-std::string Cambios(const Forzados& f) {
+std::string Cambios(const Edificio& edificio, const Forzados& f) {
   std::vector<std::string> lista;
+  if (auto texto = CambiosGenerador(edificio, f); !texto.empty()) lista.push_back(std::move(texto));
   if (auto texto = TextoAislados(f); !texto.empty()) lista.push_back(std::move(texto));
   if (f.PuentesForzados != 0)
     lista.push_back(
@@ -190,7 +186,7 @@ AplicacionMedida DescribirAplicacion(const Edificio& edificio, int codigo) {
   const Forzados& f = Medida(codigo).forzados;
   std::string motivo = Motivo(edificio, f);
   if (!motivo.empty()) return {{}, std::move(motivo)};
-  return {Cambios(f), {}};
+  return {Cambios(edificio, f), {}};
 }
 
 void AplicarMedida(Edificio& edificio, int codigo) {
@@ -207,6 +203,7 @@ void AplicarMedida(Edificio& edificio, int codigo) {
       g.Existe_fotovoltaica = "Si";
       g.PotPico_FV[0] += f.ExtraPotPicoFV;
     });
+  PonerGeneradorSupuesto(edificio, f);
   PonerNombreMejora(edificio, medida.texto);
 }
 
