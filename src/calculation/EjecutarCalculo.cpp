@@ -19,6 +19,18 @@ void Avanzar(SimulacionCaso& simulacion, Progreso& progreso) {
   simulacion.Terminar();
 }
 
+// El avance de un caso dentro del de todos.
+class ParteDelAvance : public Progreso {
+ public:
+  ParteDelAvance(Progreso& todo, std::size_t cual, std::size_t casos)
+      : todo_(todo), cual_(static_cast<int>(cual)), casos_(static_cast<int>(casos)) {}
+  void Avanzar(int porcentaje) override { todo_.Avanzar((100 * cual_ + porcentaje) / casos_); }
+
+ private:
+  Progreso& todo_;
+  int cual_, casos_;
+};
+
 void EscribirFicherosDeCaso(std::string_view nombreCaso, Entorno& entorno, const calculo& caso) {
   const auto carpeta = entorno.ficheros.Espacio().Datos();
   EscribirFicheroBalance(carpeta, nombreCaso, caso);
@@ -103,8 +115,11 @@ bool CalcularCaso(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno
 
 bool CalcularProyecto(GestorEdifActivo& gestor, Entorno& entorno) {
   bool todos = true;
-  for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i)
-    todos = CalcularCaso(gestor, GestorEdifActivo::NombreCasoUsuario(i), entorno) && todos;
+  for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i) {
+    ParteDelAvance avance(entorno.progreso, i, gestor.NumeroCasos());
+    Entorno propio{entorno.ficheros, entorno.mensajes, avance, entorno.ficherosDeCaso};
+    todos = CalcularCaso(gestor, GestorEdifActivo::NombreCasoUsuario(i), propio) && todos;
+  }
   return todos;
 }
 

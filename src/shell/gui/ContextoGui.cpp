@@ -1,8 +1,10 @@
 #include "shell/gui/ContextoGui.h"
 
+#include <QScopedValueRollback>
 #include <exception>
 
 #include "calculation/EjecutarCalculo.h"
+#include "shell/gui/ProgresoVentana.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -24,8 +26,9 @@ bool ContextoGui::EditarProyecto(const QString& nombre,
 
 bool ContextoGui::Calcular() {
   fallo_.clear();
-  Progreso progreso;
+  ProgresoVentana progreso;
   Entorno entorno{Ficheros(), sesion_.Avisos(), progreso};
+  const QScopedValueRollback calculando(calculando_, true);
   try {
     if (CalcularProyecto(sesion_.GestorParaCalcular(), entorno)) return true;
     fallo_ = tr("No se ha podido calcular");

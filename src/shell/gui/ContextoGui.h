@@ -42,9 +42,13 @@ class ContextoGui : public QObject {
   /// Edita el proyecto entero y lo anuncia.
   bool EditarProyecto(const QString& nombre, const SesionProyecto::CambioProyecto& cambio);
   /// Calcula los casos del proyecto que no lo están: entrar en una página de resultados es
-  /// calcular. \returns si están todos; si no, por qué en `FalloCalculo`
+  /// calcular. Un cálculo que tarda enseña su avance y se puede cancelar: queda entonces lo que ya
+  /// estaba calculado. \returns si están todos; si no, por qué en `FalloCalculo`
   bool Calcular();
   const QString& FalloCalculo() const { return fallo_; }
+  /// ¿Está la ventana en medio de un cálculo, atendiendo solo a su panel? Los trabajos de los ratos
+  /// libres esperan.
+  bool Calculando() const { return calculando_; }
   /// Lleva a donde se corrige lo que impide un cálculo.
   void IrA(const MensajePrevio& motivo) { emit Ir(motivo); }
   /// Lleva a una página y, en ella, a un campo.
@@ -63,6 +67,7 @@ class ContextoGui : public QObject {
  private:
   SesionProyecto& sesion_;
   QString fallo_;
+  bool calculando_ = false;
 };
 
 }  // namespace novex::gui

@@ -121,6 +121,7 @@ void PaginaTendencias::Empezar(std::vector<int> codigos, QWidget* alAcabar) {
 }
 
 void PaginaTendencias::Paso() {
+  if (contexto_.Calculando()) return;
   const std::size_t antes = estudio_.Hechos();
   const bool sigue = estudio_.Avanzar(kRato);
   if (sigue && estudio_.Hechos() == antes) return;

@@ -123,6 +123,10 @@ void PanelVivo::PedirDeNuevo() {
 }
 
 void PanelVivo::Empezar() {
+  if (contexto_.Calculando()) {
+    espera_.start();
+    return;
+  }
   queCambia_ = Q(contexto_.Sesion().QueDeshace());
   vivo_.Empezar(contexto_.Sesion().Gestor());
   if (vivo_.EnQue() == CalculoVivo::Estado::Calculando) reloj_.start();
@@ -130,6 +134,7 @@ void PanelVivo::Empezar() {
 }
 
 void PanelVivo::Paso() {
+  if (contexto_.Calculando()) return;
   if (vivo_.Avanzar(kRato)) return;
   reloj_.stop();
   Ensenar();
