@@ -6,6 +6,7 @@
 
 #include "base/Mensajes.h"
 #include "files/DatosDerivados.h"
+#include "files/InformeLectura.h"
 #include "files/xmlParser.h"
 #include "model/GestorEdifActivo.h"
 
@@ -21,6 +22,7 @@ struct ProyectoAbierto {
   std::vector<std::string_view> casos;  ///< casos leídos, en el orden del fichero
   /// Los que no dicen su uso: han quedado como "Residencial" y necesitan sus horarios.
   std::vector<std::string_view> casosSinUso;
+  InformeLectura informe;  ///< de un fichero de una versión anterior
 };
 
 /// Abre un fichero de proyecto. Un camino que contiene "xml" o "XML" es un XML; otro que contiene
