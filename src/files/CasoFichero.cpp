@@ -10,6 +10,19 @@ namespace {
 
 constexpr std::string_view kCaso = "Novex";
 constexpr std::string_view kUsoPorDefecto = "Residencial";
+constexpr const char* kLongitudesEstimadas = "Estimados";
+
+void AnotarLeido(const Edificio& edificio, InformeLectura& informe) {
+  const auto cuantos = [](std::size_t n, const char* que) { return std::to_string(n) + " " + que; };
+  std::size_t composiciones = 0;
+  for (std::size_t i = 0; i < kRanuras; ++i)
+    composiciones += edificio.GetComposicion(i).capas.empty() ? 0U : 1U;
+  informe.Anotar(informe.leidos, "Versión \"" + edificio.GetDatosGenerales().Version + "\": " +
+                                     cuantos(edificio.NumeroHuecos(), "grupos de huecos, ") +
+                                     cuantos(edificio.NumeroMateriales(), "materiales, ") +
+                                     cuantos(composiciones, "composiciones con capas, ") +
+                                     cuantos(edificio.NumeroSistemas(), "sistemas"));
+}
 
 }  // namespace
 
@@ -39,24 +52,41 @@ void GuardarRegistros(RegistrosCaso r, Edificio& edificio) {
   for (std::size_t i = 0; i < kRanuras; ++i) edificio.GetComposicion(i).U = r.U[i];
 }
 
-bool LeerCaso(const XMLNode& novex, Edificio& edificio, Mensajes& mensajes) {
+bool LeerCaso(const XMLNode& novex, Edificio& edificio, Mensajes& mensajes,
+              InformeLectura* informe) {
   RegistrosCaso r = SacarRegistros(edificio);
   r.generales.Version = TextoDeHijo(novex, kEtiquetaVersion);
-  LeerGenerales(novex, r, mensajes);
+  const ReglasVersion& reglas = ReglasDe(r.generales.Version);
+  const bool antiguo = reglas.disposicion == DisposicionProyecto::SitioAparte;
+  if (antiguo) {
+    r.siFalta = SiFalta::Conservar;
+    r.construccion.Longitud_puentes_termicos_modo = kLongitudesEstimadas;
+    LeerGeneralesAntiguos(novex, reglas, r, mensajes);
+  } else {
+    LeerGenerales(novex, r, mensajes);
+  }
   LeerDefinicion(novex, r, mensajes);
   LeerUso(novex, r, mensajes);
-  LeerGlobales(novex, r, mensajes);
+  LeerGlobales(novex, reglas, r, mensajes);
   LeerPuentes(novex, r, mensajes);
   LeerCubiertas(novex, r, mensajes);
   LeerMuros(novex, r, mensajes);
   LeerSuelos(novex, r, mensajes);
   LeerHuecos(novex, edificio, mensajes);
   LeerMateriales(novex, edificio, mensajes);
-  LeerInstalaciones(novex, r, edificio, mensajes);
+  LeerInstalaciones(novex, reglas, r, edificio, mensajes);
   LeerEstudio(novex, r, mensajes);
   const bool diceUso = !r.generales.Tipo.empty();
   if (!diceUso) r.generales.Tipo = kUsoPorDefecto;
+  InformeLectura propio = std::move(r.informe);
   GuardarRegistros(std::move(r), edificio);
+  if (antiguo) {
+    AnotarLeido(edificio, propio);
+    if (!diceUso)
+      propio.Anotar(propio.porDefecto,
+                    "El uso y sus horarios: \"" + std::string(kUsoPorDefecto) + "\"");
+  }
+  if (informe != nullptr) informe->Unir(std::move(propio));
   return diceUso;
 }
 

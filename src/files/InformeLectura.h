@@ -28,6 +28,13 @@ struct InformeLectura {
       lista.emplace_back("... y más");
   }
 
+  /// Añade detrás lo de otra lectura.
+  void Unir(InformeLectura otro) {
+    for (auto lista : {&InformeLectura::leidos, &InformeLectura::porDefecto,
+                       &InformeLectura::saltados, &InformeLectura::cambiados})
+      for (std::string& linea : otro.*lista) Anotar(this->*lista, std::move(linea));
+  }
+
   bool Vacio() const {
     return leidos.empty() && porDefecto.empty() && saltados.empty() && cambiados.empty();
   }

@@ -35,26 +35,18 @@ Formato FormatoDe(const std::filesystem::path& ruta) {
       "Esta versión del programa todavía no lee " + que + ": \"" + ruta.string() + "\"");
 }
 
-// Tienen un elemento por caso los ficheros que guardan el sitio en su primer caso como los de hoy y
-// los de disposición actual; los demás guardan las mejoras en otro fichero.
+// Tienen un elemento por caso los de disposición actual y los que ya guardaban los meses del verano
+// en el sitio; los demás guardan las mejoras en otro fichero.
 bool EsDeVariosCasos(const XMLNode& primero) {
-  const bool sitioAntiguo =
+  const bool conMeses =
       primero.childNamed("Datos_Geograficos").childNamed("mesmin").hasAttribute(kAtributoValor);
-  return sitioAntiguo ||
-         DisposicionDe(TextoDeHijo(primero, kEtiquetaVersion)) == DisposicionProyecto::Actual;
+  return conMeses || ReglasDe(TextoDeHijo(primero, kEtiquetaVersion)).disposicion ==
+                         DisposicionProyecto::Actual;
 }
 
 void LeerSegunVersion(const XMLNode& novex, std::string_view nombre, Edificio& edificio,
-                      const std::filesystem::path& ruta, Mensajes& mensajes,
-                      ProyectoAbierto& salida) {
-  const std::string version = TextoDeHijo(novex, kEtiquetaVersion);
-  switch (DisposicionDe(version)) {
-    case DisposicionProyecto::Actual:
-      if (!LeerCaso(novex, edificio, mensajes)) salida.casosSinUso.push_back(nombre);
-      break;
-    case DisposicionProyecto::Antigua:
-      FallarVersion(ruta, "los proyectos de la versión \"" + version + "\"");
-  }
+                      Mensajes& mensajes, ProyectoAbierto& salida) {
+  if (!LeerCaso(novex, edificio, mensajes, &salida.informe)) salida.casosSinUso.push_back(nombre);
   salida.casos.push_back(nombre);
 }
 
@@ -108,7 +100,7 @@ class Anadidos {
 
 // Pone los casos en las mejoras libres; los que no tienen sitio no se leen.
 ProyectoAbierto Anadir(GestorEdifActivo& gestor, const std::vector<XMLNode>& casos,
-                       const std::filesystem::path& ruta, Mensajes& mensajes) {
+                       Mensajes& mensajes) {
   ProyectoAbierto salida;
   Anadidos anadidos(gestor);
   for (const XMLNode& novex : casos) {
@@ -118,7 +110,7 @@ ProyectoAbierto Anadir(GestorEdifActivo& gestor, const std::vector<XMLNode>& cas
       break;
     }
     anadidos.Crear(libre);
-    LeerSegunVersion(novex, libre, gestor.Activo(), ruta, mensajes, salida);
+    LeerSegunVersion(novex, libre, gestor.Activo(), mensajes, salida);
   }
   anadidos.Confirmar();
   CompartirImagenes(gestor);
@@ -127,14 +119,14 @@ ProyectoAbierto Anadir(GestorEdifActivo& gestor, const std::vector<XMLNode>& cas
 }
 
 ProyectoAbierto Sustituir(GestorEdifActivo& gestor, const std::vector<XMLNode>& casos,
-                          const std::filesystem::path& ruta, Mensajes& mensajes) {
+                          Mensajes& mensajes) {
   ProyectoAbierto salida;
   GestorEdifActivo nuevo;
   nuevo.NuevoProyecto();
   for (std::size_t i = 0; i < casos.size(); ++i) {
     const std::string_view nombre = GestorEdifActivo::NombreCasoUsuario(i);
     if (i > 0) nuevo.CrearCasoVacio(nombre);
-    LeerSegunVersion(casos[i], nombre, nuevo.Activo(), ruta, mensajes, salida);
+    LeerSegunVersion(casos[i], nombre, nuevo.Activo(), mensajes, salida);
   }
   CompartirImagenes(nuevo);
   gestor = std::move(nuevo);
@@ -142,8 +134,8 @@ ProyectoAbierto Sustituir(GestorEdifActivo& gestor, const std::vector<XMLNode>& 
   return salida;
 }
 
-ProyectoAbierto AbrirXml(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
-                         ModoApertura modo, Mensajes& mensajes, ModoCodificacion& codificacion) {
+std::vector<XMLNode> CasosDelFichero(const std::filesystem::path& ruta,
+                                     ModoCodificacion& codificacion) {
   const XMLNode personalizados = XMLNode::loadFile(ruta, kRaiz, codificacion).childNamed(kCasos);
   std::vector<XMLNode> casos;
   std::size_t i = 0;
@@ -151,16 +143,34 @@ ProyectoAbierto AbrirXml(GestorEdifActivo& gestor, const std::filesystem::path& 
   if (casos.empty())
     throw ErrorFichero(ruta.string(), 0, 0, 0,
                        "El fichero no contiene ningún edificio: \"" + ruta.string() + "\"");
-  if (!EsDeVariosCasos(casos.front()))
-    FallarVersion(ruta, "los proyectos de la versión \"" +
-                            TextoDeHijo(casos.front(), kEtiquetaVersion) + "\"");
+  return casos;
+}
+
+// De un fichero de un solo caso, el fichero que guarda sus mejoras.
+std::filesystem::path RutaDeMejoras(const std::filesystem::path& ruta) {
+  return ruta.parent_path() / (ruta.stem().string() + "_M" + ruta.extension().string());
+}
+
+ProyectoAbierto AbrirXml(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
+                         ModoApertura modo, Mensajes& mensajes, ModoCodificacion& codificacion) {
+  std::vector<XMLNode> casos = CasosDelFichero(ruta, codificacion);
+  if (!EsDeVariosCasos(casos.front())) {
+    casos.resize(1);
+    std::error_code error;
+    if (const auto mejoras = RutaDeMejoras(ruta);
+        std::filesystem::is_regular_file(mejoras, error)) {
+      ModoCodificacion deMejoras = codificacion;
+      for (XMLNode& mejora : CasosDelFichero(mejoras, deMejoras))
+        casos.push_back(std::move(mejora));
+    }
+  }
   const std::size_t abiertos = modo == ModoApertura::Nuevo ? 1 : gestor.NumeroCasos();
   if (abiertos + casos.size() > kMaximoRecuento) {
     AvisarDemasiados(mensajes);
     return {};
   }
-  return modo == ModoApertura::Nuevo ? Sustituir(gestor, casos, ruta, mensajes)
-                                     : Anadir(gestor, casos, ruta, mensajes);
+  return modo == ModoApertura::Nuevo ? Sustituir(gestor, casos, mensajes)
+                                     : Anadir(gestor, casos, mensajes);
 }
 
 }  // namespace

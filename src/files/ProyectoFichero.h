@@ -51,9 +51,11 @@ std::filesystem::path GuardarProyecto(const GestorEdifActivo& gestor,
                                       const DatosDerivados& derivados = {},
                                       const ModoCodificacion& codificacion = {});
 
-/// Llena un edificio en blanco con un elemento `Novex` de la disposición actual.
+/// Llena un edificio en blanco con un elemento `Novex` de la versión que dice.
+/// \param informe si se da, se le añade qué ha sido de lo de un fichero de una versión anterior
 /// \returns false si el caso no dice su uso, que queda como "Residencial"
-bool LeerCaso(const XMLNode& novex, Edificio& edificio, Mensajes& mensajes);
+bool LeerCaso(const XMLNode& novex, Edificio& edificio, Mensajes& mensajes,
+              InformeLectura* informe = nullptr);
 
 /// Añade a `casos` el elemento `Novex` de un edificio.
 /// \param primero con el primer caso van las imágenes y los bloques de resultados

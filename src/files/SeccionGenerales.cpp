@@ -148,8 +148,17 @@ void LeerGenerales(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes) {
   LeerFilas<ElementoInalterable>(datos.childNamed(kInalterables), kInalterable, kFilaInalterable,
                                  r.pantalla.inalterables, mensajes);
   LeerCampos<R>(datos, kSitioYCertificador, r, mensajes);
+  LeerImagenes(datos, r);
+  LeerObstaculos(novex, datos, r, mensajes);
+}
+
+void LeerImagenes(const XMLNode& datos, RegistrosCaso& r) {
   r.pantalla.Imagen = LeerImagen(datos.childNamed(kImagen));
   r.pantalla.Plano = LeerImagen(datos.childNamed(kPlano));
+}
+
+void LeerObstaculos(const XMLNode& novex, const XMLNode& datos, RegistrosCaso& r,
+                    Mensajes& mensajes) {
   // Las disposiciones más antiguas tienen los obstáculos fuera de los datos generales.
   const XMLNode dentro = datos.childNamed(kObstaculos);
   LeerCampos<R>(dentro ? dentro : novex.childNamed(kObstaculos), kCamposObstaculos, r, mensajes,

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "files/SeccionesProyecto.h"
 
 namespace novex {
@@ -29,6 +31,20 @@ constexpr std::array kCamposTipologia = {
     Entero<&T::N_dormitorios_dobles>("N_dormitorios_dobles").Entre(0, kMaximoViviendas),
     Entero<&T::N_salas_estar_comedor>("N_salas_estar_comedor").Entre(0, kMaximoViviendas),
     Entero<&T::N_cuartos_de_banyo>("N_cuartos_de_banyo").Entre(0, kMaximoViviendas)};
+
+// Los dormitorios simples ya no se cuentan aparte.
+void SumarDormitoriosSimples(const XMLNode& nodo, T& tipologia, InformeLectura& informe,
+                             Mensajes& mensajes) {
+  constexpr std::string_view kSimples = "N_dormitorios_simples";
+  const int simples = camposFichero::LeerEntero(TextoDeHijo(nodo, kSimples), kSimples, 0,
+                                                kMaximoViviendas, mensajes);
+  if (simples == 0) return;
+  tipologia.N_dormitorios_dobles =
+      std::min(tipologia.N_dormitorios_dobles + simples, kMaximoViviendas);
+  informe.Anotar(informe.cambiados, "Los dormitorios simples (" + std::to_string(simples) +
+                                        ") se cuentan con los dobles: " +
+                                        std::to_string(tipologia.N_dormitorios_dobles));
+}
 
 // CTE DB-HE 2019, anejo: permeabilidad de los opacos a 100 Pa, m3/h m2.
 constexpr float kPermeabilidadNuevo = 16;
@@ -84,15 +100,22 @@ void EscribirModelo(XMLNode& globales, const R& r, const Edificio& edificio) {
 
 }  // namespace
 
-void LeerGlobales(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes) {
+void LeerGlobales(const XMLNode& novex, const ReglasVersion& reglas, RegistrosCaso& r,
+                  Mensajes& mensajes) {
   const XMLNode globales = novex.childNamed(kSeccion);
   LeerCampos<R>(globales, kGlobales, r, mensajes);
   const XMLNode grupo = globales.childNamed(kTipologiasGrupo);
+  const auto leer = [&](const XMLNode& nodo, T& tipologia) {
+    LeerCampos<T>(nodo, kCamposTipologia, tipologia, mensajes, r.siFalta);
+    if (reglas.dormitoriosSimples) SumarDormitoriosSimples(nodo, tipologia, r.informe, mensajes);
+  };
+  // Con un solo tipo de vivienda, los ficheros más antiguos no lo agrupan.
+  if (!grupo && r.siFalta == SiFalta::Conservar) leer(globales, r.ventilacion.tipologias.front());
   std::size_t i = 0;
   for (T& tipologia : r.ventilacion.tipologias) {
     const XMLNode nodo = grupo.childNamed(kTipologia, &i);
     if (!nodo) break;
-    LeerCampos<T>(nodo, kCamposTipologia, tipologia, mensajes);
+    leer(nodo, tipologia);
   }
 }
 

@@ -84,37 +84,74 @@ constexpr std::array kVentilacionMecanica = {
     Real<x, &X::Caudal2Vent>("Caudal2Vent", 2),
     Real<x, &X::PotenciaEspecificaVent>("PotenciaEspecificaVent", 2), kConsumoAExt};
 
-// Nombres que tuvieron los recuperadores, y las versiones que ya definían su consumo como ahora.
+// Nombres que tuvieron los recuperadores.
 struct NombreCambiado {
   std::string_view antes;
   std::string_view ahora;
 };
 constexpr std::array<NombreCambiado, 2> kRecuperadores = {
     {{"SinFreecooling", "SensibleSinBypass"}, {"ConFreecooling", "SensibleConBypass"}}};
-constexpr std::array<std::string_view, 4> kVersionesConsumoActual = {
-    "NOVEXPLUS v5.09", "NOVEXPLUS v5.10", "NOVEXPLUS v5.11", "NOVEXPLUS v6.1"};
 
-void CambiarRecuperador(D& datos, Mensajes& mensajes) {
+void CambiarRecuperador(const ReglasVersion& reglas, D& datos, InformeLectura& informe,
+                        Mensajes& mensajes) {
   const auto cambiado =
       std::find_if(kRecuperadores.begin(), kRecuperadores.end(),
                    [&datos](const NombreCambiado& n) { return n.antes == datos.Recuperador; });
   if (cambiado == kRecuperadores.end()) return;
   datos.Recuperador = cambiado->ahora;
-  if (std::find(kVersionesConsumoActual.begin(), kVersionesConsumoActual.end(), datos.Version) ==
-      kVersionesConsumoActual.end())
+  informe.Anotar(informe.cambiados, "Recuperador \"" + std::string(cambiado->antes) +
+                                        "\" pasa a \"" + datos.Recuperador + "\"");
+  if (!reglas.consumoRecuperador)
     mensajes.Avisar("AVISO",
                     "Revisar datos consumo recuperador. Se cambia definición a partir de la "
                     "versión 5.09");
 }
 
+// Los ficheros que no tienen los ajustes de la ventilación toman unos fijos.
+void PonerVentilacionFija(D& d, InformeLectura& informe) {
+  d.ManejoVentanas2 = "Abiertas";
+  d.ERelaMasa = 1;
+  d.WRecuperador = 25;
+  d.WRecuperadorr = 25;
+  d.Teminrec = 15;
+  d.Temaxrec = 30;
+  d.TminImp = 14;
+  d.HRmin = 30;
+  d.NEquiposVent = 1;
+  d.ManejoVentilacion = "TomaUT";
+  d.TipoCO2 = "Coef. operacionales";
+  d.ControlVent = "Control por compuertas";
+  informe.Anotar(informe.porDefecto,
+                 "Los ajustes de la ventilación mecánica y del recuperador toman valores fijos");
+}
+
+// Lo que un fichero antiguo no dice y el caso toma de los valores de partida.
+void AnotarFaltas(const XMLNode& instalaciones, R& r) {
+  for (const Campo<R>& campo : kCampos) {
+    if (campo.soloEscritura || ValorDeHijo(instalaciones, campo.etiqueta)) continue;
+    r.informe.Anotar(r.informe.porDefecto, std::string(campo.etiqueta) + ": \"" +
+                                               camposFichero::TextoDeCampo(campo, r, Indice{}) +
+                                               "\"");
+  }
+}
+
 }  // namespace
 
-void LeerInstalaciones(const XMLNode& novex, RegistrosCaso& r, Edificio& edificio,
-                       Mensajes& mensajes) {
+void LeerInstalaciones(const XMLNode& novex, const ReglasVersion& reglas, RegistrosCaso& r,
+                       Edificio& edificio, Mensajes& mensajes) {
   const XMLNode instalaciones = novex.childNamed(kSeccion);
-  LeerCampos<R>(instalaciones, kCampos, r, mensajes);
-  CambiarRecuperador(r.generales, mensajes);
-  LeerSistemas(instalaciones, edificio, mensajes);
+  LeerCampos<R>(instalaciones, kCampos, r, mensajes, r.siFalta);
+  if (r.siFalta == SiFalta::Conservar) AnotarFaltas(instalaciones, r);
+  if (reglas.dormitoriosSimples) PonerVentilacionFija(r.generales, r.informe);
+  CambiarRecuperador(reglas, r.generales, r.informe, mensajes);
+  if (reglas.sistemas) {
+    LeerSistemas(instalaciones, edificio, mensajes);
+    return;
+  }
+  mensajes.Avisar("AVISO Versión antigua",
+                  "No se leen las instalaciones, por cambiar completamente su definición");
+  r.informe.Anotar(r.informe.saltados,
+                   "Los sistemas de las instalaciones, que se definían de otro modo");
 }
 
 void EscribirInstalaciones(XMLNode& novex, RegistrosCaso& r, const Edificio& edificio) {

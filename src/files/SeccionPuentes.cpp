@@ -57,7 +57,7 @@ constexpr std::array kCamposPuentes = {
 }  // namespace
 
 void LeerPuentes(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes) {
-  LeerCampos<R>(novex.childNamed(kSeccion), kCamposPuentes, r, mensajes);
+  LeerCampos<R>(novex.childNamed(kSeccion), kCamposPuentes, r, mensajes, r.siFalta);
 }
 
 void EscribirPuentes(XMLNode& novex, RegistrosCaso& r) {

@@ -10,6 +10,8 @@
 #include "base/Mensajes.h"
 #include "files/CamposFichero.h"
 #include "files/DatosDerivados.h"
+#include "files/InformeLectura.h"
+#include "files/VersionProyecto.h"
 #include "files/xmlParser.h"
 #include "model/Edificio.h"
 
@@ -28,6 +30,9 @@ struct RegistrosCaso {
   Recinto recinto;
   std::array<float, kRanuras> U{};
   DatosDerivados::Caso derivados;
+  /// Al leer un fichero de una versión anterior, lo que falta conserva el valor del caso en blanco.
+  SiFalta siFalta = SiFalta::Vaciar;
+  InformeLectura informe;
 };
 
 /// Camino de los campos que se repiten en dos secciones con distintos decimales.
@@ -89,12 +94,20 @@ void EscribirTipos(XMLNode& padre, std::string_view grupo, std::string_view etiq
 void LeerGenerales(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes);
 /// \param primero con el primer caso van las imágenes del proyecto
 void EscribirGenerales(XMLNode& novex, RegistrosCaso& r, bool primero);
+/// Los datos generales y el sitio de los ficheros que lo tienen en su propia sección.
+void LeerGeneralesAntiguos(const XMLNode& novex, const ReglasVersion& reglas, RegistrosCaso& r,
+                           Mensajes& mensajes);
+// Partes que están igual en todas las disposiciones.
+void LeerImagenes(const XMLNode& datos, RegistrosCaso& r);
+void LeerObstaculos(const XMLNode& novex, const XMLNode& datos, RegistrosCaso& r,
+                    Mensajes& mensajes);
 void EscribirCertificado(XMLNode& novex, const RegistrosCaso& r);
 void LeerDefinicion(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes);
 void EscribirDefinicion(XMLNode& novex, RegistrosCaso& r);
 void LeerUso(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes);
 void EscribirUso(XMLNode& novex, RegistrosCaso& r);
-void LeerGlobales(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes);
+void LeerGlobales(const XMLNode& novex, const ReglasVersion& reglas, RegistrosCaso& r,
+                  Mensajes& mensajes);
 void EscribirGlobales(XMLNode& novex, RegistrosCaso& r, const Edificio& edificio);
 void LeerPuentes(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes);
 void EscribirPuentes(XMLNode& novex, RegistrosCaso& r);
@@ -108,8 +121,8 @@ void LeerHuecos(const XMLNode& novex, Edificio& edificio, Mensajes& mensajes);
 void EscribirHuecos(XMLNode& novex, const Edificio& edificio);
 void LeerMateriales(const XMLNode& novex, Edificio& edificio, Mensajes& mensajes);
 void EscribirMateriales(XMLNode& novex, const Edificio& edificio);
-void LeerInstalaciones(const XMLNode& novex, RegistrosCaso& r, Edificio& edificio,
-                       Mensajes& mensajes);
+void LeerInstalaciones(const XMLNode& novex, const ReglasVersion& reglas, RegistrosCaso& r,
+                       Edificio& edificio, Mensajes& mensajes);
 void EscribirInstalaciones(XMLNode& novex, RegistrosCaso& r, const Edificio& edificio);
 /// Los sistemas, un elemento por bloque de generador dentro del de las instalaciones.
 void LeerSistemas(const XMLNode& instalaciones, Edificio& edificio, Mensajes& mensajes);

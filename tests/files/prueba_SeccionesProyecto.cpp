@@ -29,11 +29,15 @@ XMLNode Escrito(const Edificio& edificio, const DatosDerivados::Caso& derivados 
 
 class SeccionesProyecto : public ::testing::Test {
  protected:
-  void Leer(const std::string& contenido) { LeerCaso(Nodo(contenido), edificio_, mensajes_); }
+  void Leer(const std::string& contenido, std::string_view version = kVersionActual) {
+    LeerCaso(Nodo("<Version name=\"" + std::string(version) + "\"/>" + contenido), edificio_,
+             mensajes_, &informe_);
+  }
   const DatosGenerales& Generales() const { return edificio_.GetDatosGenerales(); }
 
   Edificio edificio_;
   RegistroMensajes mensajes_;
+  InformeLectura informe_;
 };
 
 TEST_F(SeccionesProyecto, LoQueFaltaVaciaOConservaSegunLaSeccion) {
