@@ -13,6 +13,7 @@
 #include <string>
 #include <thread>
 
+#include "base/Disco.h"
 #include "base/ErrorFichero.h"
 #include "base/EspacioTrabajo.h"
 #include "base/FicheroSeguro.h"
@@ -86,6 +87,58 @@ TEST_F(FicheroSeguro, UnaEscrituraFallidaNoDejaRestos) {
   EXPECT_THROW(EscribirFichero(carpeta, "x"), ErrorFichero);
   EXPECT_TRUE(fs::exists(carpeta / "dentro"));
   EXPECT_EQ(NumeroEntradas(), 1);
+}
+
+// Falla en una operación dada, contando todas; una escritura que falla ya ha escrito la mitad.
+class DiscoQueFalla : public Disco {
+ public:
+  explicit DiscoQueFalla(int cual) : cual_(cual) {}
+  int operaciones = 0;
+
+  int Crear(std::string& plantilla) override { return Falla() ? -1 : Disco::Crear(plantilla); }
+  ssize_t Escribir(int descriptor, std::string_view contenido) override {
+    const bool falla = Falla();
+    // Trozos pequeños, para que haya más de una escritura en que fallar, con alguna interrumpida.
+    if (!falla && operaciones % 3 == 0) return errno = EINTR, -1;
+    const ssize_t escrito = Disco::Escribir(descriptor, contenido.substr(0, kTrozo));
+    return falla ? (errno = ENOSPC, -1) : escrito;
+  }
+  bool Volcar(int descriptor) override { return !Falla() && Disco::Volcar(descriptor); }
+  bool Cerrar(int descriptor) override { return Disco::Cerrar(descriptor) && !Falla(); }
+  bool Renombrar(const fs::path& de, const fs::path& a) override {
+    return !Falla() && Disco::Renombrar(de, a);
+  }
+
+ private:
+  static constexpr std::size_t kTrozo = 1000;
+  bool Falla() { return operaciones++ == cual_; }
+  int cual_;
+};
+
+TEST_F(FicheroSeguro, FalleDondeFalleQuedaEnteroElViejoOElNuevo) {
+  const fs::path ruta = carpeta_ / "proyecto.xml";
+  const std::string viejo(7000, 'v'), nuevo(9000, 'n');
+  DiscoQueFalla sinFallos(-1);
+  EscribirFicheroEn(sinFallos, ruta, viejo);
+  EXPECT_EQ(LeerFichero(ruta), viejo);
+  EXPECT_GT(sinFallos.operaciones, 12);
+  int fallos = 0;
+  for (int cual = 0; cual < 40; ++cual) {
+    SCOPED_TRACE(cual);
+    EscribirFichero(ruta, viejo);
+    DiscoQueFalla disco(cual);
+    bool escrito = true;
+    try {
+      EscribirFicheroEn(disco, ruta, nuevo);
+    } catch (const ErrorFichero&) {
+      escrito = false;
+      ++fallos;
+    }
+    EXPECT_EQ(LeerFichero(ruta), escrito ? nuevo : viejo);
+    EXPECT_EQ(NumeroEntradas(), 1);
+  }
+  EXPECT_GT(fallos, 12);
+  EXPECT_LT(fallos, 40);
 }
 
 TEST_F(FicheroSeguro, LeerLoQueNoEsUnFicheroCorrienteOEsEnorme) {
