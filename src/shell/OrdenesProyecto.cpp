@@ -48,14 +48,16 @@ std::string_view DuplicarCaso(GestorEdifActivo& gestor, std::string_view nombre,
 }
 
 ProyectoAbierto AnadirProyecto(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
-                               FicherosPrograma& ficheros, Mensajes& mensajes, bool& sustituido) {
+                               FicherosPrograma& ficheros, Mensajes& mensajes, bool& sustituido,
+                               ModoCodificacion& codificacion) {
   sustituido = !ComprobacionesPrevias(gestor.Activo()).empty();
   if (sustituido)
     mensajes.Avisar(kAviso,
                     "Se abre como si fuera nuevo, ya que el edificio que existe no tierne datos "
                     "coherentes");
-  const ProyectoAbierto abierto = AbrirProyecto(
-      gestor, ruta, sustituido ? ModoApertura::Nuevo : ModoApertura::Anadir, mensajes);
+  const ProyectoAbierto abierto =
+      AbrirProyecto(gestor, ruta, sustituido ? ModoApertura::Nuevo : ModoApertura::Anadir, mensajes,
+                    codificacion);
   if (abierto.abierto) CompletarProyecto(gestor, abierto.casosSinUso, ficheros, mensajes);
   return abierto;
 }

@@ -24,8 +24,10 @@ std::string_view DuplicarCaso(GestorEdifActivo& gestor, std::string_view nombre,
 /// Añade al proyecto los casos de otro fichero. Si el caso activo no pasa las comprobaciones
 /// previas, avisa y abre el otro en lugar del proyecto.
 /// \returns lo abierto, y en `sustituido` si ha ocupado el lugar del proyecto
+/// \param codificacion recibe la del otro fichero
 /// \throws ErrorFichero como `AbrirProyecto`
 ProyectoAbierto AnadirProyecto(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
-                               FicherosPrograma& ficheros, Mensajes& mensajes, bool& sustituido);
+                               FicherosPrograma& ficheros, Mensajes& mensajes, bool& sustituido,
+                               ModoCodificacion& codificacion);
 
 }  // namespace novex

@@ -157,6 +157,14 @@ void SesionProyecto::Nuevo() {
   guardada_ = revision_;
 }
 
+void SesionProyecto::Empezar(const std::filesystem::path& fichero,
+                             const ModoCodificacion& codificacion) {
+  fichero_ = std::filesystem::absolute(fichero);
+  codificacion_ = codificacion;
+  OlvidarHistoria();
+  guardada_ = revision_;
+}
+
 bool SesionProyecto::Abrir(const std::filesystem::path& ruta) {
   ModoCodificacion codificacion;
   const ProyectoAbierto abierto =
@@ -164,20 +172,23 @@ bool SesionProyecto::Abrir(const std::filesystem::path& ruta) {
   if (!abierto.abierto) return false;
   CompletarProyecto(gestor_, abierto.casosSinUso, ficheros_, mensajes_);
   gestor_.ActivarCaso(caso::kViejo);
-  fichero_ = std::filesystem::absolute(ruta);
-  codificacion_ = codificacion;
-  OlvidarHistoria();
-  guardada_ = revision_;
+  Empezar(ruta, codificacion);
   return true;
 }
 
 bool SesionProyecto::Anadir(const std::filesystem::path& ruta) {
   Instantanea foto = Fotografiar("añadir " + ruta.filename().string(), true);
   bool sustituido = false;
-  const ProyectoAbierto abierto = AnadirProyecto(gestor_, ruta, ficheros_, mensajes_, sustituido);
+  ModoCodificacion codificacion;
+  const ProyectoAbierto abierto =
+      AnadirProyecto(gestor_, ruta, ficheros_, mensajes_, sustituido, codificacion);
   if (!abierto.abierto) return false;
-  if (sustituido) fichero_ = std::filesystem::absolute(ruta);
-  Apuntar(std::move(foto));
+  gestor_.ActivarCaso(caso::kViejo);
+  // Deshacerlo dejaría los datos de antes con el fichero del otro.
+  if (sustituido)
+    Empezar(ruta, codificacion);
+  else
+    Apuntar(std::move(foto));
   return true;
 }
 
@@ -195,10 +206,14 @@ DatosDerivados SesionProyecto::Resultados() const {
 }
 
 std::filesystem::path SesionProyecto::Guardar(const std::filesystem::path& ruta) {
-  fichero_ = std::filesystem::absolute(
+  DarPorGuardado(
       GuardarProyecto(gestor_, ruta.empty() ? fichero_ : ruta, Resultados(), codificacion_));
-  guardada_ = revision_;
   return fichero_;
+}
+
+void SesionProyecto::DarPorGuardado(const std::filesystem::path& fichero) {
+  fichero_ = std::filesystem::absolute(fichero);
+  guardada_ = revision_;
 }
 
 bool SesionProyecto::DuplicarCaso() {

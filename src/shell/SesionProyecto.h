@@ -70,12 +70,15 @@ class SesionProyecto {
   /// Abre un proyecto. Si no se puede leer, el que hay queda como estaba.
   /// \returns si lo ha abierto \throws ErrorFichero
   bool Abrir(const std::filesystem::path& ruta);
-  /// Añade los casos de otro fichero, o lo abre si el proyecto no tiene datos coherentes.
-  /// \throws ErrorFichero
+  /// Añade los casos de otro fichero, o lo abre si el proyecto no tiene datos coherentes: entonces
+  /// es como `Abrir`. Deja activo el caso base. \throws ErrorFichero
   bool Anadir(const std::filesystem::path& ruta);
   /// Guarda, con los resultados de los casos que están calculados; sin ruta, en su fichero.
   /// \returns el fichero escrito \throws ErrorFichero
   std::filesystem::path Guardar(const std::filesystem::path& ruta = {});
+  /// El proyecto, tal como está, lo acaba de guardar otra orden en ese fichero, que pasa a ser el
+  /// suyo.
+  void DarPorGuardado(const std::filesystem::path& fichero);
   /// Duplica el caso activo en una mejora, que queda activa. \returns si ha cabido
   bool DuplicarCaso();
   /// Lo mismo y cambia la mejora, todo en una edición. \param nombre qué se hace, para "Deshacer"
@@ -101,6 +104,7 @@ class SesionProyecto {
   bool EditarProyecto(std::string_view nombre, const CambioProyecto& cambio, bool quitarResultados);
   void Apuntar(Instantanea&& foto);
   void OlvidarHistoria();
+  void Empezar(const std::filesystem::path& fichero, const ModoCodificacion& codificacion);
   DatosDerivados Resultados() const;
   void QuitarResultados(std::string_view nombre);
 

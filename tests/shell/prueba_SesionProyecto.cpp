@@ -120,6 +120,25 @@ TEST_F(Sesion, GuardaAbreYSigueIgual) {
   EXPECT_EQ(sesion.Fichero(), escrito);
 }
 
+TEST_F(Sesion, AnadirDejaLaBaseActivaYSinDatosCoherentesEsAbrir) {
+  // Un proyecto en blanco no pasa las comprobaciones: el otro ocupa su lugar con su fichero.
+  ASSERT_TRUE(sesion.Anadir(Ejemplo("piso_C2.xml")));
+  ASSERT_EQ(mensajes.recibidos.size(), 1U);
+  EXPECT_EQ(mensajes.recibidos[0].texto,
+            "Se abre como si fuera nuevo, ya que el edificio que existe no tierne datos "
+            "coherentes");
+  EXPECT_EQ(sesion.Fichero(), fs::absolute(Ejemplo("piso_C2.xml")));
+  EXPECT_FALSE(sesion.Modificado());
+  EXPECT_FALSE(sesion.Deshacer());  // los datos de antes no van con el fichero de ahora
+  ASSERT_TRUE(sesion.Anadir(Ejemplo("vivienda_unifamiliar_D3.xml")));
+  EXPECT_EQ(sesion.Gestor().NumeroCasos(), 2U);
+  EXPECT_EQ(sesion.Gestor().NombreActivo(), caso::kViejo);
+  EXPECT_EQ(sesion.Fichero(), fs::absolute(Ejemplo("piso_C2.xml")));
+  EXPECT_TRUE(sesion.Modificado());
+  EXPECT_TRUE(sesion.Deshacer());
+  EXPECT_EQ(sesion.Gestor().NumeroCasos(), 1U);
+}
+
 TEST_F(Sesion, LaCopiaDeRecuperacionDevuelveLoQueNoSeGuardo) {
   sesion.Abrir(Ejemplo("piso_C2.xml"));
   Poner("Edificio_Titulo", "a medias");

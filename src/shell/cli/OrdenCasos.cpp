@@ -78,7 +78,9 @@ int Anadir(const OpcionesCasos& o) {
   gestor.ActivarCaso(caso::kViejo);
   FicherosPrograma ficheros(AbrirEspacio(o.programa));
   bool sustituido = false;
-  const ProyectoAbierto abierto = AnadirProyecto(gestor, o.otro, ficheros, mensajes, sustituido);
+  ModoCodificacion codificacion;
+  const ProyectoAbierto abierto =
+      AnadirProyecto(gestor, o.otro, ficheros, mensajes, sustituido, codificacion);
   if (!abierto.abierto) return kNoCumple;
   // Sobre su propio fichero se perdería el proyecto que no pasa las comprobaciones.
   if (sustituido && o.guardar.empty())
