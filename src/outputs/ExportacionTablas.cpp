@@ -15,8 +15,12 @@ constexpr std::string_view kExtension = ".txt";
 
 std::string ExportarTablas(const CasoCalculado& caso, AlcanceExportacion alcance,
                            const SeleccionMensual& seleccion) {
-  const auto rejillas = alcance == AlcanceExportacion::Todas ? RejillasMensuales(caso)
-                                                             : RejillasVisibles(caso, seleccion);
+  auto rejillas = alcance == AlcanceExportacion::Todas ? RejillasMensuales(caso)
+                                                       : RejillasVisibles(caso, seleccion);
+  std::stable_sort(rejillas.begin(), rejillas.end(),
+                   [](const RejillaMensual& a, const RejillaMensual& b) {
+                     return a.ordenFichero < b.ordenFichero;
+                   });
   std::string texto;
   std::vector<std::string> anteriores;
   for (const RejillaMensual& rejilla : rejillas) {
@@ -35,6 +39,15 @@ std::string ExportarObjetoReferencia(const CasoCalculado& caso, UnidadesReferenc
   const auto tabla = TablaObjetoReferencia(caso, unidades);
   if (!tabla) return {};
   return tabla->titulo + ";\n" + TextoSeparado(*tabla, kMaximoColumnas);
+}
+
+std::string ExportarTablas(const std::vector<Tabla>& tablas) {
+  std::string texto;
+  for (const Tabla& tabla : tablas) {
+    texto += tabla.titulo + ";\n" + TextoSeparado(tabla, kMaximoColumnas);
+    for (const std::string& nota : tabla.notas) texto += nota + ";\n";
+  }
+  return texto;
 }
 
 std::filesystem::path RutaExportacion(const std::filesystem::path& elegida) {

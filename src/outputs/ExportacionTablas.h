@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "outputs/CasoCalculado.h"
 #include "outputs/TablaObjetoReferencia.h"
@@ -20,6 +21,9 @@ std::string ExportarTablas(const CasoCalculado& caso, AlcanceExportacion alcance
 
 /// La tabla del edificio objeto y el de referencia en la misma forma; vacía donde no la hay.
 std::string ExportarObjetoReferencia(const CasoCalculado& caso, UnidadesReferencia unidades);
+
+/// Otras tablas de resultados en la misma forma, con sus notas debajo de cada una.
+std::string ExportarTablas(const std::vector<Tabla>& tablas);
 
 /// El camino con que se guarda una exportación: al que no acaba en ".txt" se le añade.
 std::filesystem::path RutaExportacion(const std::filesystem::path& elegida);

@@ -152,7 +152,8 @@ RejillaMensual PaginaMensual::DeServicio(ServicioMes servicio, UnidadEnergia uni
   }
   rejilla.Fila("TOTAL", total);
   if (area_ > 0.0F) rejilla.Nota(NotaTotal(servicio, unidad, total.Ano()));
-  return {"", {std::string(kResultados[unidad].enFichero) + textos.enFichero}, rejilla.Terminar()};
+  return {
+      "", {std::string(kResultados[unidad].enFichero) + textos.enFichero}, 0, rejilla.Terminar()};
 }
 
 // Lo que se toma de la red, y lo que la fotovoltaica evita tomar, se convierten igual.
@@ -185,7 +186,7 @@ RejillaMensual PaginaMensual::Electrica(ServicioMes servicio, UnidadEnergia unid
   // El equipo por defecto entra en la suma solo en terciario, y el de calefacción no es eléctrico.
   if (!residencial_ && s != kCalefaccion) total += defecto;
   rejilla.Fila("TOTAL Elec. Red", total);
-  return {"", {"Energia Electrica de Red", kResultados[unidad].electrica}, rejilla.Terminar()};
+  return {"", {"Energia Electrica de Red", kResultados[unidad].electrica}, 0, rejilla.Terminar()};
 }
 
 RejillaMensual PaginaMensual::Defecto(ServicioMes servicio) const {
@@ -196,7 +197,7 @@ RejillaMensual PaginaMensual::Defecto(ServicioMes servicio) const {
   if (s == kCalefaccion && !residencial_) nombre = "Defecto Gasoleo_C";
   RejillaMeses rejilla("Energia Inst. Defecto", "Inst. Defecto (kWh)", area_);
   rejilla.Fila(nombre, FilaMeses(calculo_.meses.defecto[s]));
-  return {"", {std::string("Energia Inst. Defecto") + textos.enFichero}, rejilla.Terminar()};
+  return {"", {std::string("Energia Inst. Defecto") + textos.enFichero}, 0, rejilla.Terminar()};
 }
 
 // Demanda del edificio, positiva, kWh.
@@ -214,7 +215,7 @@ RejillaMensual PaginaMensual::InstalacionACS() const {
   rejilla.Fila("Recirculacion", retorno);
   FilaMeses total = demanda;
   rejilla.Fila("Total ACS", (total += deposito) += retorno);
-  return {"", {"Detalle demanda de ACS"}, rejilla.Terminar()};
+  return {"", {"Detalle demanda de ACS"}, 0, rejilla.Terminar()};
 }
 
 RejillaMensual PaginaMensual::Solar() const {
@@ -229,7 +230,7 @@ RejillaMensual PaginaMensual::Solar() const {
   rejilla.Fila("Perd.deposito solar", deposito);
   FilaMeses aportada = captada;
   rejilla.Fila("Total Energia aportada", (aportada -= tuberia) -= deposito);
-  return {"", {titulo}, rejilla.Terminar()};
+  return {"", {titulo}, 0, rejilla.Terminar()};
 }
 
 RejillaMensual PaginaMensual::Demanda() const {
@@ -241,7 +242,7 @@ RejillaMensual PaginaMensual::Demanda() const {
   else
     rejilla.Fila("Refrigeracion", DemandaDe(kRefrigeracion));
   rejilla.Nota(rotuloDemanda_);
-  return {"", {"Demanda Total"}, rejilla.Terminar()};
+  return {"", {"Demanda Total"}, 0, rejilla.Terminar()};
 }
 
 // Uso eléctrico de un servicio, kWh: el que comparte la fotovoltaica.
@@ -284,6 +285,7 @@ RejillaMensual PaginaMensual::UsoElectrico() const {
   rejilla.Fila("FV a compensar", compensada);
   return {"",
           {"Calculo Energia electrica (kW) total compensada debido a FV para EPBD"},
+          0,
           rejilla.Terminar()};
 }
 
@@ -295,10 +297,10 @@ RejillaMensual PaginaMensual::Compensada() const {
   rejilla.Fila("Compens.Refrig", CompensadaDe(kRefrigeracion));
   rejilla.Fila("Compens.Ventil", CompensadaDe(kVentilacion));
   rejilla.Fila("Compens.Ilumin", CompensadaDe(kIluminacion));
-  return {"", {titulo}, rejilla.Terminar()};
+  return {"", {titulo}, 0, rejilla.Terminar()};
 }
 
-// Qué rejilla es.
+// Qué rejilla es. Las clases están en el orden del fichero de texto.
 struct Pedido {
   enum class Clase { InstalacionACS, Solar, Demanda, DeServicio, Defecto, Electrica, Uso, Reparto };
   Clase clase;
@@ -325,13 +327,13 @@ std::vector<Pedido> TodosLosPedidos(bool residencial) {
 
 std::vector<Pedido> PedidosVisibles(const SeleccionMensual& seleccion) {
   if (seleccion.vista == VistaMensual::DemandaYSolar)
-    return {{Clase::InstalacionACS}, {Clase::Solar}, {Clase::Demanda}};
+    return {{Clase::Demanda}, {Clase::InstalacionACS}, {Clase::Solar}};
   if (seleccion.vista == VistaMensual::Fotovoltaica) return {{Clase::Uso}, {Clase::Reparto}};
   const ServicioMes s = seleccion.servicio;
   std::vector<Pedido> pedidos = {{Clase::DeServicio, s, seleccion.unidad}};
   if (!Textos(s).electricaKWh) return pedidos;
-  pedidos.push_back({Clase::Defecto, s});
   pedidos.push_back({Clase::Electrica, s, seleccion.unidad});
+  pedidos.push_back({Clase::Defecto, s});
   return pedidos;
 }
 
@@ -383,6 +385,7 @@ RejillaMensual Componer(const PaginaMensual& pagina, const Pedido& p) {
   };
   RejillaMensual compuesta = rejilla();
   compuesta.nombre = NombreDe(p);
+  compuesta.ordenFichero = static_cast<int>(p.clase);
   return compuesta;
 }
 

@@ -48,6 +48,7 @@ struct RejillaMensual {
   std::string nombre;  ///< nombre fijo con que se pide: "final-acs", "demanda"...
   /// Títulos que la preceden en el fichero de texto, del general al propio.
   std::vector<std::string> titulosFichero;
+  int ordenFichero = 0;  ///< entre las de una vista, al escribirlas
   /// Con su rótulo por título, el nombre de la rejilla en la esquina y "ENE" a "DIC", "ANUAL" y
   /// "ANUAL/m2" por columnas; lo que se lee debajo va en las notas.
   Tabla tabla;
@@ -57,7 +58,7 @@ struct RejillaMensual {
 /// de texto. Las de iluminación, solo en terciario. \param caso ya plegado
 std::vector<RejillaMensual> RejillasMensuales(const CasoCalculado& caso);
 
-/// Las rejillas que están a la vista. \param caso ya plegado
+/// Las rejillas que están a la vista, de arriba abajo. \param caso ya plegado
 std::vector<RejillaMensual> RejillasVisibles(const CasoCalculado& caso,
                                              const SeleccionMensual& seleccion);
 

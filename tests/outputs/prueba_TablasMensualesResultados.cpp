@@ -210,11 +210,18 @@ TEST_F(PaginaMensualTest, ExportarTodasYLoVisible) {
   const auto visible = Leer(ExportarTablas(caso.Mostrar(), AlcanceExportacion::Visible));
   EXPECT_EQ(visible.size(), 13U);
   EXPECT_EQ(visible[0], Textos{"Energia final TOTAL"});
-  EXPECT_EQ(
-      RejillasVisibles(caso.Mostrar(), {VistaMensual::PorServicio, ServicioMes::ACS, kEmisiones})
-          .back()
-          .nombre,
-      "elec-emisiones-acs");
+  // En la pantalla va debajo lo de los equipos por defecto; en el fichero, antes que lo eléctrico.
+  const SeleccionMensual acs = {VistaMensual::PorServicio, ServicioMes::ACS, kEmisiones};
+  Textos nombres;
+  for (const RejillaMensual& r : RejillasVisibles(caso.Mostrar(), acs)) nombres.push_back(r.nombre);
+  EXPECT_EQ(nombres, (Textos{"emisiones-acs", "elec-emisiones-acs", "defecto-acs"}));
+  Textos enFichero;
+  for (const Textos& fila : Leer(ExportarTablas(caso.Mostrar(), AlcanceExportacion::Visible, acs)))
+    if (fila.size() == 1) enFichero.push_back(fila[0]);
+  EXPECT_EQ(enFichero,
+            (Textos{"Emisiones CO2 servicio ACS", "Energia Inst. Defecto servicio ACS",
+                    "Energia Electrica de Red",
+                    "Cálculo de las emisiones producidas por la electricidad de la red"}));
   const auto referencia =
       Leer(ExportarObjetoReferencia(caso.Mostrar(), UnidadesReferencia::Totales));
   ASSERT_EQ(referencia.size(), 19U);

@@ -1,14 +1,10 @@
 #include "shell/gui/PaginaHorarias.h"
 
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "base/ErrorFichero.h"
-#include "base/FicheroSeguro.h"
 #include "outputs/EstadisticaSerie.h"
-#include "outputs/ExportacionTablas.h"
 #include "outputs/TextoTabla.h"
 #include "shell/gui/Filas.h"
 #include "shell/gui/TextoQt.h"
@@ -320,17 +316,8 @@ void PaginaHorarias::GuardarDatos() {
     contexto_.Sesion().Avisos().Avisar(tabla.aviso.titulo, tabla.aviso.texto);
     return;
   }
-  QFileDialog dialogo(this, "Guardar datos", Q(contexto_.Ficheros().Espacio().Proyectos()),
-                      "Text files (*.txt)");
-  dialogo.setAcceptMode(QFileDialog::AcceptSave);
-  dialogo.setDefaultSuffix("txt");
-  if (dialogo.exec() != QDialog::Accepted) return;
-  try {
-    EscribirFichero(RutaExportacion(S(dialogo.selectedFiles().front())),
-                    TextoSeparado(*tabla.valor));
-  } catch (const ErrorFichero&) {
-    // Si no se puede escribir no se dice nada.
-  }
+  ExportarTextoPreguntando(this, contexto_.Ficheros().Espacio().Proyectos(),
+                           TextoSeparado(*tabla.valor));
 }
 
 }  // namespace novex::gui
