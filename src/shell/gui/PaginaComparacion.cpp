@@ -1,6 +1,5 @@
 #include "shell/gui/PaginaComparacion.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -35,29 +34,9 @@ PaginaComparacion::PaginaComparacion(ContextoGui& contexto, QWidget* padre)
   auto* visor = new QScrollArea(this);
   visor->setWidgetResizable(true);
   visor->setFrameShape(QFrame::NoFrame);
-  auto* hoja = new QWidget(visor);
-  graficos_ = new QGridLayout(hoja);
-  graficos_->setContentsMargins(0, 0, 8, 8);
-  graficos_->setSpacing(12);
-  visor->setWidget(hoja);
+  graficos_ = new RejillaGraficos(kGraficosPorFila, "letras", Qt::RichText);
+  visor->setWidget(graficos_);
   columna->addWidget(visor, 1);
-}
-
-PaginaComparacion::Vista PaginaComparacion::NuevaVista(int cual) {
-  Vista vista{};
-  vista.caja = new QWidget(this);
-  auto* columna = new QVBoxLayout(vista.caja);
-  columna->setContentsMargins(0, 0, 0, 0);
-  vista.grafico = new VistaGrafico(vista.caja);
-  columna->addWidget(vista.grafico, 1);
-  vista.letras = new QLabel(vista.caja);
-  vista.letras->setObjectName(QString("letras%1").arg(cual));
-  vista.letras->setTextFormat(Qt::RichText);
-  vista.letras->setAlignment(Qt::AlignCenter);
-  vista.letras->setWordWrap(true);
-  columna->addWidget(vista.letras);
-  graficos_->addWidget(vista.caja, cual / kGraficosPorFila, cual % kGraficosPorFila);
-  return vista;
 }
 
 void PaginaComparacion::Refrescar() {
@@ -69,17 +48,12 @@ void PaginaComparacion::Refrescar() {
 }
 
 void PaginaComparacion::Ensenar() {
-  const auto graficos = CompararCasos(CasosCalculados(contexto_.Sesion().Gestor()),
-                                      static_cast<UnidadEnergia>(resultado_->currentIndex()),
-                                      static_cast<TipoValor>(valor_->Elegida()));
-  while (vistas_.size() < graficos.size())
-    vistas_.push_back(NuevaVista(static_cast<int>(vistas_.size())));
-  for (std::size_t i = 0; i < vistas_.size(); ++i) {
-    vistas_[i].caja->setVisible(i < graficos.size());
-    if (i >= graficos.size()) continue;
-    vistas_[i].grafico->Poner(graficos[i].grafico);
-    vistas_[i].letras->setText(ConLetrasDeColor(Q(graficos[i].LineaLetras())));
-  }
+  std::vector<GraficoRotulado> graficos;
+  for (auto& g : CompararCasos(CasosCalculados(contexto_.Sesion().Gestor()),
+                               static_cast<UnidadEnergia>(resultado_->currentIndex()),
+                               static_cast<TipoValor>(valor_->Elegida())))
+    graficos.push_back({std::move(g.grafico), ConLetrasDeColor(Q(g.LineaLetras()))});
+  graficos_->Poner(graficos);
 }
 
 }  // namespace novex::gui

@@ -1,13 +1,10 @@
 #pragma once
 
 #include <QComboBox>
-#include <vector>
 
 #include "shell/gui/Pagina.h"
+#include "shell/gui/RejillaGraficos.h"
 #include "shell/gui/SelectorOpciones.h"
-#include "shell/gui/VistaGrafico.h"
-
-class QGridLayout;
 
 namespace novex::gui {
 
@@ -21,19 +18,12 @@ class PaginaComparacion : public Pagina {
   void Refrescar() override;
 
  private:
-  struct Vista {
-    QWidget* caja;
-    VistaGrafico* grafico;
-    QLabel* letras;
-  };
-  Vista NuevaVista(int cual);
   void Ensenar();
 
   QLabel* fallo_;
   QComboBox* resultado_;
   SelectorOpciones* valor_;
-  QGridLayout* graficos_;
-  std::vector<Vista> vistas_;
+  RejillaGraficos* graficos_;
 };
 
 }  // namespace novex::gui

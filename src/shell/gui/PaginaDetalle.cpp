@@ -1,6 +1,5 @@
 #include "shell/gui/PaginaDetalle.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QSplitter>
 #include <QVBoxLayout>
@@ -31,32 +30,13 @@ PaginaDetalle::PaginaDetalle(ContextoGui& contexto, QWidget* padre)
 
   auto* partes = new QSplitter(this);
   partes->setChildrenCollapsible(false);
-  auto* dibujos = new QWidget(partes);
-  graficos_ = new QGridLayout(dibujos);
-  graficos_->setContentsMargins(0, 0, 8, 0);
+  graficos_ = new RejillaGraficos(kGraficosPorFila, "rotulo", Qt::PlainText, partes);
   elementos_ = new VistaTabla(partes);
   elementos_->setObjectName("elementos");
   elementos_->setMinimumWidth(kAnchoElementos);
   elementos_->Estirar(true);
   partes->setStretchFactor(0, 1);
   columna->addWidget(partes, 1);
-}
-
-PaginaDetalle::Vista PaginaDetalle::NuevaVista(int cual) {
-  Vista vista{};
-  vista.caja = new QWidget(this);
-  auto* columna = new QVBoxLayout(vista.caja);
-  columna->setContentsMargins(0, 0, 0, 0);
-  vista.grafico = new VistaGrafico(vista.caja);
-  columna->addWidget(vista.grafico, 1);
-  vista.rotulo = new QLabel(vista.caja);
-  vista.rotulo->setObjectName(QString("rotulo%1").arg(cual));
-  vista.rotulo->setAlignment(Qt::AlignCenter);
-  vista.rotulo->setWordWrap(true);
-  vista.rotulo->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  columna->addWidget(vista.rotulo);
-  graficos_->addWidget(vista.caja, cual / kGraficosPorFila, cual % kGraficosPorFila);
-  return vista;
 }
 
 void PaginaDetalle::Ensenar(const CasoCalculado& caso) {
@@ -66,15 +46,10 @@ void PaginaDetalle::Ensenar(const CasoCalculado& caso) {
   // De los totales y de los vectores no hay reparto.
   analisis_->setEnabled(seleccion.salida != SalidaDetalle::Vectores &&
                         seleccion.servicios != ServiciosDetalle::Totales);
-  const auto graficos = novex::PaginaDetalle(caso, seleccion);
-  while (vistas_.size() < graficos.size())
-    vistas_.push_back(NuevaVista(static_cast<int>(vistas_.size())));
-  for (std::size_t i = 0; i < vistas_.size(); ++i) {
-    vistas_[i].caja->setVisible(i < graficos.size());
-    if (i >= graficos.size()) continue;
-    vistas_[i].grafico->Poner(graficos[i].grafico);
-    vistas_[i].rotulo->setText(Q(graficos[i].rotulo));
-  }
+  std::vector<GraficoRotulado> graficos;
+  for (GraficoDetalle& g : novex::PaginaDetalle(caso, seleccion))
+    graficos.push_back({std::move(g.grafico), Q(g.rotulo)});
+  graficos_->Poner(graficos);
   elementos_->Poner(TablaElementos(caso, seleccion.salida));
 }
 

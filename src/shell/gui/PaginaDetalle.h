@@ -1,15 +1,12 @@
 #pragma once
 
 #include <QComboBox>
-#include <vector>
 
 #include "outputs/DetalleResultados.h"
 #include "shell/gui/PaginaResultados.h"
+#include "shell/gui/RejillaGraficos.h"
 #include "shell/gui/SelectorOpciones.h"
-#include "shell/gui/VistaGrafico.h"
 #include "shell/gui/VistaTabla.h"
-
-class QGridLayout;
 
 namespace novex::gui {
 
@@ -25,17 +22,9 @@ class PaginaDetalle : public PaginaResultados {
   void Ensenar(const CasoCalculado& caso) override;
 
  private:
-  struct Vista {
-    QWidget* caja;
-    QLabel* rotulo;
-    VistaGrafico* grafico;
-  };
-  Vista NuevaVista(int cual);
-
   QComboBox *salida_, *analisis_;
   SelectorOpciones* servicios_;
-  QGridLayout* graficos_;
-  std::vector<Vista> vistas_;
+  RejillaGraficos* graficos_;
   VistaTabla* elementos_;
 };
 
