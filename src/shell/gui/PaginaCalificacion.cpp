@@ -1,10 +1,15 @@
 #include "shell/gui/PaginaCalificacion.h"
 
+#include <QFileDialog>
 #include <QGridLayout>
+#include <QMenu>
+#include <QToolButton>
 #include <QVBoxLayout>
 
+#include "outputs/ExportacionTablas.h"
 #include "shell/gui/Filas.h"
 #include "shell/gui/TextoQt.h"
+#include "shell/gui/VistaTabla.h"
 
 namespace novex::gui {
 namespace {
@@ -32,11 +37,6 @@ void PonerFilas(const std::vector<EtiquetaEnergetica*>& etiquetas,
   }
 }
 
-void PonerNota(QLabel* nota, const std::string& texto) {
-  nota->setText(Q(texto));
-  nota->setVisible(!texto.empty());
-}
-
 }  // namespace
 
 PaginaCalificacion::PaginaCalificacion(ContextoGui& contexto, QWidget* padre)
@@ -47,6 +47,7 @@ PaginaCalificacion::PaginaCalificacion(ContextoGui& contexto, QWidget* padre)
   connect(base_, &SelectorOpciones::Cambiada, this, [this] { Refrescar(); });
   fila->addWidget(base_);
   fila->addStretch(1);
+  fila->addWidget(menu_ = Menu());
   columna->addLayout(fila);
   sinHoja_ = new QLabel(Q(kSinCalificacion), this);
   sinHoja_->setObjectName("sinHoja");
@@ -90,24 +91,57 @@ QWidget* PaginaCalificacion::Columnas() {
   return hoja;
 }
 
+QToolButton* PaginaCalificacion::Menu() {
+  auto* menu = new QToolButton(this);
+  menu->setObjectName("menuHoja");
+  menu->setText("⋯");
+  menu->setToolTip(tr("Copiar o exportar la hoja"));
+  menu->setAutoRaise(true);
+  menu->setPopupMode(QToolButton::InstantPopup);
+  auto* ordenes = new QMenu(menu);
+  ordenes->addAction(tr("Copiar"), this, &PaginaCalificacion::Copiar);
+  ordenes->addAction(tr("Exportar…"), this, &PaginaCalificacion::Exportar);
+  ordenes->addAction(tr("Guardar imagen…"), this, &PaginaCalificacion::GuardarImagen);
+  menu->setMenu(ordenes);
+  return menu;
+}
+
+void PaginaCalificacion::Copiar() const {
+  CopiarTablas(TablasHoja(hoja_));
+}
+
+void PaginaCalificacion::Exportar() {
+  ExportarTextoPreguntando(this, contexto_.Ficheros().Espacio().Proyectos(),
+                           ExportarTablas(TablasHoja(hoja_)));
+}
+
+void PaginaCalificacion::GuardarImagen() {
+  const QString ruta = QFileDialog::getSaveFileName(this, tr("Guardar imagen"), "calificacion.png",
+                                                    tr("Imagen (*.png)"));
+  if (ruta.isEmpty()) return;
+  const QString fichero = ruta.endsWith(".png", Qt::CaseInsensitive) ? ruta : ruta + ".png";
+  if (!columnas_->grab().save(fichero, "PNG"))
+    contexto_.Sesion().Avisos().Avisar("AVISO", S(tr("No se puede escribir \"%1\"").arg(fichero)));
+}
+
 void PaginaCalificacion::EnsenarNotas(const HojaCalificacion& hoja) {
-  PonerNota(zona_, hoja.notaZona);
-  PonerNota(horas_, hoja.horas.texto);
-  PonerPapel(horas_, hoja.horas.noValida ? "aviso" : "nota");
+  zona_->setText(Q(hoja.notaZona));
+  zona_->setVisible(!hoja.notaZona.empty());
+  PonerHorasFuera(horas_, hoja.horas);
 }
 
 void PaginaCalificacion::Ensenar(const CasoCalculado& caso) {
-  const auto hoja = HojaDeCalificacion(caso, static_cast<BaseCalificacion>(base_->Elegida()));
-  sinHoja_->setVisible(!hoja.rellena);
-  base_->setVisible(hoja.rellena);
-  columnas_->setVisible(hoja.rellena);
-  EnsenarNotas(hoja);
-  if (!hoja.rellena) return;
-  tituloDemanda_->setText(Q(hoja.tituloDemanda));
-  tituloServicios_->setText(Q(hoja.tituloServicios));
-  PonerFilas(demanda_, hoja.demanda);
-  PonerFilas(servicios_, hoja.servicios);
-  PonerFila(*total_, hoja.total);
+  hoja_ = HojaDeCalificacion(caso, static_cast<BaseCalificacion>(base_->Elegida()));
+  sinHoja_->setVisible(!hoja_.rellena);
+  for (QWidget* parte : std::initializer_list<QWidget*>{base_, menu_, columnas_})
+    parte->setVisible(hoja_.rellena);
+  EnsenarNotas(hoja_);
+  if (!hoja_.rellena) return;
+  tituloDemanda_->setText(Q(hoja_.tituloDemanda));
+  tituloServicios_->setText(Q(hoja_.tituloServicios));
+  PonerFilas(demanda_, hoja_.demanda);
+  PonerFilas(servicios_, hoja_.servicios);
+  PonerFila(*total_, hoja_.total);
 }
 
 }  // namespace novex::gui

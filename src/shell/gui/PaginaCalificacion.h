@@ -8,6 +8,7 @@
 #include "shell/gui/SelectorOpciones.h"
 
 class QGridLayout;
+class QToolButton;
 
 namespace novex::gui {
 
@@ -25,9 +26,15 @@ class PaginaCalificacion : public PaginaResultados {
  private:
   QWidget* Columnas();
   void EnsenarNotas(const HojaCalificacion& hoja);
+  QToolButton* Menu();
+  void Copiar() const;
+  void Exportar();
+  void GuardarImagen();
 
   SelectorOpciones* base_;
+  QToolButton* menu_;
   QWidget* columnas_;
+  HojaCalificacion hoja_;
   QLabel *sinHoja_, *tituloDemanda_, *tituloServicios_, *zona_, *horas_;
   std::vector<EtiquetaEnergetica*> demanda_, servicios_;
   EtiquetaEnergetica* total_;

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "outputs/ExportacionTablas.h"
+#include "shell/gui/Filas.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -26,6 +27,9 @@ PaginaReferencia::PaginaReferencia(ContextoGui& contexto, QWidget* padre)
   tabla_ = new VistaTabla(this);
   tabla_->Estirar(true);
   columna->addWidget(tabla_, 1);
+  horas_ = NuevaNota(this);
+  horas_->setObjectName("horasFueraReferencia");
+  columna->addWidget(horas_);
 }
 
 UnidadesReferencia PaginaReferencia::Unidades() const {
@@ -39,11 +43,16 @@ void PaginaReferencia::Exportar() {
 }
 
 void PaginaReferencia::Ensenar(const CasoCalculado& caso) {
-  tabla_->Poner(TablaObjetoReferencia(caso, Unidades())
+  Tabla tabla = TablaObjetoReferencia(caso, Unidades())
                     .value_or(Tabla{.titulo = std::string(kSinObjetoReferencia),
                                     .cabeceras = {},
                                     .filas = {},
-                                    .notas = {}}));
+                                    .notas = {}});
+  // La última de sus notas puede ir marcada.
+  const HorasFueraConsigna horas = TextoHorasFuera(caso);
+  std::erase(tabla.notas, horas.texto);
+  tabla_->Poner(tabla);
+  PonerHorasFuera(horas_, horas);
 }
 
 }  // namespace novex::gui

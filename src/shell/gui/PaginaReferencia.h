@@ -23,6 +23,7 @@ class PaginaReferencia : public PaginaResultados {
 
   SelectorOpciones* unidades_;
   VistaTabla* tabla_;
+  QLabel* horas_;
 };
 
 }  // namespace novex::gui

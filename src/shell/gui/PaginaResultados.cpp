@@ -1,5 +1,8 @@
 #include "shell/gui/PaginaResultados.h"
 
+#include "shell/gui/Filas.h"
+#include "shell/gui/TextoQt.h"
+
 namespace novex::gui {
 
 void PaginaResultados::Refrescar() {
@@ -16,6 +19,12 @@ std::optional<CasoCalculado> PaginaResultados::Calculado() const {
 
 std::vector<CasoCalculado> PaginaResultados::Casos() const {
   return CasosCalculados(contexto_.Sesion().Gestor());
+}
+
+void PonerHorasFuera(QLabel* nota, const HorasFueraConsigna& horas) {
+  nota->setText(Q(horas.texto));
+  nota->setVisible(!horas.texto.empty());
+  PonerPapel(nota, horas.noValida ? "aviso" : "nota");
 }
 
 }  // namespace novex::gui

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QLabel>
 #include <vector>
 
 #include "outputs/CasoCalculado.h"
+#include "outputs/ReglasResultados.h"
 #include "shell/gui/Pagina.h"
 
 namespace novex::gui {
@@ -24,5 +26,9 @@ class PaginaResultados : public Pagina {
   /// Los casos calculados del proyecto, con los mismos reparos.
   std::vector<CasoCalculado> Casos() const;
 };
+
+/// Pone en una nota las horas fuera de consigna, marcadas si la certificación no es válida; sin
+/// ellas, la esconde.
+void PonerHorasFuera(QLabel* nota, const HorasFueraConsigna& horas);
 
 }  // namespace novex::gui

@@ -215,6 +215,20 @@ bool VistaTabla::eventFilter(QObject* objeto, QEvent* evento) {
   return QWidget::eventFilter(objeto, evento);
 }
 
+void CopiarTablas(const std::vector<Tabla>& tablas) {
+  CasillasHoja casillas;
+  for (const Tabla& tabla : tablas) {
+    casillas.push_back({tabla.titulo});
+    if (!tabla.cabeceras.empty()) casillas.push_back(tabla.cabeceras);
+    for (const auto& fila : tabla.filas) {
+      auto& textos = casillas.emplace_back();
+      for (const Celda& celda : fila) textos.push_back(celda.texto);
+    }
+    for (const std::string& nota : tabla.notas) casillas.push_back({nota});
+  }
+  QApplication::clipboard()->setText(Q(TextoDeCasillas(casillas)));
+}
+
 void GuardarTextoPreguntando(QWidget* padre, const QString& nombre, const QString& filtro,
                              const std::string& texto) {
   QString propuesta = nombre;
@@ -228,8 +242,13 @@ void GuardarTextoPreguntando(QWidget* padre, const QString& nombre, const QStrin
 void ExportarTextoPreguntando(QWidget* padre, const std::filesystem::path& carpeta,
                               const std::string& texto) {
   const QString ruta = QFileDialog::getSaveFileName(padre, QObject::tr("Guardar datos"), Q(carpeta),
-                                                    "Text files (*.txt *.TXT)");
-  if (!ruta.isEmpty()) Guardar(padre, RutaExportacion(S(ruta)), texto);
+                                                    "Text files (*.txt)");
+  if (ruta.isEmpty()) return;
+  try {
+    EscribirFichero(RutaExportacion(S(ruta)), texto);
+  } catch (const ErrorFichero&) {
+    // De estas exportaciones, si no se pueden escribir, no se dice nada.
+  }
 }
 
 }  // namespace novex::gui

@@ -5,6 +5,7 @@
 #include <QToolButton>
 #include <QWidget>
 #include <filesystem>
+#include <vector>
 
 #include "base/Tabla.h"
 
@@ -43,12 +44,14 @@ class VistaTabla : public QWidget {
   bool estirada_ = false;
 };
 
+/// Deja unas tablas en el portapapeles, una bajo otra, con sus títulos y sus notas.
+void CopiarTablas(const std::vector<Tabla>& tablas);
 /// Escribe un texto donde diga el usuario, con su aviso si no se puede.
 /// \param filtro de `QFileDialog`, "Texto (*.txt)"
 void GuardarTextoPreguntando(QWidget* padre, const QString& nombre, const QString& filtro,
                              const std::string& texto);
 /// Escribe una exportación de resultados, en ".txt", donde diga el usuario; al principio se le
-/// ofrece la carpeta de los proyectos.
+/// ofrece la carpeta de los proyectos. Si no se puede escribir no se dice nada.
 void ExportarTextoPreguntando(QWidget* padre, const std::filesystem::path& carpeta,
                               const std::string& texto);
 
