@@ -1,3 +1,8 @@
+#include <QAction>
+#include <QClipboard>
+#include <QMenu>
+#include <QToolButton>
+
 #include "gui/ResultadosPrueba.h"
 #include "outputs/HojaCalificacion.h"
 #include "shell/gui/EtiquetaEnergetica.h"
@@ -57,6 +62,32 @@ TEST_F(PaginaCalificacionTest, LaHojaEsLaDelCaso) {
   }
 }
 
+TEST_F(PaginaCalificacionTest, LaHojaSeCopiaYSeExporta) {
+  Entrar("adosada_C1.xml", "Calificación");  // con nota de la zona
+  auto* menu = Buscar<QToolButton>("menuHoja");
+  ASSERT_TRUE(menu->isVisible());
+  const auto orden = [&](const char* texto) {
+    for (QAction* o : menu->menu()->actions())
+      if (o->text() == texto) return o;
+    return static_cast<QAction*>(nullptr);
+  };
+  orden("Copiar")->trigger();
+  const QStringList copiado = QApplication::clipboard()->text().split('\n');
+  EXPECT_EQ(copiado[0], "Demanda sensible (kWh/m2 año)");
+  ASSERT_GE(copiado.size(), 4);
+  EXPECT_EQ(copiado[2].split('\t').first(), "Calefacción");
+  EXPECT_EQ(copiado[2].split('\t')[1], Q(HojaDeCalificacion(Caso(), {}).demanda[0].TextoValor()));
+  EXPECT_TRUE(copiado.join(' ').contains("No se contabiliza refrigeración por estar en zona C1"));
+  ConDialogo<QFileDialog>([&] { orden("Exportar…")->trigger(); },
+                          [&](QFileDialog& d) {
+                            d.findChild<QLineEdit*>("fileNameEdit")->setText(Q(carpeta / "hoja"));
+                            static_cast<QDialog&>(d).accept();
+                          });
+  const QString escrito = Q(LeerFichero(carpeta / "hoja.txt"));
+  EXPECT_TRUE(escrito.startsWith("Demanda sensible (kWh/m2 año);\nServicio;Valor;Letra;Escala;"));
+  EXPECT_TRUE(escrito.contains("\nEmisiones Totales CO2 (kg/m2 año);"));
+}
+
 // La flecha va en el color de su letra y a la altura de su banda, y las que no hay quedan en
 // blanco.
 TEST_F(PaginaCalificacionTest, LaLetraSePintaALaAlturaDeSuBanda) {
@@ -99,6 +130,25 @@ TEST_F(PaginaCalificacionTest, LasHorasFueraDeConsignaSeMarcanPorEncimaDelCuatro
   sesion.GestorParaCalcular().Activo().GetCalculo()->resultados.horasOcupacion = 0;
   ventana->Mostrar(Destino::Certificacion);
   EXPECT_FALSE(horas->isVisible());
+}
+
+TEST_F(PaginaCalificacionTest, SinPoderCalcularNoSeEnsenanResultadosDeOtro) {
+  Entrar("adosada_C1.xml", "Calificación");
+  ASSERT_FALSE(EtiquetasVistas().empty());
+  // Pasa las comprobaciones y no hay año de clima de esa zona.
+  const auto zona = [&](const char* cual) {
+    ventana->Contexto().Editar("zona", [cual](Edificio& e) {
+      Localizacion l = e.GetLocalizacion();
+      l.ZonaClimatica = cual;
+      e.SetLocalizacion(l);
+    });
+  };
+  zona("Z9");
+  EXPECT_TRUE(EtiquetasVistas().empty());
+  EXPECT_TRUE(Buscar<QLabel>("falloResultados")->isVisible());
+  zona("D3");
+  EXPECT_FALSE(EtiquetasVistas().empty());
+  EXPECT_FALSE(Buscar<QLabel>("falloResultados")->isVisible());
 }
 
 TEST_F(PaginaCalificacionTest, UnaSimulacionLibreAbreEnLosMesesYNoSeCalifica) {

@@ -29,8 +29,7 @@ class PaginaHorariasTest : public VentanaTest {
  protected:
   void Entrar(const char* ejemplo) {
     ASSERT_TRUE(ventana->Abrir(Ejemplo(ejemplo)));
-    ventana->Mostrar(Destino::Certificacion);
-    Pagina()->AbrirEnHorarias();
+    ventana->Mostrar(Destino::Certificacion, kSubdestinoTemp);
     arbol = Pagina()->findChild<ArbolSeries*>();
     ASSERT_NE(arbol, nullptr);
   }
@@ -303,8 +302,10 @@ TEST_F(PaginaHorariasTest, LaPeticionDeHorariasVaPorDelanteDeLaDeUnaSimulacion) 
     libre.Tiposimulacion = "Simulacion";
     e.SetDatosGenerales(libre);
   });
-  Pagina()->AbrirEnHorarias();
-  ventana->Mostrar(Destino::Certificacion);
+  EsperarVivo();
+  // Del panel de la calificación se va a ellas.
+  emit ventana->findChild<QLabel*>("irASeries")->linkActivated("#");
+  EXPECT_EQ(ventana->Mostrada(), Destino::Certificacion);
   auto* pestanas = Pagina()->findChild<QTabWidget*>();
   EXPECT_EQ(pestanas->tabText(pestanas->currentIndex()), "Horarias");
 }

@@ -149,5 +149,37 @@ TEST_F(TImpresorTest, ElFicheroDeLaAdministracionCompruebaYDiceDondeQueda) {
   EXPECT_EQ(escrito, Q(informe));
 }
 
+TEST_F(TImpresorTest, ElFicheroDeLaAdministracionGuardaElProyecto) {
+  const fs::path proyecto = Copiar("vivienda_unifamiliar_D3.xml");
+  ventana->Contexto().Editar("título", [](Edificio& e) {
+    DatosGenerales g = e.GetDatosGenerales();
+    g.Edificio_Titulo = "Casa cambiada";
+    e.SetDatosGenerales(g);
+  });
+  ASSERT_TRUE(ventana->windowTitle().endsWith("*"));
+  ventana->Mostrar(Destino::Certificacion, "Visitas/Observaciones/Intervenciones");
+  // La orden de los resultados lo hace sin más.
+  auto* boton = Buscar<QPushButton>("BitBtn6");
+  ASSERT_TRUE(boton != nullptr && boton->isVisible());
+  EXPECT_EQ(boton->text(), "Genera el fichero para la administración");
+  bool escrito = false;
+  QTimer esperar;
+  QObject::connect(&esperar, &QTimer::timeout, &esperar, [&] {
+    auto* d = qobject_cast<TImpresor*>(QApplication::activeModalWidget());
+    if (d == nullptr || d->Ocupado()) return;
+    esperar.stop();
+    escrito = Texto(*d, "estado") == "Fichero escrito";
+    d->reject();
+  });
+  esperar.start(50);
+  boton->click();
+  EXPECT_TRUE(escrito);
+  EXPECT_FALSE(sesion.Modificado());
+  EXPECT_FALSE(ventana->windowTitle().endsWith("*"));
+  EXPECT_EQ(sesion.Fichero(), fs::absolute(proyecto));
+  EXPECT_NE(LeerFichero(proyecto).find("Casa cambiada"), std::string::npos);
+  EXPECT_FALSE(fs::exists(Recuperacion(carpeta / "copias").Fichero()));
+}
+
 }  // namespace
 }  // namespace novex::gui::pruebas

@@ -1,9 +1,11 @@
 #include "gui/VentanaPrueba.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QMessageBox>
 #include <QTabWidget>
+#include <QTextBrowser>
 #include <QTimer>
 #include <functional>
 
@@ -38,6 +40,57 @@ TEST_F(VentanaTest, LoQueImpideCalcularNoDejaPasar) {
   EXPECT_EQ(mensajes.recibidos[0].titulo, "Valor incorrecto");
   EsperarVivo();
   EXPECT_EQ(ventana->Panel().Calculo().EnQue(), CalculoVivo::Estado::Rechazado);
+}
+
+TEST_F(VentanaTest, DeshacerHastaDondeNoSePuedeCalcularSacaDeLosResultados) {
+  ASSERT_TRUE(ventana->Abrir(Ejemplo("vivienda_unifamiliar_D3.xml")));
+  const auto volumen = [&](float v) {
+    ventana->Contexto().Editar("v", [v](Edificio& e) { e.GetRecinto(0).Volumen_total_m3 = v; });
+  };
+  ventana->Mostrar(Destino::Global);
+  const float bueno = sesion.Caso().GetRecinto(0).Volumen_total_m3;
+  volumen(1);
+  volumen(bueno);
+  ventana->Mostrar(Destino::Certificacion);
+  Ordenar("Deshacer");
+  EXPECT_EQ(ventana->Mostrada(), Destino::Titulo);
+}
+
+// El selector de casos y la comparación están cuando hay con qué; duplicar, mientras caben.
+TEST_F(VentanaTest, LasOrdenesDeCasosSiguenASuNumero) {
+  ASSERT_TRUE(ventana->Abrir(Ejemplo("vivienda_unifamiliar_D3.xml")));
+  auto* selector = ventana->findChild<QComboBox*>("RGEdificio");
+  auto* pestanas = ventana->findChild<QTabBar*>("pestanas");
+  auto* duplicar = ventana->findChild<QAction*>("SBDuplicar");
+  const auto comparacion = [&] {
+    return pestanas->isTabVisible(static_cast<int>(Destino::Comparacion));
+  };
+  for (int casos = 1; casos <= 6; ++casos) {
+    SCOPED_TRACE(casos);
+    EXPECT_EQ(selector->isVisible(), casos > 1);
+    EXPECT_EQ(comparacion(), casos > 1);
+    EXPECT_EQ(selector->count(), casos);
+    EXPECT_EQ(duplicar->isVisible(), casos < 6);
+    if (casos < 6) duplicar->trigger();
+  }
+  ventana->Mostrar(Destino::Comparacion);
+  while (sesion.Gestor().NumeroCasos() > 1) ventana->findChild<QAction*>("SBBorrar")->trigger();
+  EXPECT_FALSE(selector->isVisible());
+  EXPECT_FALSE(comparacion());
+  EXPECT_NE(ventana->Mostrada(), Destino::Comparacion);
+  EXPECT_TRUE(mensajes.recibidos.empty());
+}
+
+TEST_F(VentanaTest, AcercaDiceQueEsElPrograma) {
+  ConDialogo<QDialog>([&] { Ordenar("Acerca de"); },
+                      [](QDialog& d) {
+                        const QString texto =
+                            d.findChild<QTextBrowser*>("textoAcerca")->toPlainText();
+                        for (const char* titulo : {"\t- Campo de aplicación de Novex 6.1",
+                                                   "\t- Principios básicos de Novex "})
+                          EXPECT_TRUE(texto.contains(titulo)) << titulo;
+                      });
+  EXPECT_FALSE(sesion.Modificado());
 }
 
 // Cada motivo por el que no se calcula devuelve a "Titulo" y su enlace lleva a donde se corrige.

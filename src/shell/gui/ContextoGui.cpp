@@ -4,10 +4,18 @@
 #include <exception>
 
 #include "calculation/EjecutarCalculo.h"
+#include "outputs/CasoCalculado.h"
 #include "shell/gui/ProgresoVentana.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
+namespace {
+
+bool TodosCalculados(const GestorEdifActivo& gestor) {
+  return CasosCalculados(gestor).size() == gestor.NumeroCasos();
+}
+
+}  // namespace
 
 bool ContextoGui::Editar(const QString& nombre, const SesionProyecto::CambioCaso& cambio,
                          bool recalcula) {
@@ -24,8 +32,14 @@ bool ContextoGui::EditarProyecto(const QString& nombre,
   return cambiado;
 }
 
+void ContextoGui::DarPorGuardado(const std::filesystem::path& fichero) {
+  sesion_.DarPorGuardado(fichero);
+  emit Guardado();
+}
+
 bool ContextoGui::Calcular() {
   fallo_.clear();
+  if (TodosCalculados(sesion_.Gestor())) return true;
   ProgresoVentana progreso;
   Entorno entorno{Ficheros(), sesion_.Avisos(), progreso};
   const QScopedValueRollback calculando(calculando_, true);

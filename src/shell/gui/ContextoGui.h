@@ -22,6 +22,9 @@ enum class Destino {
   Definicion
 };
 
+/// El subdestino de la pestaña de resultados que la abre en las series horarias.
+inline constexpr const char* kSubdestinoTemp = "Temp";
+
 /// Lo que comparten las páginas: la sesión y el aviso de que algo ha cambiado. Una página edita por
 /// aquí y se refresca cuando se le dice; no conoce a las demás.
 class ContextoGui : public QObject {
@@ -49,6 +52,13 @@ class ContextoGui : public QObject {
   /// ¿Está la ventana en medio de un cálculo, atendiendo solo a su panel? Los trabajos de los ratos
   /// libres esperan.
   bool Calculando() const { return calculando_; }
+  /// Da el proyecto por guardado en ese fichero por una orden que no es la de guardar.
+  void DarPorGuardado(const std::filesystem::path& fichero);
+  /// Lleva a una pestaña de la ventana. \param subdestino la página de ella que se abre; vacío, la
+  /// que tenga
+  void IrA(Destino destino, const QString& subdestino = {}) {
+    emit IrADestino(destino, subdestino);
+  }
   /// Lleva a donde se corrige lo que impide un cálculo.
   void IrA(const MensajePrevio& motivo) { emit Ir(motivo); }
   /// Lleva a una página y, en ella, a un campo.
@@ -61,6 +71,12 @@ class ContextoGui : public QObject {
   void Editado();
   /// El proyecto, sus casos o el caso activo son otros.
   void ProyectoCambiado();
+  /// El proyecto está guardado, en el fichero de la sesión.
+  void Guardado();
+  /// Se pide el fichero para la administración.
+  void PideAdministracion();
+  /// Hay que enseñar una pestaña y una página de ella.
+  void IrADestino(novex::gui::Destino destino, const QString& subdestino);
   /// Hay que enseñar dónde se corrige algo.
   void Ir(const novex::MensajePrevio& motivo);
 

@@ -17,6 +17,8 @@ class Pagina : public QWidget {
 
   /// Pone en la página lo que tiene el caso activo. Se llama al entrar y tras cada cambio.
   virtual void Refrescar() { enlaces_.Refrescar(); }
+  /// Enseña una de sus páginas, si la tiene. \param subdestino su nombre en la navegación
+  virtual void AbrirEn(const QString& subdestino) { static_cast<void>(subdestino); }
   /// Deja a la vista lo que hay que corregir y, si es un campo, con el foco.
   virtual void Senalar(const MensajePrevio& motivo);
   /// Los enlaces de la página y de las que lleva dentro, para recorrerlos.

@@ -43,7 +43,8 @@ void PaginaPestanas::Senalar(const MensajePrevio& motivo) {
 
 void PaginaPestanas::Mostrar(const QString& titulo) {
   for (int i = 0; i < pestanas_->count(); ++i)
-    if (pestanas_->tabText(i) == titulo) pestanas_->setCurrentIndex(i);
+    if (pestanas_->tabText(i) == titulo && pestanas_->isTabVisible(i))
+      pestanas_->setCurrentIndex(i);
 }
 
 void PaginaPestanas::Esconder(const QString& titulo, bool si) {

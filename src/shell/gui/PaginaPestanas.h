@@ -17,6 +17,7 @@ class PaginaPestanas : public Pagina {
   void Refrescar() override;
   /// Enseña la pestaña que tiene el campo.
   void Senalar(const MensajePrevio& motivo) override;
+  void AbrirEn(const QString& subdestino) override { Mostrar(subdestino); }
   /// Enseña la de ese título, si está.
   void Mostrar(const QString& titulo);
   /// Esconde o enseña la de ese título.
@@ -24,6 +25,10 @@ class PaginaPestanas : public Pagina {
   /// Pone a la de ese título un icono y lo que quiere decir.
   void Marcar(const QString& titulo, const QIcon& icono, const QString& ayuda);
   const std::vector<Pagina*>& Paginas() const { return paginas_; }
+
+ protected:
+  /// Quita de la vista las pestañas, todas, o las devuelve.
+  void Tapar(bool si) { pestanas_->setVisible(!si); }
 
  private:
   QTabWidget* pestanas_;

@@ -1,5 +1,6 @@
 #include "shell/gui/PaginaVisitas.h"
 
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "shell/gui/Filas.h"
@@ -15,6 +16,11 @@ PaginaVisitas::PaginaVisitas(ContextoGui& contexto, QWidget* padre)
   columnas->AnadirDerecha(cajas_.Observaciones());
   columnas->AnadirDerecha(cajas_.Intervenciones());
   columna->addWidget(columnas);
+  auto* administracion = new QPushButton(tr("Genera el fichero para la administración"), this);
+  administracion->setObjectName("BitBtn6");
+  administracion->setToolTip(tr("Guarda el proyecto y escribe a su lado el informe del registro"));
+  connect(administracion, &QPushButton::clicked, &contexto_, &ContextoGui::PideAdministracion);
+  columna->addWidget(administracion, 0, Qt::AlignLeft);
   columna->addStretch(1);
 }
 

@@ -73,6 +73,12 @@ PanelVivo::PanelVivo(ContextoGui& contexto, QWidget* padre)
   cifra(tr("Refrigeración"), refrigeracion_, tr("Demanda, kWh/m² año"));
   cifra(tr("ACS"), agua_, tr("Demanda, kWh/m² año"));
   cifra(tr("Fuera de consigna"), fuera_, tr("% de las horas de ocupación"));
+  series_ = new QLabel(tr("<a href=\"#\">Series horarias →</a>"), cuerpo_);
+  series_->setObjectName("irASeries");
+  series_->setToolTip(tr("La temperatura y la demanda, hora a hora"));
+  connect(series_, &QLabel::linkActivated, this,
+          [this] { contexto_.IrA(Destino::Certificacion, kSubdestinoTemp); });
+  rejilla->addWidget(series_, fila, 0, 1, 2);
   columna->addWidget(cuerpo_);
   cambio_ = new QLabel(this);
   cambio_->setWordWrap(true);

@@ -43,7 +43,7 @@ class PanelVivo : public QWidget {
   QCheckBox* activo_;
   QWidget* cuerpo_;
   QLabel *letraPrimaria_, *letraEmisiones_, *primaria_, *emisiones_;
-  QLabel *calefaccion_, *refrigeracion_, *agua_, *fuera_, *cambio_, *motivo_, *estado_;
+  QLabel *calefaccion_, *refrigeracion_, *agua_, *fuera_, *series_, *cambio_, *motivo_, *estado_;
 };
 
 }  // namespace novex::gui

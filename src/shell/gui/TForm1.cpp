@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDockWidget>
 #include <QStatusBar>
-#include <QToolBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -19,7 +18,6 @@
 #include "shell/gui/TDefEdificio.h"
 #include "shell/gui/TFDefinicion.h"
 #include "shell/gui/THE1.h"
-#include "shell/gui/TImpresor.h"
 #include "shell/gui/TResultadosT.h"
 #include "shell/gui/TTEquipos.h"
 #include "shell/gui/TextoQt.h"
@@ -50,7 +48,10 @@ TForm1::TForm1(SesionProyecto& sesion, MensajesVentana& mensajes,
   CrearPaginas();
   connect(&contexto_, &ContextoGui::Editado, this, &TForm1::AlEditar);
   connect(&contexto_, &ContextoGui::ProyectoCambiado, this, &TForm1::AlCambiarProyecto);
+  connect(&contexto_, &ContextoGui::Guardado, this, &TForm1::AlGuardar);
+  connect(&contexto_, &ContextoGui::PideAdministracion, this, [this] { Imprimir(true); });
   connect(&contexto_, &ContextoGui::Ir, this, &TForm1::IrA);
+  connect(&contexto_, &ContextoGui::IrADestino, this, &TForm1::Mostrar);
   copia_.setSingleShot(true);
   copia_.setInterval(kCopiaMs);
   connect(&copia_, &QTimer::timeout, this, &TForm1::GuardarCopia);
@@ -58,9 +59,10 @@ TForm1::TForm1(SesionProyecto& sesion, MensajesVentana& mensajes,
   AlCambiarProyecto();
 }
 
-QAction* TForm1::Orden(QToolBar* barra, const char* icono, const QString& texto,
+QAction* TForm1::Orden(const char* control, const char* icono, const QString& texto,
                        const QString& ayuda, const QKeySequence& tecla, void (TForm1::*hacer)()) {
-  QAction* orden = barra->addAction(QIcon(QString(":/iconos/%1.svg").arg(icono)), texto);
+  QAction* orden = barra_->addAction(QIcon(QString(":/iconos/%1.svg").arg(icono)), texto);
+  orden->setObjectName(control);
   orden->setShortcut(tecla);
   const QString con =
       tecla.isEmpty() ? QString() : " (" + tecla.toString(QKeySequence::NativeText) + ")";
@@ -70,45 +72,41 @@ QAction* TForm1::Orden(QToolBar* barra, const char* icono, const QString& texto,
 }
 
 void TForm1::CrearOrdenes() {
-  auto* barra = addToolBar(tr("Órdenes"));
-  barra->setObjectName("ordenes");
-  barra->setMovable(false);
-  barra->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  barra->installEventFilter(this);
-  Orden(barra, "nuevo", tr("Nuevo"), tr("Proyecto nuevo, en el mismo sitio"), QKeySequence::New,
+  barra_ = addToolBar(tr("Órdenes"));
+  barra_->setObjectName("ToolBarPrincipal");
+  barra_->setMovable(false);
+  barra_->toggleViewAction()->setVisible(false);
+  barra_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  barra_->installEventFilter(this);
+  Orden("SBNuevo", "nuevo", tr("Nuevo"), tr("Proyecto nuevo, en el mismo sitio"), QKeySequence::New,
         &TForm1::Nuevo);
-  Orden(barra, "abrir", tr("Abrir"), tr("Abre un proyecto"), QKeySequence::Open,
+  Orden("SBAbrir", "abrir", tr("Abrir"), tr("Abre un proyecto"), QKeySequence::Open,
         &TForm1::AbrirConDialogo);
-  Orden(barra, "guardar", tr("Guardar"), tr("Guarda el proyecto"), QKeySequence::Save,
+  Orden("SBGuardar", "guardar", tr("Guardar"), tr("Guarda el proyecto"), QKeySequence::Save,
         &TForm1::Guardar);
-  Orden(barra, "guardarcomo", tr("Guardar como"), tr("Guarda con otro nombre"),
+  Orden("guardarComo", "guardarcomo", tr("Guardar como"), tr("Guarda con otro nombre"),
         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), &TForm1::GuardarComo);
-  QAction* imprimir = barra->addAction(QIcon(":/iconos/imprimir.svg"), tr("Imprimir"));
-  imprimir->setObjectName("SBImpresor");
-  imprimir->setShortcut(QKeySequence::Print);
-  imprimir->setToolTip(tr("Escribe el certificado o la verificación en PDF (Ctrl+P)"));
-  connect(imprimir, &QAction::triggered, this, [this] {
-    if (QWidget* foco = QApplication::focusWidget()) foco->clearFocus();
-    gui::Imprimir(
-        contexto_, mostrada_ == Destino::HE, [this] { Guardar(); }, this);
-  });
-  Orden(barra, "anadir", tr("Añadir"), tr("Añade los casos de otro fichero"), {}, &TForm1::Anadir);
-  barra->addSeparator();
-  duplicar_ = Orden(barra, "duplicar", tr("Duplicar"), tr("Una mejora igual al caso activo"),
+  Orden("SBImpresor", "imprimir", tr("Imprimir"),
+        tr("Escribe el certificado o la verificación en PDF"), QKeySequence::Print,
+        &TForm1::ImprimirPagina);
+  Orden("SpeedButton4", "anadir", tr("Añadir"), tr("Añade los casos de otro fichero"), {},
+        &TForm1::Anadir);
+  barra_->addSeparator();
+  duplicar_ = Orden("SBDuplicar", "duplicar", tr("Duplicar"), tr("Una mejora igual al caso activo"),
                     QKeySequence(Qt::CTRL | Qt::Key_D), &TForm1::Duplicar);
-  Orden(barra, "borrar", tr("Borrar"), tr("Borra el caso activo"), {}, &TForm1::Borrar);
-  barra->addSeparator();
-  deshacer_ = Orden(barra, "deshacer", tr("Deshacer"), tr("Deshace lo último"), QKeySequence::Undo,
-                    &TForm1::Deshacer);
-  rehacer_ = Orden(barra, "rehacer", tr("Rehacer"), tr("Vuelve a hacer lo deshecho"),
+  Orden("SBBorrar", "borrar", tr("Borrar"), tr("Borra el caso activo"), {}, &TForm1::Borrar);
+  barra_->addSeparator();
+  deshacer_ = Orden("deshacer", "deshacer", tr("Deshacer"), tr("Deshace lo último"),
+                    QKeySequence::Undo, &TForm1::Deshacer);
+  rehacer_ = Orden("rehacer", "rehacer", tr("Rehacer"), tr("Vuelve a hacer lo deshecho"),
                    QKeySequence::Redo, &TForm1::Rehacer);
-  barra->addSeparator();
-  Orden(barra, "inspeccion", tr("Inspección"),
+  barra_->addSeparator();
+  Orden("SBABrirICE", "inspeccion", tr("Inspección"),
         tr("Abre el programa del fichero de inspección de la comunidad"), {},
         &TForm1::AbrirInspeccion);
-  Orden(barra, "ayuda", tr("Ayuda"), tr("El manual de la página que se ve"),
+  Orden("ayuda", "ayuda", tr("Ayuda"), tr("El manual de la página que se ve"),
         QKeySequence::HelpContents, &TForm1::Ayuda);
-  Orden(barra, "acerca", tr("Acerca de"), tr("Qué es este programa"), {}, &TForm1::Acerca);
+  Orden("SBAcerca", "acerca", tr("Acerca de"), tr("Qué es este programa"), {}, &TForm1::Acerca);
 }
 
 void TForm1::CrearPaginas() {
@@ -118,15 +116,21 @@ void TForm1::CrearPaginas() {
   columna->setSpacing(0);
   auto* fila = new QHBoxLayout;
   pestanas_ = new QTabBar(centro);
+  pestanas_->setObjectName("pestanas");
   pestanas_->setDrawBase(false);
   pestanas_->setExpanding(false);
   for (const char* nombre : kPestanas) pestanas_->addTab(nombre);
   fila->addWidget(pestanas_);
   fila->addStretch(1);
-  fila->addWidget(new QLabel(tr("Caso"), centro));
-  casos_ = new QComboBox(centro);
+  selector_ = new QWidget(centro);
+  auto* selector = new QHBoxLayout(selector_);
+  selector->setContentsMargins(0, 0, 0, 0);
+  selector->addWidget(new QLabel(tr("Caso"), selector_));
+  casos_ = new QComboBox(selector_);
+  casos_->setObjectName("RGEdificio");
   casos_->setMinimumWidth(casos_->fontMetrics().horizontalAdvance("Mejora 5") + 48);
-  fila->addWidget(casos_);
+  selector->addWidget(casos_);
+  fila->addWidget(selector_);
   columna->addLayout(fila);
   pila_ = new QStackedWidget(centro);
   columna->addWidget(pila_, 1);
@@ -150,18 +154,7 @@ void TForm1::CrearPaginas() {
   connect(titulo_, &PaginaTitulo::PideExpres, this,
           [this] { DialogoExpres(contexto_, this).exec(); });
 
-  panel_ = new PanelVivo(contexto_);
-  connect(panel_, &PanelVivo::Calculado, this, &TForm1::PonerEstado);
-  auto* muelle = new QDockWidget(tr("Calificación"), this);
-  muelle->setObjectName("calificacion");
-  muelle->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
-  muelle->setWidget(panel_);
-  addDockWidget(Qt::RightDockWidgetArea, muelle);
-  auto* plegar = new QToolButton(centro);
-  plegar->setDefaultAction(muelle->toggleViewAction());
-  plegar->setToolTip(tr("Enseña o esconde la calificación en vivo (F9)"));
-  muelle->toggleViewAction()->setShortcut(Qt::Key_F9);
-  fila->addWidget(plegar);
+  CrearPanelVivo(fila);
   resumen_ = new QLabel(this);
   falta_ = new QLabel(this);
   falta_->setTextFormat(Qt::RichText);
@@ -172,6 +165,21 @@ void TForm1::CrearPaginas() {
   });
   statusBar()->addWidget(resumen_, 1);
   statusBar()->addPermanentWidget(falta_);
+}
+
+void TForm1::CrearPanelVivo(QHBoxLayout* fila) {
+  panel_ = new PanelVivo(contexto_);
+  connect(panel_, &PanelVivo::Calculado, this, &TForm1::PonerEstado);
+  auto* muelle = new QDockWidget(tr("Calificación"), this);
+  muelle->setObjectName("calificacion");
+  muelle->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetClosable);
+  muelle->setWidget(panel_);
+  addDockWidget(Qt::RightDockWidgetArea, muelle);
+  auto* plegar = new QToolButton(this);
+  plegar->setDefaultAction(muelle->toggleViewAction());
+  plegar->setToolTip(tr("Enseña o esconde la calificación en vivo (F9)"));
+  muelle->toggleViewAction()->setShortcut(Qt::Key_F9);
+  fila->addWidget(plegar);
 }
 
 Pagina* TForm1::CrearPagina(Destino destino) {
@@ -217,7 +225,7 @@ bool TForm1::PasaAResultados() {
   return avisos.empty();
 }
 
-void TForm1::Mostrar(Destino destino) {
+void TForm1::Mostrar(Destino destino, const QString& subdestino) {
   // Lo que se está tecleando se guarda antes de salir de la página.
   if (QWidget* foco = QApplication::focusWidget()) foco->clearFocus();
   if (EsDeResultados(destino) && !PasaAResultados()) destino = Destino::Titulo;
@@ -228,6 +236,7 @@ void TForm1::Mostrar(Destino destino) {
   }
   pila_->setCurrentWidget(PaginaDe(destino));
   PaginaDe(destino)->Refrescar();
+  if (!subdestino.isEmpty()) PaginaDe(destino)->AbrirEn(subdestino);
 }
 
 void TForm1::IrA(const MensajePrevio& motivo) {
@@ -252,7 +261,11 @@ void TForm1::AlCambiarProyecto() {
   // Antes que el estado, que enseña lo último calculado.
   panel_->PedirDeNuevo();
   PonerEstado();
-  PaginaDe(mostrada_)->Refrescar();
+  // Deshecho o en otro caso, puede que ya no se pueda calcular. La barra de estado dice por qué.
+  if (EsDeResultados(mostrada_) && !AvisosPrevios(contexto_.Caso()).empty())
+    Mostrar(Destino::Titulo);
+  else
+    PaginaDe(mostrada_)->Refrescar();
   if (contexto_.Sesion().Modificado()) copia_.start();
 }
 
@@ -277,7 +290,7 @@ void TForm1::PonerCasos() {
     if (gestor.EsCasoActivo(nombre)) casos_->setCurrentIndex(static_cast<int>(i));
   }
   const bool varios = gestor.NumeroCasos() > 1;
-  casos_->setEnabled(varios);
+  selector_->setVisible(varios);
   pestanas_->setTabVisible(static_cast<int>(Destino::Comparacion), varios);
   pestanas_->updateGeometry();
   duplicar_->setVisible(gestor.NumeroCasos() < kCasosMaximos);

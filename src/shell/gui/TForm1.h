@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QMainWindow>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTimer>
+#include <QToolBar>
 #include <array>
 
 #include "base/ErrorFichero.h"
@@ -40,7 +42,8 @@ class TForm1 : public QMainWindow {
   /// Ofrece lo que dejó a medias un programa que se cayó.
   void OfrecerRecuperado();
   /// Enseña una página. A las de resultados solo se llega si el proyecto pasa las comprobaciones.
-  void Mostrar(Destino destino);
+  /// \param subdestino la página de ella que se abre; vacío, la que tenga
+  void Mostrar(Destino destino, const QString& subdestino = {});
   Destino Mostrada() const { return mostrada_; }
   /// La página de una pestaña, que se crea la primera vez que hace falta.
   Pagina* PaginaDe(Destino destino);
@@ -55,14 +58,16 @@ class TForm1 : public QMainWindow {
   void CrearOrdenes();
   void CrearPaginas();
   Pagina* CrearPagina(Destino destino);
-  QAction* Orden(QToolBar* barra, const char* icono, const QString& texto, const QString& ayuda,
+  QAction* Orden(const char* control, const char* icono, const QString& texto, const QString& ayuda,
                  const QKeySequence& tecla, void (TForm1::*hacer)());
+  void CrearPanelVivo(QHBoxLayout* fila);
   // Las órdenes.
   void Nuevo();
   void AbrirConDialogo();
   void Guardar();
   void GuardarComo();
   void Anadir();
+  void ImprimirPagina() { Imprimir(false); }
   void Duplicar();
   void Borrar();
   void Deshacer();
@@ -71,6 +76,7 @@ class TForm1 : public QMainWindow {
   void Ayuda();
   void AbrirInspeccion();
 
+  void Imprimir(bool administracion);
   bool PasaAResultados();
   /// \returns falso si el usuario cancela
   bool PreguntarGuardar();
@@ -79,6 +85,7 @@ class TForm1 : public QMainWindow {
   void Recordar(const std::filesystem::path& ruta);
   void AlEditar();
   void AlCambiarProyecto();
+  void AlGuardar();
   void PonerTitulo();
   void PonerCasos();
   void PonerEstado();
@@ -89,7 +96,9 @@ class TForm1 : public QMainWindow {
   MensajesVentana& mensajes_;
   Recuperacion recuperacion_;
   QTimer copia_;
+  QToolBar* barra_;
   QTabBar* pestanas_;
+  QWidget* selector_;
   QComboBox* casos_;
   QStackedWidget* pila_;
   PanelVivo* panel_;

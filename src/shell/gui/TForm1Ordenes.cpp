@@ -7,14 +7,15 @@
 #include <QMouseEvent>
 #include <QSettings>
 #include <QStatusBar>
-#include <QToolBar>
 
 #include "base/ErrorFichero.h"
 #include "files/ErroresXml.h"
 #include "shell/LanzadorExterno.h"
+#include "shell/gui/DialogoAcerca.h"
 #include "shell/gui/DialogoAyuda.h"
 #include "shell/gui/ProyectosConocidos.h"
 #include "shell/gui/TForm1.h"
+#include "shell/gui/TImpresor.h"
 #include "shell/gui/TextoQt.h"
 
 namespace novex::gui {
@@ -121,11 +122,15 @@ bool TForm1::GuardarEn(const std::filesystem::path& ruta) {
     mensajes_.Avisar("AVISO", error.what());
     return false;
   }
+  AlGuardar();
+  statusBar()->showMessage(tr("Guardado en %1").arg(Q(contexto_.Sesion().Fichero())), 4000);
+  return true;
+}
+
+void TForm1::AlGuardar() {
   recuperacion_.Quitar();
   Recordar(contexto_.Sesion().Fichero());
   PonerTitulo();
-  statusBar()->showMessage(tr("Guardado en %1").arg(Q(contexto_.Sesion().Fichero())), 4000);
-  return true;
 }
 
 void TForm1::Guardar() {
@@ -147,13 +152,21 @@ void TForm1::GuardarComo() {
 void TForm1::Anadir() {
   const QString ruta = QFileDialog::getOpenFileName(
       this, tr("Añadir los casos de"), Q(contexto_.Ficheros().Espacio().Proyectos()), kFiltro);
-  if (ruta.isEmpty()) return;
+  // Un proyecto sin datos coherentes deja su lugar al otro.
+  if (ruta.isEmpty() || (!ComprobacionesPrevias(contexto_.Caso()).empty() && !PreguntarGuardar()))
+    return;
   try {
     contexto_.Sesion().Anadir(S(ruta));
   } catch (const ErrorFichero& error) {
     AvisarDeFichero(error);
   }
   emit contexto_.ProyectoCambiado();
+}
+
+void TForm1::Imprimir(bool administracion) {
+  if (QWidget* foco = QApplication::focusWidget()) foco->clearFocus();
+  gui::Imprimir(
+      contexto_, {mostrada_ == Destino::HE, administracion}, [this] { Guardar(); }, this);
 }
 
 void TForm1::Duplicar() {
@@ -191,14 +204,7 @@ void TForm1::Ayuda() {
 }
 
 void TForm1::Acerca() {
-  QMessageBox::about(
-      this, "NOVEX",
-      tr("<h3>NOVEX 6.1</h3>"
-         "<p><b>\t- Campo de aplicación de Novex 6.1</b><br>Edificios de vivienda y terciarios en "
-         "España: certificación energética, verificación del DB-HE y simulación libre.</p>"
-         "<p><b>\t- Principios básicos de Novex </b><br>Simulación hora a hora de la demanda y de "
-         "los equipos, con el edificio como una sola zona térmica y los equipos tomados en su "
-         "conjunto.</p>"));
+  DialogoAcerca(this).exec();
 }
 
 void TForm1::AbrirInspeccion() {

@@ -290,6 +290,8 @@ void TImpresor::AcabarAdministracion() {
     estado_->setText(tr("No se ha escrito el fichero"));
     return;
   }
+  // El otro hilo ha guardado una copia de este proyecto, que mientras no se ha podido editar.
+  contexto_.DarPorGuardado(escritura_.proyecto);
   medidor_->setValue(TareaImpresion::kAvanceFinal);
   estado_->setText(tr("Fichero escrito"));
   escrito_->setText(Q(escritura_.informe));
@@ -313,8 +315,8 @@ void TImpresor::reject() {
   QDialog::reject();
 }
 
-void Imprimir(ContextoGui& contexto, bool desdeVerificacion, const std::function<void()>& guardar,
-              QWidget* padre) {
+void Imprimir(ContextoGui& contexto, const PedidoImpresion& pedido,
+              const std::function<void()>& guardar, QWidget* padre) {
   SesionProyecto& sesion = contexto.Sesion();
   const auto avisos = AvisosPrevios(contexto.Caso());
   for (const Mensaje& aviso : avisos) sesion.Avisos().Avisar(aviso.titulo, aviso.texto);
@@ -332,7 +334,10 @@ void Imprimir(ContextoGui& contexto, bool desdeVerificacion, const std::function
     guardar();
     if (HayQueGuardarAntes(sesion)) return;
   }
-  TImpresor(contexto, desdeVerificacion, padre).exec();
+  TImpresor impresor(contexto, pedido.desdeVerificacion, padre);
+  if (pedido.administracion)
+    QTimer::singleShot(0, &impresor, [&impresor] { impresor.Administracion(false); });
+  impresor.exec();
 }
 
 }  // namespace novex::gui

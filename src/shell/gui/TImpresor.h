@@ -31,6 +31,8 @@ class TImpresor : public QDialog {
   /// \param desdeVerificacion ¿se ha pedido desde la página de la verificación?
   TImpresor(ContextoGui& contexto, bool desdeVerificacion, QWidget* padre = nullptr);
 
+  /// Hace el fichero para la administración. \param preguntarNombre con otro nombre de proyecto
+  void Administracion(bool preguntarNombre);
   /// ¿Está escribiendo?
   bool Ocupado() const { return tarea_ != nullptr; }
   const DocumentoEmitido& Documento() const { return documento_; }
@@ -42,7 +44,6 @@ class TImpresor : public QDialog {
   QWidget* CrearVista();
   void PonerPanel();
   void Emitir(const OrdenImpresion& orden);
-  void Administracion(bool preguntarNombre);
   void Empezar(TareaImpresion::Trabajo trabajo, std::function<void()> alAcabar);
   void Mirar();
   void Acabar();
@@ -72,10 +73,16 @@ class TImpresor : public QDialog {
   std::unique_ptr<TareaImpresion> tarea_;  // la última: al destruirse espera a que pare
 };
 
+/// Qué se imprime.
+struct PedidoImpresion {
+  bool desdeVerificacion = false;  ///< ¿se ha pedido desde la página de la verificación?
+  bool administracion = false;     ///< ¿se hace ya el fichero para la administración?
+};
+
 /// La orden de imprimir: si el caso no se puede calcular lo dice y lleva a donde se corrige; si el
 /// proyecto no tiene fichero, pregunta si guardarlo; después enseña `TImpresor`.
 /// \param guardar guarda el proyecto, preguntando su nombre si no lo tiene
-void Imprimir(ContextoGui& contexto, bool desdeVerificacion, const std::function<void()>& guardar,
-              QWidget* padre);
+void Imprimir(ContextoGui& contexto, const PedidoImpresion& pedido,
+              const std::function<void()>& guardar, QWidget* padre);
 
 }  // namespace novex::gui

@@ -24,7 +24,9 @@ constexpr const char* kVisitas = "Visitas/Observaciones/Intervenciones";
 TResultadosT::TResultadosT(ContextoGui& contexto, QWidget* padre)
     : PaginaPestanas(contexto, padre) {
   fallo_ = new QLabel(this);
+  fallo_->setObjectName("falloResultados");
   fallo_->setProperty("papel", "aviso");
+  fallo_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   fallo_->setWordWrap(true);
   fallo_->setContentsMargins(12, 6, 12, 6);
   static_cast<QVBoxLayout*>(layout())->insertWidget(0, fallo_);
@@ -48,15 +50,17 @@ void TResultadosT::PonerPestanas() {
   if (pasaALibre) Mostrar(kMensuales);
 }
 
-void TResultadosT::AbrirEnHorarias() {
-  PonerPestanas();
-  Mostrar(kHorarias);
+void TResultadosT::AbrirEn(const QString& subdestino) {
+  PaginaPestanas::AbrirEn(subdestino == kSubdestinoTemp ? QString(kHorarias) : subdestino);
 }
 
 void TResultadosT::Refrescar() {
   const bool calculado = contexto_.Calcular();
   fallo_->setText(contexto_.FalloCalculo());
   fallo_->setVisible(!calculado);
+  // Los de antes no son de lo que hay ahora.
+  const auto& suyo = contexto_.Caso().GetCalculo();
+  Tapar(!suyo || !suyo->Calculado());
   PonerPestanas();
   PaginaPestanas::Refrescar();
 }

@@ -12,8 +12,8 @@ class TResultadosT : public PaginaPestanas {
  public:
   explicit TResultadosT(ContextoGui& contexto, QWidget* padre = nullptr);
   void Refrescar() override;
-  /// La abre en las series horarias en lugar de donde se abriría.
-  void AbrirEnHorarias();
+  /// "Temp" son las series horarias.
+  void AbrirEn(const QString& subdestino) override;
 
  private:
   void PonerPestanas();
