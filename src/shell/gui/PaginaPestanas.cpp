@@ -1,6 +1,5 @@
 #include "shell/gui/PaginaPestanas.h"
 
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "shell/gui/TextoQt.h"
@@ -10,53 +9,68 @@ namespace novex::gui {
 PaginaPestanas::PaginaPestanas(ContextoGui& contexto, QWidget* padre) : Pagina(contexto, padre) {
   auto* columna = new QVBoxLayout(this);
   columna->setContentsMargins(0, 0, 0, 0);
-  pestanas_ = new QTabWidget(this);
-  pestanas_->setDocumentMode(true);
-  columna->addWidget(pestanas_);
+  tira_ = new QTabWidget(this);
+  tira_->setDocumentMode(true);
+  columna->addWidget(tira_);
   // La que no está a la vista se refresca al enseñarla.
-  connect(pestanas_, &QTabWidget::currentChanged, this, [this] {
+  connect(tira_, &QTabWidget::currentChanged, this, [this] {
     if (isVisible()) Refrescar();
   });
 }
 
 void PaginaPestanas::Anadir(Pagina* pagina, const QString& titulo) {
+  AnadirTarde([pagina] { return pagina; }, titulo);
+  Pestana& pestana = pestanas_.back();
+  pestana.visor->setWidget(pagina);
+  pestana.pagina = pagina;
+}
+
+void PaginaPestanas::AnadirTarde(std::function<Pagina*()> crear, const QString& titulo) {
   auto* visor = new QScrollArea(this);
   visor->setWidgetResizable(true);
   visor->setFrameShape(QFrame::NoFrame);
-  visor->setWidget(pagina);
-  paginas_.push_back(pagina);
-  pestanas_->addTab(visor, titulo);
+  pestanas_.push_back({visor, nullptr, std::move(crear)});
+  tira_->addTab(visor, titulo);
+}
+
+// La página que se enseña, que se crea ahora si no lo está; nula sin pestañas.
+Pagina* PaginaPestanas::ALaVista() {
+  const auto cual = static_cast<std::size_t>(tira_->currentIndex());
+  if (cual >= pestanas_.size()) return nullptr;
+  Pestana& pestana = pestanas_[cual];
+  if (pestana.pagina == nullptr) {
+    pestana.pagina = pestana.crear();
+    pestana.visor->setWidget(pestana.pagina);
+  }
+  return pestana.pagina;
 }
 
 void PaginaPestanas::Refrescar() {
-  const auto cual = static_cast<std::size_t>(pestanas_->currentIndex());
-  if (cual < paginas_.size()) paginas_[cual]->Refrescar();
+  if (Pagina* pagina = ALaVista()) pagina->Refrescar();
 }
 
 void PaginaPestanas::Senalar(const MensajePrevio& motivo) {
-  for (std::size_t i = 0; !motivo.campo.empty() && i < paginas_.size(); ++i)
-    if (paginas_[i]->findChild<QWidget*>(Q(motivo.campo)) != nullptr)
-      pestanas_->setCurrentIndex(static_cast<int>(i));
-  const auto cual = static_cast<std::size_t>(pestanas_->currentIndex());
-  if (cual < paginas_.size()) paginas_[cual]->Senalar(motivo);
+  for (std::size_t i = 0; !motivo.campo.empty() && i < pestanas_.size(); ++i)
+    if (pestanas_[i].visor->findChild<QWidget*>(Q(motivo.campo)) != nullptr)
+      tira_->setCurrentIndex(static_cast<int>(i));
+  if (Pagina* pagina = ALaVista()) pagina->Senalar(motivo);
 }
 
 void PaginaPestanas::Mostrar(const QString& titulo) {
-  for (int i = 0; i < pestanas_->count(); ++i)
-    if (pestanas_->tabText(i) == titulo && pestanas_->isTabVisible(i))
-      pestanas_->setCurrentIndex(i);
+  for (int i = 0; i < tira_->count(); ++i)
+    if (tira_->tabText(i) == titulo && tira_->isTabVisible(i)) tira_->setCurrentIndex(i);
 }
 
 void PaginaPestanas::Esconder(const QString& titulo, bool si) {
-  for (int i = 0; i < pestanas_->count(); ++i)
-    if (pestanas_->tabText(i) == titulo) pestanas_->setTabVisible(i, !si);
+  for (int i = 0; i < tira_->count(); ++i)
+    if (tira_->tabText(i) == titulo) tira_->setTabVisible(i, !si);
 }
 
 void PaginaPestanas::Marcar(const QString& titulo, const QIcon& icono, const QString& ayuda) {
-  for (int i = 0; i < pestanas_->count(); ++i)
-    if (pestanas_->tabText(i) == titulo) {
-      pestanas_->setTabIcon(i, icono);
-      pestanas_->setTabToolTip(i, ayuda);
+  for (int i = 0; i < tira_->count(); ++i)
+    if (tira_->tabText(i) == titulo) {
+      tira_->setTabIcon(i, icono);
+      tira_->setTabToolTip(i, ayuda);
     }
 }
 

@@ -19,22 +19,20 @@ PaginaTendencias::PaginaTendencias(ContextoGui& contexto, QWidget* padre)
   CrearOrdenes(columna);
   pestanas_ = new QTabWidget(this);
   pestanas_->setDocumentMode(true);
-  const auto anadir = [&](PaginaMedida pagina, const QString& titulo) {
-    auto* pestana = new PestanaMedidas(contexto_, enlaces_, pagina, this);
-    connect(pestana, &PestanaMedidas::Marcada, this, &PaginaTendencias::AvisarMarcas);
-    medidas_.push_back(pestana);
-    pestanas_->addTab(pestana, titulo);
-  };
-  anadir(PaginaMedida::Demanda, "Demanda");
-  anadir(PaginaMedida::CombinacionesDemanda, "Combinaciones demanda");
-  anadir(PaginaMedida::Equipos, "Equipos");
+  AnadirMedidas(PaginaMedida::Demanda, "Demanda");
+  AnadirMedidas(PaginaMedida::CombinacionesDemanda, "Combinaciones demanda");
+  AnadirMedidas(PaginaMedida::Equipos, "Equipos");
   AnadirVacia("Combinaciones equipos");
   AnadirVacia("Comb. demanda + equipos");
   notas_ = new NotasMedidas(contexto, this);
   pestanas_->addTab(notas_, "Otros datos de interés");
   lista_ = new ListaMejoras(contexto, this);
+  connect(lista_, &ListaMejoras::Marcada, this, &PaginaTendencias::AvisarMarcas);
   pestanas_->addTab(lista_, tr("Por ahorro"));
   columna->addWidget(pestanas_, 1);
+  connect(pestanas_, &QTabWidget::currentChanged, this, [this] {
+    if (isVisible()) Refrescar();
+  });
   reloj_.setInterval(0);
   connect(&reloj_, &QTimer::timeout, this, &PaginaTendencias::Paso);
   // Otro proyecto u otro caso: lo que se mide ya no es lo que se mira.
@@ -73,6 +71,25 @@ void PaginaTendencias::CrearOrdenes(QVBoxLayout* columna) {
   columna->addLayout(fila);
 }
 
+void PaginaTendencias::AnadirMedidas(PaginaMedida pagina, const QString& titulo) {
+  auto* sitio = new QWidget(this);
+  auto* columna = new QVBoxLayout(sitio);
+  columna->setContentsMargins(0, 0, 0, 0);
+  hojas_.push_back({pagina, sitio, nullptr});
+  pestanas_->addTab(sitio, titulo);
+}
+
+// Las medidas de una pestaña son muchos editores: se hacen la primera vez que se ve.
+void PaginaTendencias::HacerLaQueSeVe() {
+  for (Hoja& hoja : hojas_) {
+    if (hoja.sitio != pestanas_->currentWidget() || hoja.medidas != nullptr) continue;
+    hoja.medidas = new PestanaMedidas(contexto_, enlaces_, hoja.pagina, hoja.sitio);
+    connect(hoja.medidas, &PestanaMedidas::Marcada, this, &PaginaTendencias::AvisarMarcas);
+    hoja.sitio->layout()->addWidget(hoja.medidas);
+    enlaces_.Refrescar();
+  }
+}
+
 void PaginaTendencias::AnadirVacia(const QString& titulo) {
   auto* hoja = new QWidget(this);
   auto* columna = new QVBoxLayout(hoja);
@@ -90,7 +107,9 @@ void PaginaTendencias::Ensenar(const CasoCalculado& caso) {
       BaseDeEstudio(caso.resultado->resultados, caso.edificio->GetDatosGenerales());
   const MejorasMedidas* medido = estudio_.Medido(caso.nombre, base);
   const auto* medidas = medido == nullptr ? nullptr : &medido->medidas;
-  for (PestanaMedidas* pestana : medidas_) pestana->Ensenar(base, medidas);
+  HacerLaQueSeVe();
+  for (const Hoja& hoja : hojas_)
+    if (hoja.medidas != nullptr) hoja.medidas->Ensenar(base, medidas);
   lista_->Ensenar(base, medidas);
   notas_->Refrescar();
   PonerOrdenes();

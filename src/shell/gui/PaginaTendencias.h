@@ -28,7 +28,15 @@ class PaginaTendencias : public PaginaResultados {
   void Ensenar(const CasoCalculado& caso) override;
 
  private:
+  /// Una pestaña de medidas; sin ellas mientras no se ha visto.
+  struct Hoja {
+    PaginaMedida pagina = PaginaMedida::Demanda;
+    QWidget* sitio = nullptr;
+    PestanaMedidas* medidas = nullptr;
+  };
   void CrearOrdenes(class QVBoxLayout* columna);
+  void AnadirMedidas(PaginaMedida pagina, const QString& titulo);
+  void HacerLaQueSeVe();
   void AnadirVacia(const QString& titulo);
   void MedirSenaladas();
   void MedirTodas();
@@ -45,7 +53,7 @@ class PaginaTendencias : public PaginaResultados {
   QProgressBar* progreso_;
   QLabel *quedan_, *marcas_;
   QTabWidget* pestanas_;
-  std::vector<PestanaMedidas*> medidas_;
+  std::vector<Hoja> hojas_;
   NotasMedidas* notas_;
   ListaMejoras* lista_;
 };

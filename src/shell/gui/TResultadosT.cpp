@@ -21,6 +21,11 @@ constexpr const char* kVisitas = "Visitas/Observaciones/Intervenciones";
 
 }  // namespace
 
+template <class UnaPagina>
+void TResultadosT::Tarde(const QString& titulo) {
+  AnadirTarde([this] { return new UnaPagina(contexto_); }, titulo);
+}
+
 TResultadosT::TResultadosT(ContextoGui& contexto, QWidget* padre)
     : PaginaPestanas(contexto, padre) {
   fallo_ = new QLabel(this);
@@ -30,14 +35,15 @@ TResultadosT::TResultadosT(ContextoGui& contexto, QWidget* padre)
   fallo_->setWordWrap(true);
   fallo_->setContentsMargins(12, 6, 12, 6);
   static_cast<QVBoxLayout*>(layout())->insertWidget(0, fallo_);
+  // Entrar es ver la primera; las demás se hacen cuando se enseñan.
   Anadir(new PaginaCalificacion(contexto), "Calificación");
-  Anadir(new PaginaMensual(contexto), kMensuales);
-  Anadir(new PaginaHorarias(contexto), kHorarias);
-  Anadir(new PaginaDetalle(contexto), "Detalle");
-  Anadir(new PaginaReferencia(contexto), kReferencia);
-  Anadir(new PaginaVisitas(contexto), kVisitas);
-  Anadir(new PaginaAnalisisTecnico(contexto), "Análisis técnico");
-  Anadir(new PaginaTendencias(contexto), "Tendencias de Rehabilitaciones");
+  Tarde<PaginaMensual>(kMensuales);
+  Tarde<PaginaHorarias>(kHorarias);
+  Tarde<PaginaDetalle>("Detalle");
+  Tarde<PaginaReferencia>(kReferencia);
+  Tarde<PaginaVisitas>(kVisitas);
+  Tarde<PaginaAnalisisTecnico>("Análisis técnico");
+  Tarde<PaginaTendencias>("Tendencias de Rehabilitaciones");
 }
 
 void TResultadosT::PonerPestanas() {

@@ -16,6 +16,8 @@ class TResultadosT : public PaginaPestanas {
   void AbrirEn(const QString& subdestino) override;
 
  private:
+  template <class UnaPagina>
+  void Tarde(const QString& titulo);
   void PonerPestanas();
 
   QLabel* fallo_;
