@@ -1,6 +1,7 @@
 #include "outputs/TablaMejoras.h"
 
 #include <algorithm>
+#include <limits>
 #include <nlohmann/json.hpp>
 
 #include "outputs/JsonTabla.h"
@@ -26,9 +27,49 @@ std::string Cambio(const std::string& base, const std::string& letra) {
   return base == letra ? letra : base + " → " + letra;
 }
 
-std::string Porcentaje(float base, float valor) {
-  const auto ahorro = Ahorro(static_cast<double>(base), static_cast<double>(valor));
-  return Fijo(ahorro.value_or(0), 1) + " %";
+Celda Porcentaje(float base, float valor) {
+  const double ahorro = Ahorro(static_cast<double>(base), static_cast<double>(valor)).value_or(0);
+  Celda celda = Celda::Numero(ahorro, 1);
+  celda.texto += " %";
+  return celda;
+}
+
+// Una cifra tecleada, como se tecleó; sin ella, en blanco.
+Celda Tecleada(const std::string& texto) {
+  double valor = 0;
+  if (!LeerReal(texto, valor) || valor == 0.0) return {};
+  Celda celda(texto);
+  celda.numero = valor;
+  return celda;
+}
+
+const MedidaEstudio* Anotada(const EstudioModificaciones& estudio, int codigo) {
+  const auto it = std::find_if(estudio.medidas.begin(), estudio.medidas.end(),
+                               [=](const MedidaEstudio& m) { return m.codigo == codigo; });
+  return it == estudio.medidas.end() || !it->marca ? nullptr : &*it;
+}
+
+// Lo que ordena una medida: lo menor va delante.
+double Peso(const ResultadoMedida& m, CriterioMejoras criterio,
+            const EstudioModificaciones& estudio) {
+  switch (criterio) {
+    case CriterioMejoras::PrimariaNoRenovable:
+      return static_cast<double>(m[C::EnergiaPrimariaTotal]);
+    case CriterioMejoras::Demanda:
+      return static_cast<double>(Demanda(m));
+    case CriterioMejoras::EnergiaFinal:
+      return static_cast<double>(m[C::EnergiaFinalTotal]);
+    case CriterioMejoras::Emisiones:
+      return static_cast<double>(m[C::EmisionesTotal]);
+    case CriterioMejoras::Coste: {
+      const MedidaEstudio* anotada = Anotada(estudio, m.codigo);
+      const Celda coste = anotada == nullptr ? Celda() : Tecleada(anotada->precio);
+      return coste.numero.value_or(std::numeric_limits<double>::infinity());
+    }
+    case CriterioMejoras::Codigo:
+      break;
+  }
+  return m.codigo;
 }
 
 std::string TextoDe(int codigo) {
@@ -51,38 +92,43 @@ Json DeMedida(const ResultadoMedida& m) {
 
 }  // namespace
 
-std::vector<ResultadoMedida> PorAhorro(std::vector<ResultadoMedida> medidas) {
-  std::stable_sort(medidas.begin(), medidas.end(), [](const auto& a, const auto& b) {
-    const float x = a[C::EnergiaPrimariaTotal], y = b[C::EnergiaPrimariaTotal];
+std::vector<ResultadoMedida> OrdenarMejoras(std::vector<ResultadoMedida> medidas,
+                                            CriterioMejoras criterio,
+                                            const EstudioModificaciones& estudio) {
+  std::stable_sort(medidas.begin(), medidas.end(), [&](const auto& a, const auto& b) {
+    const double x = Peso(a, criterio, estudio), y = Peso(b, criterio, estudio);
     return x != y ? x < y : a.codigo < b.codigo;
   });
   return medidas;
 }
 
-Tabla TablaMejoras(const ResultadoMedida& base, const std::vector<ResultadoMedida>& medidas) {
+Tabla TablaMejoras(const ResultadoMedida& base, const std::vector<ResultadoMedida>& medidas,
+                   const EstudioModificaciones& estudio) {
   Tabla tabla;
   tabla.titulo = "Mejoras, por m² y año: ahorro frente al caso como está";
-  tabla.cabeceras = {"",       "Código",    "Demanda", "Ahorro",   "E.prim.no renov.",
-                     "Ahorro", "Emisiones", "Ahorro",  "Letra EP", "Letra CO2",
-                     "Medida"};
-  const auto cifra = [](float x) { return Celda::Numero(static_cast<double>(x), 2); };
+  tabla.cabeceras = {"",         "Código",           "Demanda", "Ahorro",    "E.final",
+                     "Ahorro",   "E.prim.no renov.", "Ahorro",  "Emisiones", "Ahorro",
+                     "Letra EP", "Letra CO2",        "Coste €", "Años",      "Medida"};
   const auto fila = [&](const ResultadoMedida& m, bool esBase) {
-    const std::string ep =
-        Cambio(LetraDe(base, Indicador::EPriNoRTotales), LetraDe(m, Indicador::EPriNoRTotales));
-    const std::string co2 =
-        Cambio(LetraDe(base, Indicador::EmisionesTotales), LetraDe(m, Indicador::EmisionesTotales));
-    const bool cambia = ep.find(' ') != std::string::npos || co2.find(' ') != std::string::npos;
-    tabla.filas.push_back(
-        {cambia && !esBase ? "*" : "", Celda::Numero(m.codigo, 0), cifra(Demanda(m)),
-         esBase ? "" : Porcentaje(Demanda(base), Demanda(m)), cifra(m[C::EnergiaPrimariaTotal]),
-         esBase ? "" : Porcentaje(base[C::EnergiaPrimariaTotal], m[C::EnergiaPrimariaTotal]),
-         cifra(m[C::EmisionesTotal]),
-         esBase ? "" : Porcentaje(base[C::EmisionesTotal], m[C::EmisionesTotal]), ep, co2,
-         TextoDe(m.codigo)});
+    const MedidaEstudio* anotada = esBase ? nullptr : Anotada(estudio, m.codigo);
+    auto& celdas = tabla.filas.emplace_back();
+    celdas = {anotada != nullptr ? "*" : "", Celda::Numero(m.codigo, 0)};
+    const auto cifra = [&](float suya, float deBase) {
+      celdas.push_back(Celda::Numero(static_cast<double>(suya), 2));
+      celdas.push_back(esBase ? Celda() : Porcentaje(deBase, suya));
+    };
+    cifra(Demanda(m), Demanda(base));
+    for (const C total : {C::EnergiaFinalTotal, C::EnergiaPrimariaTotal, C::EmisionesTotal})
+      cifra(m[total], base[total]);
+    for (const Indicador letra : {Indicador::EPriNoRTotales, Indicador::EmisionesTotales})
+      celdas.emplace_back(Cambio(LetraDe(base, letra), LetraDe(m, letra)));
+    celdas.push_back(anotada != nullptr ? Tecleada(anotada->precio) : Celda());
+    celdas.push_back(anotada != nullptr ? Tecleada(anotada->amortizacion) : Celda());
+    celdas.emplace_back(TextoDe(m.codigo));
   };
   fila(base, true);
   for (const ResultadoMedida& m : medidas) fila(m, false);
-  tabla.notas = {"* cambia alguna letra"};
+  tabla.notas = {"* señalada en el estudio"};
   return tabla;
 }
 

@@ -21,12 +21,20 @@ class PaginaTendenciasTest : public VentanaTest {
     ventana->Mostrar(Destino::Certificacion);
     auto* resultados = ventana->PaginaDe(Destino::Certificacion);
     auto* pestanas = resultados->findChild<QTabWidget*>();
-    pagina = resultados->findChild<PaginaTendencias*>();
-    ASSERT_NE(pagina, nullptr);
     pestanas->setCurrentIndex(pestanas->count() - 1);
     EXPECT_EQ(pestanas->tabText(pestanas->count() - 1), "Tendencias de Rehabilitaciones");
+    pagina = resultados->findChild<PaginaTendencias*>();
+    ASSERT_NE(pagina, nullptr);
   }
-  void Marcar(int codigo) { Buscar<QCheckBox>(Nombre("CBLL", codigo).c_str())->click(); }
+  // La pestaña de una medida, que se hace al verla.
+  void VerMedida(int codigo) {
+    const auto pestana = static_cast<int>(MedidaDeCodigo(codigo)->pagina);
+    pagina->findChild<QTabWidget*>()->setCurrentIndex(pestana);
+  }
+  void Marcar(int codigo) {
+    VerMedida(codigo);
+    Buscar<QCheckBox>(Nombre("CBLL", codigo).c_str())->click();
+  }
   static std::string Nombre(const char* prefijo, int codigo) {
     return prefijo + std::to_string(codigo);
   }
@@ -44,6 +52,16 @@ class PaginaTendenciasTest : public VentanaTest {
     ASSERT_EQ(pagina->Estudio().EnQue(), EstudioEnCurso::Estado::Hecho);
   }
   bool EnCurso() const { return pagina->Estudio().EnQue() == EstudioEnCurso::Estado::Calculando; }
+  QTableWidget* Lista() { return pagina->findChild<ListaMejoras*>()->findChild<QTableWidget*>(); }
+  // Lo que dice la lista de una medida en una columna; con el código 0, su primera fila.
+  QTableWidgetItem* EnLista(int codigo, std::size_t columna) {
+    for (int f = 0; f < Lista()->rowCount(); ++f)
+      if (codigo == 0 ? f == 1 : Lista()->item(f, kColumnaCodigo)->text().toInt() == codigo)
+        return Lista()->item(f, static_cast<int>(columna));
+    ADD_FAILURE() << "no está la medida " << codigo;
+    return nullptr;
+  }
+  static constexpr int kColumnaCodigo = static_cast<int>(kColumnaCodigoMejora);
   const EstudioModificaciones& Estudio() const { return sesion.Caso().GetEstudioModificaciones(); }
   PaginaTendencias* pagina = nullptr;
 };
@@ -142,8 +160,7 @@ TEST_F(PaginaTendenciasTest, TodasSeOrdenanSeCancelanYUnaSeAplica) {
   Pulsar("CalcularTodas");
   Esperar();
   EXPECT_NE(Valor(3), "----");
-  auto* lista = pagina->findChild<ListaMejoras*>();
-  auto* tabla = lista->findChild<QTableWidget*>();
+  QTableWidget* tabla = Lista();
   ASSERT_EQ(tabla->rowCount(), 71);
   auto* aplicar = Buscar<QPushButton>("AplicarMejora");
   const auto elegir = [&](const char* codigo) {
@@ -161,6 +178,50 @@ TEST_F(PaginaTendenciasTest, TodasSeOrdenanSeCancelanYUnaSeAplica) {
   EXPECT_EQ(Valor(3), "----");  // la mejora es otro caso
   EXPECT_TRUE(sesion.Deshacer());
   EXPECT_EQ(sesion.Gestor().NumeroCasos(), 1U);
+}
+
+TEST_F(PaginaTendenciasTest, LaListaSeOrdenaPorLoQueSeElijaYSenala) {
+  AbrirEn("vivienda_unifamiliar_D3.xml");
+  for (const int codigo : {3, 24}) Marcar(codigo);
+  Teclear(Buscar<QLineEdit>("EELL24"), "900");
+  Pulsar("CalcularTodas");
+  Esperar();
+  auto* orden = Buscar<QComboBox>("OrdenarPor");
+  const auto primera = [&](CriterioMejoras criterio) {
+    orden->setCurrentIndex(static_cast<int>(criterio));
+    return EnLista(0, kColumnaCodigoMejora)->text().toInt();
+  };
+  // La biomasa ahorra energía primaria y no demanda; la que más aísla, al revés.
+  EXPECT_EQ(primera(CriterioMejoras::PrimariaNoRenovable), 101);
+  EXPECT_EQ(primera(CriterioMejoras::Demanda), 95);
+  EXPECT_EQ(primera(CriterioMejoras::EnergiaFinal), 100);
+  EXPECT_EQ(primera(CriterioMejoras::Codigo), 3);
+  EXPECT_EQ(primera(CriterioMejoras::Coste), 24);
+  for (const std::size_t ahorro : {3U, 5U, 7U, 9U})
+    EXPECT_EQ(EnLista(95, ahorro)->textAlignment() & Qt::AlignRight, Qt::AlignRight);
+  // Las marcas y las cifras se cambian también aquí.
+  EXPECT_EQ(EnLista(24, kColumnaCosteMejora)->text(), "900");
+  EXPECT_FALSE(EnLista(5, kColumnaCosteMejora)->flags().testFlag(Qt::ItemIsEditable));
+  EnLista(5, kColumnaMarcaMejora)->setCheckState(Qt::Checked);
+  QTest::qWait(20);
+  EXPECT_EQ(CodigosMarcados(Estudio()), (std::vector<int>{3, 5, 24}));
+  EnLista(5, kColumnaCosteMejora)->setText("450,5");
+  QTest::qWait(20);
+  EXPECT_EQ(CifrasDeMedida(Estudio(), 5).PrecioMejora, 450.5F);
+  EXPECT_EQ(EnLista(0, kColumnaCodigoMejora)->text(), "5");  // ya es la más barata
+  EXPECT_TRUE(mensajes.recibidos.empty());
+  EnLista(3, kColumnaAnosMejora)->setText("x");
+  QTest::qWait(20);
+  EXPECT_EQ(mensajes.recibidos.size(), 1U);
+  EXPECT_EQ(EnLista(3, kColumnaAnosMejora)->text(), "");
+  mensajes.recibidos.clear();
+  EnLista(9, kColumnaMarcaMejora)->setCheckState(Qt::Checked);
+  QTest::qWait(20);
+  ASSERT_EQ(mensajes.recibidos.size(), 1U);
+  EXPECT_EQ(mensajes.recibidos[0].titulo, "AVISO");
+  EnLista(5, kColumnaMarcaMejora)->setCheckState(Qt::Unchecked);
+  QTest::qWait(20);
+  EXPECT_EQ(EnLista(5, kColumnaCosteMejora)->text(), "");
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <map>
 #include <memory>
 #include <thread>
 
@@ -14,9 +15,19 @@ namespace {
 struct OpcionesMejoras {
   std::string proyecto, json, programa;
   std::string caso = std::string(caso::kViejo);
+  std::string orden = "primaria";
   bool todas = false;
   unsigned hilos = 0;  // 0, los de la máquina
 };
+
+// Por qué se ordenan, con el nombre que tienen en la consola.
+const std::map<std::string, CriterioMejoras> kCriterios = {
+    {"primaria", CriterioMejoras::PrimariaNoRenovable},
+    {"demanda", CriterioMejoras::Demanda},
+    {"final", CriterioMejoras::EnergiaFinal},
+    {"emisiones", CriterioMejoras::Emisiones},
+    {"coste", CriterioMejoras::Coste},
+    {"codigo", CriterioMejoras::Codigo}};
 
 // Las que se piden: todas, o las que el proyecto lleva marcadas.
 std::vector<int> CodigosPedidos(const OpcionesMejoras& o, const EstudioModificaciones& estudio) {
@@ -49,7 +60,8 @@ int Estudiar(const OpcionesMejoras& o) {
   const auto estudio = EstudioMejoras::Preparar(gestor, o.caso, entorno);
   if (!estudio) return kSinHacer;
   const unsigned hilos = o.hilos != 0 ? o.hilos : std::max(1U, std::thread::hardware_concurrency());
-  const auto medidas = PorAhorro(estudio->Medir(codigos, hilos));
+  const auto medidas =
+      OrdenarMejoras(estudio->Medir(codigos, hilos), kCriterios.at(o.orden), marcas);
   const std::string nombre = std::filesystem::path(o.proyecto).filename().string();
   const auto json = [&] { return JsonMejoras(nombre, o.caso, estudio->Base(), medidas); };
   if (o.json == kSalidaEstandar) {
@@ -57,7 +69,7 @@ int Estudiar(const OpcionesMejoras& o) {
     return kHecho;
   }
   if (!o.json.empty()) EscribirFichero(o.json, json());
-  EscribirTablas({TablaMejoras(estudio->Base(), medidas)});
+  EscribirTablas({TablaMejoras(estudio->Base(), medidas, marcas)});
   return kHecho;
 }
 
@@ -72,8 +84,13 @@ void AnadirMejoras(CLI::App& programa, Orden& orden) {
       ->type_name("FICHERO");
   app->add_option("--caso", o->caso, "Caso que se mejora: Viejo, Mejora_1 .. Mejora_5")
       ->type_name("NOMBRE");
-  app->add_flag("--todas", o->todas,
-                "Las setenta, por orden de la energía primaria no renovable que ahorran");
+  app->add_flag("--todas", o->todas, "Las setenta");
+  std::vector<std::string> criterios;
+  for (const auto& [nombre, criterio] : kCriterios) criterios.push_back(nombre);
+  app->add_option(
+         "--orden", o->orden,
+         "Por qué se ordenan; sin decirlo, por la energía primaria no renovable que ahorran")
+      ->check(CLI::IsMember(criterios));
   app->add_option("--hilos", o->hilos, "Cálculos a la vez; sin decirlo, uno por procesador")
       ->check(CLI::Range(1, 256))
       ->type_name("N");

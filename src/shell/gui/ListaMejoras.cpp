@@ -2,9 +2,11 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "entry/CosteMejora.h"
 #include "improvements/AplicarMedida.h"
 #include "outputs/TablaMejoras.h"
 #include "shell/gui/Filas.h"
@@ -13,7 +15,10 @@
 namespace novex::gui {
 namespace {
 
-constexpr int kColumnaCodigo = 1;
+constexpr int kMarca = static_cast<int>(kColumnaMarcaMejora);
+constexpr int kCodigo = static_cast<int>(kColumnaCodigoMejora);
+constexpr int kCoste = static_cast<int>(kColumnaCosteMejora);
+constexpr int kAnos = static_cast<int>(kColumnaAnosMejora);
 constexpr int kLineasQue = 2;
 
 // La misma tabla no se pone otra vez: se perdería la fila elegida.
@@ -32,14 +37,18 @@ ListaMejoras::ListaMejoras(ContextoGui& contexto, QWidget* padre)
   auto* columna = new QVBoxLayout(this);
   ninguna_ = NuevaNota(this);
   ninguna_->setText(
-      tr("Calcule las mejoras: aquí se ordenan por la energía primaria no renovable "
-         "que ahorran, y cualquiera se puede aplicar a una copia del caso."));
+      tr("Calcule las mejoras: aquí se ordenan por lo que ahorran, y cualquiera se puede aplicar a "
+         "una copia del caso."));
   columna->addWidget(ninguna_);
+  orden_ = CajaOrden();
+  columna->addWidget(orden_);
   tabla_ = new VistaTabla(this);
   tabla_->Estirar(true);
   tabla_->Rejilla()->setSelectionBehavior(QAbstractItemView::SelectRows);
   tabla_->Rejilla()->setSelectionMode(QAbstractItemView::SingleSelection);
-  tabla_->Rejilla()->horizontalHeader()->setStretchLastSection(true);
+  tabla_->Rejilla()->setEditTriggers(QAbstractItemView::DoubleClicked |
+                                     QAbstractItemView::EditKeyPressed |
+                                     QAbstractItemView::AnyKeyPressed);
   columna->addWidget(tabla_, 1);
   auto* fila = new QHBoxLayout;
   que_ = new QLabel(this);
@@ -53,30 +62,126 @@ ListaMejoras::ListaMejoras(ContextoGui& contexto, QWidget* padre)
   fila->addWidget(aplicar_);
   columna->addLayout(fila);
   connect(tabla_->Rejilla(), &QTableWidget::itemSelectionChanged, this, &ListaMejoras::AlElegir);
+  connect(tabla_->Rejilla(), &QTableWidget::itemChanged, this, &ListaMejoras::AlCambiar);
   connect(aplicar_, &QPushButton::clicked, this, &ListaMejoras::Aplicar);
+}
+
+QWidget* ListaMejoras::CajaOrden() {
+  auto* caja = new QWidget(this);
+  auto* fila = new QHBoxLayout(caja);
+  fila->setContentsMargins(0, 0, 0, 0);
+  fila->addWidget(new QLabel(tr("Ordenar por"), caja));
+  criterio_ = new QComboBox(caja);
+  criterio_->setObjectName("OrdenarPor");
+  for (const std::string_view texto : kTextoCriterioMejoras) criterio_->addItem(Q(texto));
+  connect(criterio_, &QComboBox::currentIndexChanged, this, &ListaMejoras::Ordenar);
+  fila->addWidget(criterio_);
+  fila->addStretch(1);
+  return caja;
 }
 
 void ListaMejoras::Ensenar(const ResultadoMedida& base,
                            const std::vector<ResultadoMedida>* medidas) {
   const bool hay = medidas != nullptr && !medidas->empty();
   ninguna_->setVisible(!hay);
-  tabla_->setVisible(hay);
-  que_->setVisible(hay);
-  aplicar_->setVisible(hay);
-  if (!hay) return;
-  const Tabla nueva = TablaMejoras(base, PorAhorro(*medidas));
-  if (!MismosTextos(nueva, tabla_->Puesta())) {
+  for (QWidget* w : {orden_, static_cast<QWidget*>(tabla_), static_cast<QWidget*>(que_),
+                     static_cast<QWidget*>(aplicar_)})
+    w->setVisible(hay);
+  base_ = base;
+  medidas_ = hay ? *medidas : std::vector<ResultadoMedida>();
+  if (hay) Ordenar();
+}
+
+void ListaMejoras::Ordenar() {
+  PonerTabla(false);
+}
+
+// \param entera también si los textos son los mismos, porque se ha tecleado sobre ellos
+void ListaMejoras::PonerTabla(bool entera) {
+  const EstudioModificaciones& estudio = contexto_.Caso().GetEstudioModificaciones();
+  const auto criterio = static_cast<CriterioMejoras>(criterio_->currentIndex());
+  Tabla nueva = TablaMejoras(base_, OrdenarMejoras(medidas_, criterio, estudio), estudio);
+  // Las señaladas llevan aquí su casilla.
+  for (auto& fila : nueva.filas)
+    fila.back().texto = S(Q(fila.back().texto).replace("  +   ", " + "));
+  nueva.notas = {S(tr("Doble clic en el coste o los años de una señalada para cambiarlos"))};
+  if (entera || !MismosTextos(nueva, tabla_->Puesta())) {
+    const int elegida = Elegida();
+    const QSignalBlocker callada(tabla_->Rejilla());
     tabla_->Rejilla()->clearSelection();
     tabla_->Poner(nueva);
+    tabla_->Rejilla()->horizontalHeader()->setSectionResizeMode(
+        tabla_->Rejilla()->columnCount() - 1, QHeaderView::Stretch);
+    tabla_->Rejilla()->resizeRowsToContents();
+    PonerCasillas();
+    for (int f = 0; elegida != 0 && f < tabla_->Rejilla()->rowCount(); ++f)
+      if (CodigoDe(f) == elegida) tabla_->Rejilla()->selectRow(f);
   }
   AlElegir();
 }
 
-int ListaMejoras::Elegida() const {
-  const auto elegidas = tabla_->Rejilla()->selectionModel()->selectedRows(kColumnaCodigo);
-  if (elegidas.isEmpty()) return 0;
-  const int codigo = elegidas.front().data().toInt();
+// La marca se pulsa y las cifras de las marcadas se teclean; lo demás solo se lee.
+void ListaMejoras::PonerCasillas() {
+  const EstudioModificaciones& estudio = contexto_.Caso().GetEstudioModificaciones();
+  QTableWidget* rejilla = tabla_->Rejilla();
+  for (int f = 0; f < rejilla->rowCount(); ++f) {
+    const int codigo = CodigoDe(f);
+    const bool marcada = codigo != 0 && MedidaMarcada(estudio, codigo);
+    for (int c = 0; c < rejilla->columnCount(); ++c) {
+      const bool cifra = c == kCoste || c == kAnos;
+      QTableWidgetItem* casilla = rejilla->item(f, c);
+      casilla->setFlags(casilla->flags().setFlag(Qt::ItemIsEditable, marcada && cifra));
+      if (cifra && marcada) casilla->setToolTip(tr("Doble clic para cambiarlo"));
+    }
+    if (codigo == 0) continue;
+    QTableWidgetItem* marca = rejilla->item(f, kMarca);
+    marca->setText({});
+    marca->setFlags(marca->flags() | Qt::ItemIsUserCheckable);
+    marca->setCheckState(marcada ? Qt::Checked : Qt::Unchecked);
+    marca->setToolTip(tr("Señalarla: sale en el certificado"));
+  }
+}
+
+void ListaMejoras::AlCambiar(QTableWidgetItem* casilla) {
+  const int codigo = CodigoDe(casilla->row());
+  const int columna = casilla->column();
+  if (codigo == 0) return;
+  // La edición vuelve a hacer la tabla: se espera a que la casilla acabe de cambiar.
+  QMetaObject::invokeMethod(
+      this,
+      [this, codigo, columna, marca = casilla->checkState() == Qt::Checked,
+       texto = S(casilla->text())] {
+        if (columna == kMarca) {
+          contexto_.Editar(
+              marca ? tr("señalar una mejora") : tr("quitar una mejora"),
+              [&](Edificio& e) { MarcarMedida(e, codigo, marca); }, false);
+          emit Marcada();
+        } else if (columna == kCoste || columna == kAnos) {
+          RegistroMensajes avisos;
+          contexto_.Editar(
+              columna == kCoste ? tr("Coste estimado, €") : tr("Periodo de amortización, años"),
+              [&](Edificio& e) {
+                PonerCifraMedida(e, codigo, columna == kCoste ? kPrecioMedida : kAmortizacionMedida,
+                                 texto, avisos);
+              },
+              false);
+          for (const Mensaje& aviso : avisos.recibidos)
+            contexto_.Sesion().Avisos().Avisar(aviso.titulo, aviso.texto);
+          PonerTabla(true);
+        }
+      },
+      Qt::QueuedConnection);
+}
+
+int ListaMejoras::CodigoDe(int fila) const {
+  const QTableWidgetItem* casilla = tabla_->Rejilla()->item(fila, kCodigo);
+  const int codigo = casilla == nullptr ? 0 : casilla->text().toInt();
   return MedidaDeCodigo(codigo) == nullptr ? 0 : codigo;
+}
+
+int ListaMejoras::Elegida() const {
+  const auto elegidas = tabla_->Rejilla()->selectionModel()->selectedRows(kCodigo);
+  return elegidas.isEmpty() ? 0 : CodigoDe(elegidas.front().row());
 }
 
 void ListaMejoras::AlElegir() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QWidget>
@@ -10,8 +11,9 @@
 
 namespace novex::gui {
 
-/// Las medidas medidas de un caso por orden de lo que ahorran, y la que se elige: qué cambiaría en
-/// los datos y la orden de aplicarla como caso de mejora.
+/// Las medidas medidas de un caso por el orden que se elija, con su marca y, en las marcadas, su
+/// coste y sus años; y la que se elige: qué cambiaría en los datos y la orden de aplicarla como
+/// caso de mejora.
 class ListaMejoras : public QWidget {
   Q_OBJECT
 
@@ -20,13 +22,27 @@ class ListaMejoras : public QWidget {
   /// \param medidas puede ser nula: no se ha medido ninguna
   void Ensenar(const ResultadoMedida& base, const std::vector<ResultadoMedida>* medidas);
 
+ signals:
+  /// Se ha marcado o desmarcado una medida.
+  void Marcada();
+
  private:
+  QWidget* CajaOrden();
+  void Ordenar();
+  void PonerTabla(bool entera);
+  void PonerCasillas();
+  int CodigoDe(int fila) const;
   int Elegida() const;
+  void AlCambiar(QTableWidgetItem* casilla);
   void AlElegir();
   void Aplicar();
 
   ContextoGui& contexto_;
+  ResultadoMedida base_;
+  std::vector<ResultadoMedida> medidas_;
   QLabel *ninguna_, *que_;
+  QWidget* orden_;
+  QComboBox* criterio_;
   VistaTabla* tabla_;
   QPushButton* aplicar_;
 };

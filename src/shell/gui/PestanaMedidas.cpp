@@ -97,14 +97,14 @@ void PestanaMedidas::AnadirFila(const MedidaPredefinida& medida, QGridLayout* re
   nueva.marca->setAccessibleName(Q(medida.texto));
   connect(nueva.marca, &QCheckBox::clicked, this,
           [this, n = medida.codigo](bool si) { Marcar(n, si); });
-  rejilla->addWidget(nueva.marca, fila, kMarca, Qt::AlignTop);
+  rejilla->addWidget(nueva.marca, fila, kMarca, Qt::AlignVCenter);
   nueva.texto = new QLabel(Q(medida.texto).replace("  +   ", " + "), hoja);
   nueva.texto->setWordWrap(true);
   nueva.texto->installEventFilter(this);
-  rejilla->addWidget(nueva.texto, fila, kTexto, Qt::AlignTop);
+  rejilla->addWidget(nueva.texto, fila, kTexto, Qt::AlignVCenter);
   nueva.valor = new QLabel(hoja);
   nueva.valor->setObjectName("LL" + codigo);
-  rejilla->addWidget(nueva.valor, fila, kValor, Qt::AlignTop);
+  rejilla->addWidget(nueva.valor, fila, kValor, Qt::AlignVCenter);
   const auto cifra = [&](const char* prefijo, const QString& que,
                          std::string MedidaEstudio::*campo) {
     OpcionesCampo opciones = OpcionesSinCalculo(que, Q(medida.texto));
@@ -120,7 +120,7 @@ void PestanaMedidas::AnadirFila(const MedidaPredefinida& medida, QGridLayout* re
     QLineEdit* editor = enlaces_.Celda(S(prefijo + codigo), opciones, aviso);
     editor->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     editor->setFixedWidth(kAnchoCifra);
-    rejilla->addWidget(editor, fila, campo == kPrecioMedida ? kCoste : kAnos, Qt::AlignTop);
+    rejilla->addWidget(editor, fila, campo == kPrecioMedida ? kCoste : kAnos, Qt::AlignVCenter);
     rejilla->addWidget(aviso, fila + 1, kTexto, 1, kAnos);
     return editor;
   };
