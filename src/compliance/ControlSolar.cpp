@@ -16,6 +16,8 @@ constexpr int kDecimales = 2;
 constexpr std::size_t kHorizontal = kSectores;
 constexpr std::array<const char*, kColumnasControl> kColumnas = {
     "Norte", "Oeste", "SurOeste", "Sur", "SurEste", "Este", "Hz."};
+constexpr std::array<const char*, kColumnasControl> kColumnasGrafico = {"N",  "O", "SO", "S",
+                                                                        "SE", "E", "Hz."};
 
 double D(float x) {
   return static_cast<double>(x);
@@ -80,7 +82,7 @@ Tabla TablaControl(const ControlSolar& c) {
 Grafico GraficoControl(const ControlSolar& c) {
   Grafico g;
   g.titulo = "qsol,julio por orientación";
-  g.posiciones.assign(kColumnas.begin(), kColumnas.end());
+  g.posiciones.assign(kColumnasGrafico.begin(), kColumnasGrafico.end());
   g.ejeY = "kWh";
   g.series = {{"qsol,julio", {c.ganancia.begin(), c.ganancia.end()}}};
   return g;

@@ -142,9 +142,12 @@ Tabla TablaMaximos(const TransmitanciasMaximas& maximas) {
   Tabla tabla;
   tabla.titulo = "Valores máximos";
   tabla.cabeceras = {"CERRAMIENTO", "UPROYECTO", "UMAX", "CUMPLIMIENTO"};
-  for (const FilaMaximo& fila : maximas.filas)
-    tabla.filas.push_back({fila.rotulo, fila.TextoValor(),
+  for (const FilaMaximo& fila : maximas.filas) {
+    Celda proyecto(fila.TextoValor());
+    if (fila.valor != 0.0F) proyecto.numero = static_cast<double>(fila.valor);
+    tabla.filas.push_back({fila.rotulo, std::move(proyecto),
                            Celda::Numero(static_cast<double>(fila.limite), 2), fila.TextoCumple()});
+  }
   return tabla;
 }
 

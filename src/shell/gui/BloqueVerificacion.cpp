@@ -1,6 +1,7 @@
 #include "shell/gui/BloqueVerificacion.h"
 
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -13,9 +14,22 @@ namespace {
 constexpr int kIcono = 18;
 constexpr int kAltoSuelto = 280, kAltoAlLado = 210;  // de un gráfico, en píxeles
 constexpr std::size_t kColumnasEstrechas = 8;        // una tabla más ancha va sobre su gráfico
+constexpr std::string_view kColumnaNombre = "Nombre";
+constexpr int kParteTablas = 5, kParteDibujos = 6;  // del ancho, cuando van al lado
 
 bool EsAncha(const Tabla& tabla) {
   return tabla.cabeceras.size() > kColumnasEstrechas;
+}
+
+// En una tabla ancha los nombres ceden su sitio, para que lo demás se vea sin desplazarla.
+void EncogerNombres(VistaTabla& vista) {
+  const Tabla& tabla = vista.Puesta();
+  const auto it = std::find(tabla.cabeceras.begin(), tabla.cabeceras.end(), kColumnaNombre);
+  if (!EsAncha(tabla) || it == tabla.cabeceras.end()) return;
+  const int columna = static_cast<int>(it - tabla.cabeceras.begin());
+  vista.Rejilla()->horizontalHeader()->setSectionResizeMode(columna, QHeaderView::Stretch);
+  for (int f = 0; f < vista.Rejilla()->rowCount(); ++f)
+    vista.Rejilla()->item(f, columna)->setToolTip(vista.Rejilla()->item(f, columna)->text());
 }
 
 const char* PapelDe(const std::optional<MarcaHE>& marca) {
@@ -61,7 +75,7 @@ BloqueVerificacion::BloqueVerificacion(QWidget* padre) : QWidget(padre) {
   cuerpo_->setSpacing(18);
   columna_ = new QVBoxLayout;
   columna_->addStretch(1);
-  cuerpo_->addLayout(columna_, 1);
+  cuerpo_->addLayout(columna_, kParteTablas);
   dibujos_ = new QWidget(this);
   auto* dibujo = new QVBoxLayout(dibujos_);
   dibujo->setContentsMargins(0, 0, 0, 0);
@@ -73,12 +87,13 @@ BloqueVerificacion::BloqueVerificacion(QWidget* padre) : QWidget(padre) {
   dibujo->addWidget(cual_, 0, Qt::AlignLeft);
   grafico_ = new VistaGrafico(dibujos_);
   dibujo->addWidget(grafico_, 1);
-  cuerpo_->addWidget(dibujos_, 1);
+  cuerpo_->addWidget(dibujos_, kParteDibujos);
   todo->addLayout(cuerpo_);
 }
 
 void BloqueVerificacion::PonerVeredicto(const BloqueHE& bloque) {
   veredicto_->setText(Q(bloque.veredicto));
+  veredicto_->setVisible(!bloque.veredicto.empty());
   PonerPapel(veredicto_, PapelDe(bloque.marca));
   icono_->setVisible(bloque.marca.has_value());
   if (bloque.marca) {
@@ -96,7 +111,10 @@ void BloqueVerificacion::PonerTablas(const std::vector<Tabla>& tablas) {
     tablas_.push_back(new VistaTabla(this));
     columna_->insertWidget(static_cast<int>(tablas_.size()) - 1, tablas_.back());
   }
-  for (std::size_t i = 0; i < tablas.size(); ++i) tablas_[i]->Poner(tablas[i]);
+  for (std::size_t i = 0; i < tablas.size(); ++i) {
+    tablas_[i]->Poner(tablas[i]);
+    EncogerNombres(*tablas_[i]);
+  }
 }
 
 void BloqueVerificacion::PonerGraficos(const std::vector<Grafico>& graficos) {

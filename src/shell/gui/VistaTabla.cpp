@@ -15,6 +15,7 @@
 #include "entry/HojaDeCalculo.h"
 #include "outputs/ExportacionTablas.h"
 #include "outputs/TextoTabla.h"
+#include "shell/gui/Estilo.h"
 #include "shell/gui/EtiquetaEnergetica.h"
 #include "shell/gui/TextoQt.h"
 
@@ -51,17 +52,30 @@ bool EsTotal(const std::vector<Celda>& fila) {
          rotulo.endsWith("total", Qt::CaseInsensitive);
 }
 
+// "No cumple" y los veredictos que empiezan así.
+bool EsIncumplimiento(const QString& texto) {
+  return texto.startsWith("No cumple", Qt::CaseInsensitive);
+}
+
+// Una raya está por la cifra que falta.
+bool EsRaya(const std::string& texto) {
+  return !texto.empty() && texto.find_first_not_of('-') == std::string::npos;
+}
+
 QTableWidgetItem* Casilla(const Celda& celda, bool total) {
   auto* casilla = new QTableWidgetItem(Q(celda.texto));
   QFont letra = casilla->font();
-  if (celda.numero) casilla->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  if (celda.numero || EsRaya(celda.texto))
+    casilla->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
   const QString calificacion = LetraDe(casilla->text());
   if (!calificacion.isEmpty()) {
     casilla->setTextAlignment(Qt::AlignCenter);
     casilla->setBackground(ColorLetra(calificacion));
     casilla->setForeground(TextoSobreLetra(calificacion));
   }
-  if (total || (!calificacion.isEmpty() && casilla->text() == calificacion)) {
+  const bool incumple = EsIncumplimiento(casilla->text());
+  if (incumple) casilla->setForeground(ColorAviso(QApplication::palette()));
+  if (total || incumple || (!calificacion.isEmpty() && casilla->text() == calificacion)) {
     letra.setBold(true);
     casilla->setFont(letra);
   }
