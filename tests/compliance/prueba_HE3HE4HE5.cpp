@@ -162,7 +162,10 @@ TEST_F(HE4, ElMinimoCambiaCon5000Litros) {
   r = Comprobar();
   EXPECT_EQ(r.minimo, 60);
   EXPECT_EQ(r.campos[0].valor.texto, "255.00");
-  EXPECT_EQ(r.campos[4].valor.texto, "4998.00");
+  // La demanda es la del volumen de referencia, con el agua de red a 0 °C: 4998·4,184·60·365/3600;
+  // el consumo, el del proyecto.
+  EXPECT_EQ(r.campos[3].valor.texto, "127212.43");
+  EXPECT_EQ(r.campos[4].valor.texto, "1000.00");
 }
 
 TEST_F(HE4, NoSeExigeConPocaAguaNiEnUnaIntervencionExenta) {
