@@ -38,6 +38,17 @@ void VentanaTest::Ordenar(const QString& texto) {
   ADD_FAILURE() << "no hay orden " << texto.toStdString();
 }
 
+CopiaPrograma::CopiaPrograma() {
+  const std::filesystem::path origen = NOVEX_PROGRAMA_PRUEBAS;
+  for (const auto& entrada : std::filesystem::directory_iterator(origen))
+    if (entrada.path().filename() != "database")
+      std::filesystem::create_symlink(entrada.path(),
+                                      programa / entrada.path().filename().string());
+  std::filesystem::copy(
+      origen / "database", programa / "database",
+      std::filesystem::copy_options::recursive | std::filesystem::copy_options::copy_symlinks);
+}
+
 bool GuardarCaptura(QWidget& ventana, const QString& ruta) {
   const QImage imagen = ventana.grab().toImage().convertToFormat(QImage::Format_RGB888);
   return imagen.save(ruta, "PNG", 0);

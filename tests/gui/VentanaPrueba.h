@@ -68,6 +68,12 @@ class VentanaTest : public testing::Test {
   std::unique_ptr<TForm1> ventana;
 };
 
+/// Una carpeta de programa con sus propios catálogos, para las pruebas que los cambian.
+struct CopiaPrograma {
+  CopiaPrograma();
+  novex::pruebas::CarpetaTemporal programa;
+};
+
 /// Guarda la imagen de una ventana para el manual, sin transparencia y muy comprimida.
 /// \returns si se ha podido
 bool GuardarCaptura(QWidget& ventana, const QString& ruta);

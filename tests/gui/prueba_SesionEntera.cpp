@@ -19,22 +19,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Una carpeta de programa con sus propios catálogos, que cambian.
-struct CopiaPrograma {
-  CopiaPrograma() {
-    const fs::path programa = NOVEX_PROGRAMA_PRUEBAS;
-    for (const auto& entrada : fs::directory_iterator(programa))
-      if (entrada.path().filename() != "database")
-        fs::create_symlink(entrada.path(), copia / entrada.path().filename().string());
-    fs::copy(programa / "database", copia / "database",
-             fs::copy_options::recursive | fs::copy_options::copy_symlinks);
-  }
-  novex::pruebas::CarpetaTemporal copia;
-};
-
 class SesionEnteraTest : private CopiaPrograma, public VentanaTest {
  protected:
-  SesionEnteraTest() : VentanaTest(copia / "") {}
+  SesionEnteraTest() : VentanaTest(programa / "") {}
   void Pestana(Destino destino, const char* titulo) {
     ventana->Mostrar(destino);
     qobject_cast<PaginaPestanas*>(ventana->PaginaDe(destino))->Mostrar(titulo);

@@ -165,5 +165,33 @@ TEST_F(THE1Test, LasSuperficiesDelHE5CambianElVeredictoSinRecalcular) {
   EXPECT_EQ(tiras->tabToolTip(he5), "No cumple");
 }
 
+class THE1EstropeadoTest : private CopiaPrograma, public VentanaTest {
+ protected:
+  THE1EstropeadoTest() : VentanaTest(programa / "") {}
+  std::filesystem::path Limites() const { return programa / "database/Klimite.xml"; }
+};
+
+TEST_F(THE1EstropeadoTest, UnFicheroDeLimitesEstropeadoSeDiceYNoSeJuzgaConEl) {
+  ASSERT_TRUE(ventana->Abrir(Ejemplo("vivienda_unifamiliar_D3.xml")));
+  ventana->Mostrar(Destino::HE);
+  QWidget* pagina = ventana->PaginaDe(Destino::HE);
+  auto* tiras = pagina->findChild<QTabWidget*>();
+  const auto veredictos = [&] { return pagina->findChildren<QLabel*>("veredicto").size(); };
+  EXPECT_EQ(tiras->tabToolTip(0), "No cumple");
+  EXPECT_GT(veredictos(), 0);
+  const std::string bueno = LeerFichero(Limites());
+  EscribirFichero(Limites(), "<Klimite><L");
+  ventana->Mostrar(Destino::HE);
+  EXPECT_EQ(tiras->tabToolTip(0), "");
+  EXPECT_EQ(veredictos(), 0);
+  bool dicho = false;
+  for (const auto* texto : pagina->findChildren<QLabel*>())
+    dicho = dicho || (texto->isVisible() && texto->text().contains("Klimite.xml"));
+  EXPECT_TRUE(dicho);
+  EscribirFichero(Limites(), bueno);
+  ventana->Mostrar(Destino::HE);
+  EXPECT_EQ(tiras->tabToolTip(0), "No cumple");
+}
+
 }  // namespace
 }  // namespace novex::gui::pruebas

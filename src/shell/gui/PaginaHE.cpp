@@ -20,8 +20,9 @@ PaginaHE::PaginaHE(ContextoGui& contexto, HojaHE hoja,
 }
 
 void PaginaHE::Ensenar(const CasoCalculado& caso) {
-  if (!verificacion_) return;
-  const std::vector<BloqueHE> bloques = BloquesHojaHE(hoja_, *verificacion_, *caso.resultado);
+  // Sin verificación no se deja a la vista la de otro caso.
+  std::vector<BloqueHE> bloques;
+  if (verificacion_) bloques = BloquesHojaHE(hoja_, *verificacion_, *caso.resultado);
   while (bloques_.size() > bloques.size()) {
     delete bloques_.back();
     bloques_.pop_back();

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "base/ErrorFichero.h"
 #include "outputs/CasoCalculado.h"
 #include "shell/gui/BloqueVerificacion.h"
 #include "shell/gui/PaginaHE.h"
@@ -19,7 +20,10 @@ constexpr std::array kDeHE1 = {HojaHE::Global, HojaHE::Maximas, HojaHE::Condensa
 
 void PonerMarca(PaginaPestanas& pestanas, const QString& titulo,
                 const std::optional<MarcaHE>& marca) {
-  if (marca) pestanas.Marcar(titulo, IconoMarca(*marca), Q(TextoMarca(*marca)));
+  if (marca)
+    pestanas.Marcar(titulo, IconoMarca(*marca), Q(TextoMarca(*marca)));
+  else
+    pestanas.Marcar(titulo, {}, {});
 }
 
 }  // namespace
@@ -58,19 +62,28 @@ void THE1::Verificar() {
   const auto& resultado = contexto_.Caso().GetCalculo();
   if (!resultado) return;
   const std::filesystem::path datos = contexto_.Ficheros().Espacio().Datos();
-  verificacion_ = VerificarHE(contexto_.Caso(), *resultado, LeerDocumentosHE(datos));
-  if (EscribirDocumentosHE(datos, *verificacion_) == 0) return;
-  fallo_->setText(
-      tr("No se han podido escribir los documentos de trabajo en \"%1\"").arg(Q(datos)));
+  try {
+    verificacion_ = VerificarHE(contexto_.Caso(), *resultado, LeerDocumentosHE(datos));
+  } catch (const ErrorFichero& error) {
+    // Con un fichero de límites estropeado no se juzga nada.
+    return DecirFallo(Q(error.what()));
+  }
+  if (EscribirDocumentosHE(datos, *verificacion_) != 0)
+    DecirFallo(tr("No se han podido escribir los documentos de trabajo en \"%1\"").arg(Q(datos)));
+}
+
+void THE1::DecirFallo(const QString& texto) {
+  fallo_->setText(texto);
   fallo_->show();
 }
 
 void THE1::PonerMarcas() {
-  for (const HojaHE hoja : kSueltas)
-    PonerMarca(*this, Q(TituloHojaHE(hoja)), MarcaHoja(hoja, *verificacion_));
-  for (const HojaHE hoja : kDeHE1)
-    PonerMarca(*he1_, Q(TituloHojaHE(hoja)), MarcaHoja(hoja, *verificacion_));
-  PonerMarca(*this, kHE1, MarcaHE1(*verificacion_));
+  const auto marca = [this](HojaHE hoja) {
+    return verificacion_ ? MarcaHoja(hoja, *verificacion_) : std::nullopt;
+  };
+  for (const HojaHE hoja : kSueltas) PonerMarca(*this, Q(TituloHojaHE(hoja)), marca(hoja));
+  for (const HojaHE hoja : kDeHE1) PonerMarca(*he1_, Q(TituloHojaHE(hoja)), marca(hoja));
+  PonerMarca(*this, kHE1, verificacion_ ? std::optional(MarcaHE1(*verificacion_)) : std::nullopt);
 }
 
 void THE1::Refrescar() {
@@ -82,7 +95,7 @@ void THE1::Refrescar() {
     alcance << Q(texto);
   alcance_->setText(alcance.join(' '));
   Verificar();
-  if (verificacion_) PonerMarcas();
+  PonerMarcas();
   PaginaPestanas::Refrescar();
 }
 

@@ -20,6 +20,7 @@ class THE1 : public PaginaPestanas {
  private:
   void Verificar();
   void PonerMarcas();
+  void DecirFallo(const QString& texto);
 
   std::optional<VerificacionHE> verificacion_;
   QLabel *fallo_, *alcance_;
