@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTreeWidget>
 
@@ -61,6 +62,28 @@ TEST_F(CasillasTest, CadaCasillaCambiaSuCampoYVuelve) {
   Pulsar(ventana->PaginaDe(Destino::Definicion));
   // 13 intervenciones, 9 condiciones, la zona, las renovaciones, la fotovoltaica y los equipos.
   EXPECT_GE(pulsadas, 26);
+}
+
+// El punto de un editor que más se aparta de su fondo.
+int Contraste(QWidget& editor, const QPalette& paleta) {
+  editor.setPalette(paleta);
+  editor.resize(60, 24);
+  const QImage imagen = editor.grab().toImage();
+  const int fondo = paleta.color(QPalette::Window).lightness();
+  int mayor = 0;
+  for (int y = 0; y < imagen.height(); ++y)
+    for (int x = 0; x < imagen.width(); ++x)
+      mayor = std::max(mayor, std::abs(imagen.pixelColor(x, y).lightness() - fondo));
+  return mayor;
+}
+
+TEST(CasillasSinMarcar, SeVenTambienConFondoOscuro) {
+  QCheckBox casilla;
+  QRadioButton opcion;
+  QPalette oscura(QColor(50, 53, 57), QColor(36, 39, 42));
+  oscura.setColor(QPalette::Base, QColor(30, 32, 35));
+  EXPECT_GT(Contraste(casilla, oscura), 80);
+  EXPECT_GT(Contraste(opcion, oscura), 80);
 }
 
 }  // namespace

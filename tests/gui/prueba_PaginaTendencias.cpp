@@ -106,6 +106,18 @@ TEST_F(PaginaTendenciasTest, LosValoresSonLosDelEstudioEnCadaDato) {
   }
 }
 
+// Con todas hechas de golpe se notaba al entrar.
+TEST_F(PaginaTendenciasTest, SoloSeConstruyeLoQueSeVe) {
+  ASSERT_TRUE(ventana->Abrir(Ejemplo("vivienda_unifamiliar_D3.xml")));
+  ventana->Mostrar(Destino::Certificacion);
+  auto* resultados = ventana->PaginaDe(Destino::Certificacion);
+  EXPECT_EQ(resultados->findChildren<PaginaResultados*>().size(), 1);
+  AbrirEn("vivienda_unifamiliar_D3.xml");
+  EXPECT_EQ(pagina->findChildren<PestanaMedidas*>().size(), 1);
+  pagina->findChild<QTabWidget*>()->setCurrentIndex(2);
+  EXPECT_EQ(pagina->findChildren<PestanaMedidas*>().size(), 2);
+}
+
 TEST_F(PaginaTendenciasTest, CuatroMarcasAvisanYNoCalculan) {
   AbrirEn("vivienda_unifamiliar_D3.xml");
   for (const int codigo : {3, 9, 57}) Marcar(codigo);
