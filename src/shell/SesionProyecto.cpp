@@ -167,9 +167,10 @@ void SesionProyecto::Empezar(const std::filesystem::path& fichero,
 
 bool SesionProyecto::Abrir(const std::filesystem::path& ruta) {
   ModoCodificacion codificacion;
-  const ProyectoAbierto abierto =
+  ProyectoAbierto abierto =
       AbrirProyecto(gestor_, ruta, ModoApertura::Nuevo, mensajes_, codificacion);
   if (!abierto.abierto) return false;
+  lectura_ = std::move(abierto.informe);
   CompletarProyecto(gestor_, abierto.casosSinUso, ficheros_, mensajes_);
   gestor_.ActivarCaso(caso::kViejo);
   Empezar(ruta, codificacion);
@@ -180,9 +181,10 @@ bool SesionProyecto::Anadir(const std::filesystem::path& ruta) {
   Instantanea foto = Fotografiar("añadir " + ruta.filename().string(), true);
   bool sustituido = false;
   ModoCodificacion codificacion;
-  const ProyectoAbierto abierto =
+  ProyectoAbierto abierto =
       AnadirProyecto(gestor_, ruta, ficheros_, mensajes_, sustituido, codificacion);
   if (!abierto.abierto) return false;
+  lectura_ = std::move(abierto.informe);
   gestor_.ActivarCaso(caso::kViejo);
   // Deshacerlo dejaría los datos de antes con el fichero del otro.
   if (sustituido)

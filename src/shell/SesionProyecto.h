@@ -70,6 +70,8 @@ class SesionProyecto {
   /// Abre un proyecto. Si no se puede leer, el que hay queda como estaba.
   /// \returns si lo ha abierto \throws ErrorFichero
   bool Abrir(const std::filesystem::path& ruta);
+  /// Qué ha sido de lo que decía el último fichero leído, si es de una versión anterior.
+  const InformeLectura& Lectura() const { return lectura_; }
   /// Añade los casos de otro fichero, o lo abre si el proyecto no tiene datos coherentes: entonces
   /// es como `Abrir`. Deja activo el caso base. \throws ErrorFichero
   bool Anadir(const std::filesystem::path& ruta);
@@ -113,6 +115,7 @@ class SesionProyecto {
   GestorEdifActivo gestor_;
   ModoCodificacion codificacion_;
   std::filesystem::path fichero_;
+  InformeLectura lectura_;
   std::vector<Instantanea> deshacer_, rehacer_;
   std::uint64_t revision_ = 0, guardada_ = 0, ultima_ = 0;
 };

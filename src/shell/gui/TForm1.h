@@ -83,6 +83,7 @@ class TForm1 : public QMainWindow {
   bool GuardarEn(const std::filesystem::path& ruta);
   void AvisarDeFichero(const ErrorFichero& error);
   void Recordar(const std::filesystem::path& ruta);
+  void EnsenarLectura(const std::filesystem::path& ruta);
   void AlEditar();
   void AlCambiarProyecto();
   void AlGuardar();

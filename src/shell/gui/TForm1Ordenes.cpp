@@ -10,9 +10,11 @@
 
 #include "base/ErrorFichero.h"
 #include "files/ErroresXml.h"
+#include "files/ProyectoFichero.h"
 #include "shell/LanzadorExterno.h"
 #include "shell/gui/DialogoAcerca.h"
 #include "shell/gui/DialogoAyuda.h"
+#include "shell/gui/DialogoLectura.h"
 #include "shell/gui/ProyectosConocidos.h"
 #include "shell/gui/TForm1.h"
 #include "shell/gui/TImpresor.h"
@@ -97,7 +99,14 @@ bool TForm1::Abrir(const std::filesystem::path& ruta) {
   recuperacion_.Quitar();
   Recordar(contexto_.Sesion().Fichero());
   emit contexto_.ProyectoCambiado();
+  EnsenarLectura(ruta);
   return true;
+}
+
+// Lo que se ha cambiado o supuesto al leer un fichero de una versión anterior.
+void TForm1::EnsenarLectura(const std::filesystem::path& ruta) {
+  const InformeLectura& lectura = contexto_.Sesion().Lectura();
+  if (!lectura.Vacio()) (new DialogoLectura(lectura, Q(ruta.filename()), this))->show();
 }
 
 // Con un XML que no se entiende el programa acaba; lo abierto queda en su copia de recuperación. La
@@ -133,8 +142,10 @@ void TForm1::AlGuardar() {
   PonerTitulo();
 }
 
+// Un fichero de texto se guarda como XML, al lado: ahí puede haber otro, y lo pregunta el diálogo.
 void TForm1::Guardar() {
-  if (contexto_.Sesion().TieneFichero())
+  const SesionProyecto& s = contexto_.Sesion();
+  if (s.TieneFichero() && RutaDeGuardado(s.Fichero()) == s.Fichero())
     GuardarEn({});
   else
     GuardarComo();
@@ -142,8 +153,8 @@ void TForm1::Guardar() {
 
 void TForm1::GuardarComo() {
   const SesionProyecto& s = contexto_.Sesion();
-  const auto propuesta =
-      s.TieneFichero() ? s.Fichero() : contexto_.Ficheros().Espacio().Proyectos() / s.Fichero();
+  const auto propuesta = RutaDeGuardado(
+      s.TieneFichero() ? s.Fichero() : contexto_.Ficheros().Espacio().Proyectos() / s.Fichero());
   const QString ruta =
       QFileDialog::getSaveFileName(this, tr("Guardar como"), Q(propuesta), kFiltro);
   if (!ruta.isEmpty()) GuardarEn(S(ruta));
@@ -156,11 +167,13 @@ void TForm1::Anadir() {
   if (ruta.isEmpty() || (!ComprobacionesPrevias(contexto_.Caso()).empty() && !PreguntarGuardar()))
     return;
   try {
-    contexto_.Sesion().Anadir(S(ruta));
+    if (!contexto_.Sesion().Anadir(S(ruta))) return;
   } catch (const ErrorFichero& error) {
     AvisarDeFichero(error);
+    return;
   }
   emit contexto_.ProyectoCambiado();
+  EnsenarLectura(S(ruta));
 }
 
 void TForm1::Imprimir(bool administracion) {
