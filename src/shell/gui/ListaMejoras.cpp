@@ -62,6 +62,13 @@ ListaMejoras::ListaMejoras(ContextoGui& contexto, QWidget* padre)
   fila->addWidget(aplicar_);
   columna->addLayout(fila);
   connect(tabla_->Rejilla(), &QTableWidget::itemSelectionChanged, this, &ListaMejoras::AlElegir);
+  // Los textos de las medidas se parten según el ancho que queda, que es firme tras el aviso.
+  connect(
+      tabla_->Rejilla()->horizontalHeader(), &QHeaderView::sectionResized, this,
+      [this](int c) {
+        if (c == tabla_->Rejilla()->columnCount() - 1) tabla_->Rejilla()->resizeRowsToContents();
+      },
+      Qt::QueuedConnection);
   connect(tabla_->Rejilla(), &QTableWidget::itemChanged, this, &ListaMejoras::AlCambiar);
   connect(aplicar_, &QPushButton::clicked, this, &ListaMejoras::Aplicar);
 }
@@ -142,35 +149,43 @@ void ListaMejoras::PonerCasillas() {
   }
 }
 
+// La edición vuelve a hacer la tabla: se espera a que la casilla acabe de cambiar.
 void ListaMejoras::AlCambiar(QTableWidgetItem* casilla) {
   const int codigo = CodigoDe(casilla->row());
   const int columna = casilla->column();
   if (codigo == 0) return;
-  // La edición vuelve a hacer la tabla: se espera a que la casilla acabe de cambiar.
-  QMetaObject::invokeMethod(
-      this,
-      [this, codigo, columna, marca = casilla->checkState() == Qt::Checked,
-       texto = S(casilla->text())] {
-        if (columna == kMarca) {
-          contexto_.Editar(
-              marca ? tr("señalar una mejora") : tr("quitar una mejora"),
-              [&](Edificio& e) { MarcarMedida(e, codigo, marca); }, false);
-          emit Marcada();
-        } else if (columna == kCoste || columna == kAnos) {
-          RegistroMensajes avisos;
-          contexto_.Editar(
-              columna == kCoste ? tr("Coste estimado, €") : tr("Periodo de amortización, años"),
-              [&](Edificio& e) {
-                PonerCifraMedida(e, codigo, columna == kCoste ? kPrecioMedida : kAmortizacionMedida,
-                                 texto, avisos);
-              },
-              false);
-          for (const Mensaje& aviso : avisos.recibidos)
-            contexto_.Sesion().Avisos().Avisar(aviso.titulo, aviso.texto);
-          PonerTabla(true);
-        }
+  if (columna == kMarca)
+    QMetaObject::invokeMethod(
+        this,
+        [this, codigo, si = casilla->checkState() == Qt::Checked] { CambiarMarca(codigo, si); },
+        Qt::QueuedConnection);
+  else if (columna == kCoste || columna == kAnos)
+    QMetaObject::invokeMethod(
+        this,
+        [this, codigo, columna, texto = S(casilla->text())] {
+          CambiarCifra(codigo, columna == kCoste, texto);
+        },
+        Qt::QueuedConnection);
+}
+
+void ListaMejoras::CambiarMarca(int codigo, bool si) {
+  contexto_.Editar(
+      si ? tr("señalar una mejora") : tr("quitar una mejora"),
+      [&](Edificio& e) { MarcarMedida(e, codigo, si); }, false);
+  emit Marcada();
+}
+
+void ListaMejoras::CambiarCifra(int codigo, bool coste, const std::string& texto) {
+  RegistroMensajes avisos;
+  contexto_.Editar(
+      coste ? tr("Coste estimado, €") : tr("Periodo de amortización, años"),
+      [&](Edificio& e) {
+        PonerCifraMedida(e, codigo, coste ? kPrecioMedida : kAmortizacionMedida, texto, avisos);
       },
-      Qt::QueuedConnection);
+      false);
+  PonerTabla(true);
+  for (const Mensaje& aviso : avisos.recibidos)
+    contexto_.Sesion().Avisos().Avisar(aviso.titulo, aviso.texto);
 }
 
 int ListaMejoras::CodigoDe(int fila) const {

@@ -34,6 +34,8 @@ class ListaMejoras : public QWidget {
   int CodigoDe(int fila) const;
   int Elegida() const;
   void AlCambiar(QTableWidgetItem* casilla);
+  void CambiarMarca(int codigo, bool si);
+  void CambiarCifra(int codigo, bool coste, const std::string& texto);
   void AlElegir();
   void Aplicar();
 
