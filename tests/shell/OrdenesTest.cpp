@@ -290,6 +290,11 @@ TEST_F(Ordenes, MejorasYBateriaNoSePierdenNiSeParan) {
   Espera(todas, 0, {"\"codigo\": 101"});
   EXPECT_EQ(todas.salida, mejoras({"--todas", "--json", "-", "--hilos", "1"}).salida);
   EXPECT_EQ(mejoras({}).codigo, 1);  // ninguna marcada
+  EXPECT_EQ(mejoras({"--orden", "nada"}).codigo, 2);
+  const Ejecucion porDemanda = mejoras({"--todas", "--orden", "demanda", "--json", "-"});
+  // La que más aísla baja más la demanda que una caldera, que es la que más primaria ahorra.
+  EXPECT_LT(porDemanda.salida.find("\"codigo\": 95"), porDemanda.salida.find("\"codigo\": 101"));
+  EXPECT_GT(todas.salida.find("\"codigo\": 95"), todas.salida.find("\"codigo\": 101"));
 
   proyecto = (raiz / "marcado.xml").string();
   const auto cambiar = [&](const std::string& campo) {
