@@ -428,7 +428,8 @@ Grafico GraficoMeses(const Tabla& rejilla) {
   Grafico grafico;
   grafico.titulo = rejilla.titulo;
   if (rejilla.cabeceras.size() <= kMeses) return grafico;
-  grafico.ejeY = rejilla.cabeceras.front();
+  // La esquina acaba en la unidad; entera no cabe a lo alto de un gráfico de página.
+  grafico.ejeY = rejilla.cabeceras.front().find("CO2") == std::string::npos ? "kWh" : "kg CO2";
   grafico.posiciones.assign(rejilla.cabeceras.begin() + 1, rejilla.cabeceras.begin() + 1 + kMeses);
   for (const auto& fila : rejilla.filas) {
     const std::string& nombre = fila.front().texto;

@@ -56,6 +56,25 @@ TEST_F(VentanaTest, DeshacerHastaDondeNoSePuedeCalcularSacaDeLosResultados) {
   EXPECT_EQ(ventana->Mostrada(), Destino::Titulo);
 }
 
+TEST_F(VentanaTest, UnSubdestinoAbreSuPagina) {
+  ASSERT_TRUE(ventana->Abrir(Ejemplo("vivienda_unifamiliar_D3.xml")));
+  struct Paso {
+    Destino destino;
+    const char *subdestino, *pestana;
+  };
+  for (const Paso& p : {Paso{Destino::Edificio, "CiudadEntorno", "CiudadEntorno"},
+                        {Destino::Edificio, "Cubiertas", "Cubiertas"},
+                        {Destino::Edificio, "Suelos", "Suelos"},
+                        {Destino::Edificio, "Huecos", "Huecos"},
+                        {Destino::Edificio, "Puentes", "Puentes"},
+                        {Destino::Certificacion, "Temp", "Horarias"}}) {
+    ventana->Contexto().IrA(p.destino, p.subdestino);
+    ASSERT_EQ(ventana->Mostrada(), p.destino);
+    const auto* pestanas = ventana->PaginaDe(p.destino)->findChild<QTabWidget*>();
+    EXPECT_EQ(pestanas->tabText(pestanas->currentIndex()), p.pestana);
+  }
+}
+
 // El selector de casos y la comparación están cuando hay con qué; duplicar, mientras caben.
 TEST_F(VentanaTest, LasOrdenesDeCasosSiguenASuNumero) {
   ASSERT_TRUE(ventana->Abrir(Ejemplo("vivienda_unifamiliar_D3.xml")));

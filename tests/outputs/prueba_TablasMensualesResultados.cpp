@@ -149,7 +149,8 @@ TEST_F(PaginaMensualTest, DemandaSolarYFotovoltaica) {
 
 TEST_F(PaginaMensualTest, LosMesesEnBarrasSinTotalesNiFilasVacias) {
   const Grafico acs = GraficoMeses(Pedir(caso.Mostrar(), "instalacion-acs"));
-  EXPECT_EQ(acs.ejeY, "Instalacion ACS kWh");
+  EXPECT_EQ(acs.ejeY, "kWh");
+  EXPECT_EQ(GraficoMeses(Pedir(caso.Mostrar(), "elec-emisiones-acs")).ejeY, "kg CO2");
   ASSERT_EQ(acs.posiciones.size(), 12U);
   EXPECT_EQ(acs.posiciones.front() + acs.posiciones.back(), "ENEDIC");
   ASSERT_EQ(acs.series.size(), 3U);

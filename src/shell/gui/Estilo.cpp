@@ -52,6 +52,12 @@ QColor ColorAviso(const QPalette& paleta) {
 void PonerEstilo(QApplication& aplicacion) {
   QApplication::setStyle(new EstiloPrograma);
   const bool oscuro = EsOscura(QApplication::palette());
+  if (oscuro) {
+    // El azul de los enlaces no se lee sobre un fondo oscuro.
+    QPalette paleta = QApplication::palette();
+    paleta.setColor(QPalette::Link, QColor("#7fb8e6"));
+    QApplication::setPalette(paleta);
+  }
   const QString suave = oscuro ? "#9aa4ad" : "#66727c";
   const QString aviso = ColorAviso(QApplication::palette()).name();
   const QString distinto = oscuro ? "#7fb8e6" : "#1f5f8b";
