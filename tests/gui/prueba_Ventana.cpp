@@ -54,6 +54,17 @@ TEST_F(VentanaTest, DeshacerHastaDondeNoSePuedeCalcularSacaDeLosResultados) {
   ventana->Mostrar(Destino::Certificacion);
   Ordenar("Deshacer");
   EXPECT_EQ(ventana->Mostrada(), Destino::Titulo);
+  // Otro caso, calculado como los demás al entrar, se sigue viendo aunque a él le falte algo.
+  Ordenar("Rehacer");
+  Ordenar("Duplicar");
+  volumen(1);
+  sesion.ActivarCaso(caso::kViejo);
+  ventana->Mostrar(Destino::Certificacion);
+  auto* casos = ventana->findChild<QComboBox*>("RGEdificio");
+  emit casos->activated(1);
+  EXPECT_EQ(sesion.Gestor().NombreActivo(), "Mejora_1");
+  EXPECT_EQ(ventana->Mostrada(), Destino::Certificacion);
+  EXPECT_TRUE(mensajes.recibidos.empty());
 }
 
 TEST_F(VentanaTest, UnSubdestinoAbreSuPagina) {

@@ -261,8 +261,11 @@ void TForm1::AlCambiarProyecto() {
   // Antes que el estado, que enseña lo último calculado.
   panel_->PedirDeNuevo();
   PonerEstado();
-  // Deshecho o en otro caso, puede que ya no se pueda calcular. La barra de estado dice por qué.
-  if (EsDeResultados(mostrada_) && !AvisosPrevios(contexto_.Caso()).empty())
+  // Otro proyecto, o lo que se ha deshecho, puede que no se pueda calcular. La barra de estado dice
+  // por qué. Un caso calculado al entrar se sigue viendo.
+  const auto& hecho = contexto_.Caso().GetCalculo();
+  if (EsDeResultados(mostrada_) && (!hecho || !hecho->Calculado()) &&
+      !AvisosPrevios(contexto_.Caso()).empty())
     Mostrar(Destino::Titulo);
   else
     PaginaDe(mostrada_)->Refrescar();
