@@ -86,7 +86,7 @@ bool LeerCaso(const XMLNode& novex, Edificio& edificio, Mensajes& mensajes,
       propio.Anotar(propio.porDefecto,
                     "El uso y sus horarios: \"" + std::string(kUsoPorDefecto) + "\"");
   }
-  if (informe != nullptr) informe->Unir(std::move(propio));
+  if (informe != nullptr) informe->Juntar(propio);
   return diceUso;
 }
 

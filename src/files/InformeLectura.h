@@ -28,11 +28,11 @@ struct InformeLectura {
       lista.emplace_back("... y más");
   }
 
-  /// Añade detrás lo de otra lectura.
-  void Unir(InformeLectura otro) {
+  /// Añade lo de otro informe, con algo delante de cada línea.
+  void Juntar(const InformeLectura& otro, const std::string& delante = "") {
     for (auto lista : {&InformeLectura::leidos, &InformeLectura::porDefecto,
                        &InformeLectura::saltados, &InformeLectura::cambiados})
-      for (std::string& linea : otro.*lista) Anotar(this->*lista, std::move(linea));
+      for (const std::string& linea : otro.*lista) Anotar(this->*lista, delante + linea);
   }
 
   bool Vacio() const {

@@ -8,6 +8,7 @@
 #include "files/CamposFichero.h"
 #include "files/ErroresXml.h"
 #include "files/VersionProyecto.h"
+#include "files/texto/FicheroTexto.h"
 
 namespace novex {
 namespace {
@@ -173,6 +174,48 @@ ProyectoAbierto AbrirXml(GestorEdifActivo& gestor, const std::filesystem::path& 
                                      : Anadir(gestor, casos, mensajes);
 }
 
+void LeerDeTexto(FicheroTexto& fichero, std::string_view nombre, Edificio& edificio,
+                 Mensajes& mensajes, ProyectoAbierto& salida) {
+  salida.casosDeTexto.push_back(fichero.LeerCaso(edificio, nombre, mensajes, salida.informe));
+  salida.casos.push_back(nombre);
+  salida.casosSinUso.push_back(nombre);
+}
+
+// Pone los casos que quedan en las mejoras libres; los que no tienen sitio no se leen.
+void AnadirDeTexto(FicheroTexto& fichero, GestorEdifActivo& gestor, Mensajes& mensajes,
+                   ProyectoAbierto& salida) {
+  Anadidos anadidos(gestor);
+  while (fichero.QuedaCaso()) {
+    const std::string_view libre = gestor.PrimeraMejoraLibre();
+    if (libre.empty()) {
+      AvisarDemasiados(mensajes);
+      break;
+    }
+    anadidos.Crear(libre);
+    LeerDeTexto(fichero, libre, gestor.Activo(), mensajes, salida);
+  }
+  anadidos.Confirmar();
+}
+
+ProyectoAbierto AbrirTexto(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
+                           ModoApertura modo, Mensajes& mensajes) {
+  mensajes.Avisar(kAvisoFicheroTexto.titulo, kAvisoFicheroTexto.texto);
+  FicheroTexto fichero(ruta);
+  ProyectoAbierto salida;
+  if (modo == ModoApertura::Anadir) {
+    AnadirDeTexto(fichero, gestor, mensajes, salida);
+    CompartirImagenes(gestor);
+  } else {
+    GestorEdifActivo nuevo;
+    nuevo.NuevoProyecto();
+    LeerDeTexto(fichero, caso::kViejo, nuevo.Activo(), mensajes, salida);
+    AnadirDeTexto(fichero, nuevo, mensajes, salida);
+    gestor = std::move(nuevo);
+  }
+  salida.abierto = !salida.casos.empty();
+  return salida;
+}
+
 }  // namespace
 
 ProyectoAbierto AbrirProyecto(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
@@ -182,7 +225,8 @@ ProyectoAbierto AbrirProyecto(GestorEdifActivo& gestor, const std::filesystem::p
     case Formato::Ninguno:
       return {};
     case Formato::Texto:
-      FallarVersion(ruta, "los ficheros de texto");
+      codificacion = {};
+      return AbrirTexto(gestor, ruta, modo, mensajes);
     case Formato::Xml:
       break;
   }

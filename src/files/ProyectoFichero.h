@@ -7,6 +7,7 @@
 #include "base/Mensajes.h"
 #include "files/DatosDerivados.h"
 #include "files/InformeLectura.h"
+#include "files/texto/CasoDeTexto.h"
 #include "files/xmlParser.h"
 #include "model/GestorEdifActivo.h"
 
@@ -22,6 +23,8 @@ struct ProyectoAbierto {
   std::vector<std::string_view> casos;  ///< casos leídos, en el orden del fichero
   /// Los que no dicen su uso: han quedado como "Residencial" y necesitan sus horarios.
   std::vector<std::string_view> casosSinUso;
+  /// Los leídos de un fichero de texto, que todavía no tienen su sitio.
+  std::vector<CasoDeTexto> casosDeTexto;
   InformeLectura informe;  ///< de un fichero de una versión anterior
 };
 
@@ -29,8 +32,8 @@ struct ProyectoAbierto {
 /// "txt", un fichero de texto; cualquier otro no abre nada. Si los casos pasarían de seis no se
 /// abre nada y se avisa. Al acabar está activo el último caso leído. Si el fichero no se puede leer
 /// el proyecto queda como estaba. \param codificacion toma la del fichero; se pasa después a
-/// `GuardarProyecto` \throws ErrorFichero si falta, está mal formado o es de una versión que no se
-/// lee
+/// `GuardarProyecto`. A los casos leídos les falta lo que pone `CompletarProyecto`.
+/// \throws ErrorFichero si falta, está mal formado o es de una versión que no se lee
 ProyectoAbierto AbrirProyecto(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
                               ModoApertura modo, Mensajes& mensajes,
                               ModoCodificacion& codificacion);

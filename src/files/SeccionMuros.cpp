@@ -24,9 +24,6 @@ constexpr std::array kExterior = {
     UcteDe<ranura::MuroExt1, ranura::MuroExt2, ranura::MuroExt3, ranura::MuroExt4,
            ranura::MuroExt5>("UCTE_Muro_ext_W_m2K")};
 
-constexpr std::array<std::string_view, kSectores> kOrientaciones = {"Norte", "Oeste",   "SurOeste",
-                                                                    "Sur",   "SurEste", "Este"};
-
 constexpr std::array kOtro = {
     Real<z, &Z::Muro_otro_local_m2>("Muro_otro_local_m2", 1),
     Real<z, &Z::Muro_otro_local_ext_m2>("Muro_otro_local_ext_m2", 1),
@@ -36,7 +33,7 @@ constexpr std::array kOtro = {
     UDe<ranura::MuroExt6, ranura::MuroExt7>("U_Muro_otro_local_ext_W_m2K"),
     UcteDe<ranura::MuroExt6, ranura::MuroExt7>("UCTE_Muro_otro_local_ext_W_m2K"),
     Posicion<k, &K::Renovacion_Otro_Local>("Renovacion_Otro_Local", kClasesRenovacion),
-    Posicion<k, &K::Orientacion_Otro_Local>("Orientacion_Otro_Local", kOrientaciones),
+    Posicion<k, &K::Orientacion_Otro_Local>("Orientacion_Otro_Local", kOrientacionesLocal),
     UDe<ranura::MuroTerr1, ranura::MuroTerr2>("U_Muro_terreno_W_m2K"),
     UcteDe<ranura::MuroTerr1, ranura::MuroTerr2>("UCTE_Muro_terreno_W_m2K"),
     Real<k, &K::Profundidad_muro_enterrado_m>("Profundidad_muro_enterrado_m", 1),

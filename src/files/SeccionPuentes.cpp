@@ -1,4 +1,5 @@
 #include "files/SeccionesProyecto.h"
+#include "model/ListasPuentes.h"
 
 namespace novex {
 namespace {
@@ -9,14 +10,7 @@ constexpr auto k = &R::construccion;
 
 constexpr std::string_view kSeccion = "Puentes_Termicos";
 
-// La posición 3 no se usa.
-constexpr std::array<std::string_view, 6> kDefinicion = {"No aislado", "Aislado",     "Continuo",
-                                                         "",           "Dar valores", "Lider"};
-constexpr std::array<std::string_view, 4> kPilares = {"Pilares no aislados", "Pilares aislados ext",
-                                                      "Pilares aislados int", "Sin pilares"};
-constexpr std::array<std::string_view, 2> kExistencia = {"Con pilares", "Sin pilares"};
-constexpr std::array<std::string_view, 3> kVentanas = {
-    "Sin aislamiento", "Aislamiento en contacto marco", "Aislamiento sin contacto marco"};
+using namespace listaPuentes;
 
 constexpr std::array kCamposPuentes = {
     Real<k, &K::Espesor_forjado>("Espesor_forjado", 2),

@@ -48,6 +48,9 @@ inline constexpr auto kHRmin = Real<g, &DatosGenerales::HRmin>("HRmin", 0);
 /// Clases de renovación de los espacios no acondicionados: 0, 0.5, 1, 5 y 10 renovaciones por hora.
 inline constexpr std::array<std::string_view, 5> kClasesRenovacion = {
     "renovh=0.", "renovh=05", "renovh=1.", "renovh=5", "renovh=10"};
+/// Orientaciones de un espacio no acondicionado, por `Sector`.
+inline constexpr std::array<std::string_view, kSectores> kOrientacionesLocal = {
+    "Norte", "Oeste", "SurOeste", "Sur", "SurEste", "Este"};
 
 namespace camposFichero {
 

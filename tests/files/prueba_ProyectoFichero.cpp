@@ -142,7 +142,8 @@ TEST_F(ProyectoFichero, UnaLecturaQueFallaDejaElProyectoComoEstaba) {
             std::string::npos);
   EXPECT_TRUE(Abrir(Escribir(ProyectoDe(1, "NOVEXPLUS v6.2"))).abierto);
   SetUp();
-  EXPECT_NE(std::string(Falla(Escribir("[]", "p.txt")).what()).find("texto"), std::string::npos);
+  EXPECT_NE(std::string(Falla(Escribir("[]", "p.txt")).what()).find("ningún edificio"),
+            std::string::npos);
   EXPECT_FALSE(Abrir(Escribir(ProyectoDe(1), "p.nov")).abierto);
   EXPECT_EQ(Titulo(gestor_, "Viejo"), "Abierto");
   EXPECT_TRUE(Abrir(Escribir(ProyectoDe(1), "p.xml.copia")).abierto);
