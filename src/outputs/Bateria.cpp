@@ -10,8 +10,8 @@
 
 #include "base/NumeroTexto.h"
 #include "base/Texto.h"
-#include "calculation/CompletarProyecto.h"
 #include "calculation/EjecutarCalculo.h"
+#include "entry/CompletarProyecto.h"
 #include "files/ProyectoFichero.h"
 
 namespace novex {
@@ -96,13 +96,13 @@ std::vector<CasoBateria> CalcularProyecto(const std::string& ruta, FicherosProgr
   CasoBateria sinAbrir;
   sinAbrir.proyecto = ruta;
   try {
-    const ProyectoAbierto abierto = AbrirProyecto(gestor, ruta, ModoApertura::Nuevo, mensajes);
+    ProyectoAbierto abierto = AbrirProyecto(gestor, ruta, ModoApertura::Nuevo, mensajes);
     if (!abierto.abierto) {
       sinAbrir.fallo = mensajes.recibidos.empty() ? "no es un fichero de proyecto"
                                                   : mensajes.recibidos.back().texto;
       return {sinAbrir};
     }
-    CompletarProyecto(gestor, abierto.casosSinUso, ficheros, mensajes);
+    CompletarProyecto(gestor, abierto, ficheros, mensajes);
   } catch (const std::exception& error) {
     sinAbrir.fallo = error.what();
     return {sinAbrir};

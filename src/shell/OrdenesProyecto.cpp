@@ -1,7 +1,7 @@
 #include "shell/OrdenesProyecto.h"
 
-#include "calculation/CompletarProyecto.h"
 #include "calculation/ComprobacionesPrevias.h"
+#include "entry/CompletarProyecto.h"
 
 namespace novex {
 namespace {
@@ -55,10 +55,10 @@ ProyectoAbierto AnadirProyecto(GestorEdifActivo& gestor, const std::filesystem::
     mensajes.Avisar(kAviso,
                     "Se abre como si fuera nuevo, ya que el edificio que existe no tierne datos "
                     "coherentes");
-  const ProyectoAbierto abierto =
+  ProyectoAbierto abierto =
       AbrirProyecto(gestor, ruta, sustituido ? ModoApertura::Nuevo : ModoApertura::Anadir, mensajes,
                     codificacion);
-  if (abierto.abierto) CompletarProyecto(gestor, abierto.casosSinUso, ficheros, mensajes);
+  if (abierto.abierto) CompletarProyecto(gestor, abierto, ficheros, mensajes);
   return abierto;
 }
 

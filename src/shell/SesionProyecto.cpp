@@ -1,7 +1,7 @@
 #include "shell/SesionProyecto.h"
 
 #include "base/ErrorFichero.h"
-#include "calculation/CompletarProyecto.h"
+#include "entry/CompletarProyecto.h"
 #include "entry/ProyectoNuevo.h"
 #include "outputs/bloques/DerivadosDeResultados.h"
 #include "shell/Certificador.h"
@@ -170,8 +170,8 @@ bool SesionProyecto::Abrir(const std::filesystem::path& ruta) {
   ProyectoAbierto abierto =
       AbrirProyecto(gestor_, ruta, ModoApertura::Nuevo, mensajes_, codificacion);
   if (!abierto.abierto) return false;
+  CompletarProyecto(gestor_, abierto, ficheros_, mensajes_);
   lectura_ = std::move(abierto.informe);
-  CompletarProyecto(gestor_, abierto.casosSinUso, ficheros_, mensajes_);
   gestor_.ActivarCaso(caso::kViejo);
   Empezar(ruta, codificacion);
   return true;

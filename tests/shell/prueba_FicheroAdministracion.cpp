@@ -10,8 +10,8 @@
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
 #include "base/NumeroTexto.h"
-#include "calculation/CompletarProyecto.h"
 #include "calculation/EjecutarCalculo.h"
+#include "entry/CompletarProyecto.h"
 #include "files/CaminoXml.h"
 #include "files/CarpetaTemporal.h"
 #include "files/ProyectoFichero.h"
@@ -99,9 +99,9 @@ class FicheroAdministracion : public testing::Test {
   // Los casos del proyecto, con lo que el fichero no dice.
   void Abrir(const fs::path& ruta) {
     gestor.NuevoProyecto();
-    const ProyectoAbierto abierto = AbrirProyecto(gestor, ruta, ModoApertura::Nuevo, mensajes);
+    ProyectoAbierto abierto = AbrirProyecto(gestor, ruta, ModoApertura::Nuevo, mensajes);
     ASSERT_TRUE(abierto.abierto) << ruta;
-    CompletarProyecto(gestor, abierto.casosSinUso, ficheros, mensajes);
+    CompletarProyecto(gestor, abierto, ficheros, mensajes);
     mensajes.recibidos.clear();
   }
   EscrituraAdministracion Escribir(const fs::path& ruta) {

@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <memory>
 
 #include "entry/CambioUso.h"
@@ -6,6 +5,7 @@
 #include "files/ProyectoFichero.h"
 #include "outputs/TablaProyecto.h"
 #include "shell/Certificador.h"
+#include "shell/cli/AbrirProyectoConsola.h"
 #include "shell/cli/Ordenes.h"
 #include "shell/cli/SitioConsola.h"
 
@@ -18,17 +18,8 @@ struct OpcionesNuevo {
   bool sobrescribir = false;
 };
 
-// Un proyecto que ya está no se pierde por un descuido.
-void NoPisar(const OpcionesNuevo& o) {
-  std::error_code error;
-  const std::filesystem::path ruta = RutaDeGuardado(o.fichero);
-  if (o.sobrescribir || !std::filesystem::exists(ruta, error)) return;
-  if (std::filesystem::file_size(ruta, error) == 0 && !error) return;
-  throw ErrorUso("Ya existe \"" + ruta.string() + "\"; con --sobrescribir se escribe encima");
-}
-
 int Crear(const OpcionesNuevo& o) {
-  NoPisar(o);
+  NoPisar(o.fichero, o.sobrescribir);
   MensajesConsola mensajes;
   FicherosPrograma ficheros(AbrirEspacio(o.programa));
   const XMLNode& perfiles = ficheros.Xml("PerfilesUso.xml", "PERFILES_USO");
