@@ -457,5 +457,40 @@ TEST_F(OrdenImagen, LoQueNoSePuedeDejaElProyectoComoEstaba) {
   EXPECT_EQ(Imagen({"--extraer", Ruta("foto.jpg")}).codigo, 3);
 }
 
+// Un proyecto de texto se convierte con su informe, y el que ya está no se pisa.
+TEST_F(Ordenes, ConvertirPasaUnProyectoAntiguoYDiceComo) {
+  const std::string viejo = (raiz / "viejo.txt").string(), nuevo = (raiz / "nuevo.xml").string();
+  EscribirFichero(viejo,
+                  "*[S] Version.\nNOVEX v4.2\n** Seccion.\nDatos Generales.\n*[S] Rara.\n7\n"
+                  "*[S] Edificio Titulo.\nCasa vieja\n** Seccion.\n"
+                  "Datos Geograficos/obstaculos remotos.\n"
+                  "*[I] Indice Provincia datos clim\xE1ticos.\n31\n"
+                  "*[I] Indice Ciudad datos clim\xE1ticos.\n8\n*[S] Final.\n");
+  const auto convertir = [&](std::vector<std::string> mas) {
+    mas.insert(mas.begin(), nuevo);
+    return Orden("convertir", viejo, mas);
+  };
+  const Ejecucion hecha = convertir({});
+  Espera(hecha, 0,
+         {"Leído:", "Viejo: versión \"NOVEX v4.2\"",
+          "Puesto por defecto:", "Saltado:", "Línea 5: *[S] Rara. \"7\"",
+          "Cambiado:", "Provincia 31 y ciudad 8 de las listas -> Madrid, Getafe",
+          "1 caso guardado en " + nuevo});
+  EXPECT_PRED2(Contiene, hecha.errores, "Está leyendo un fichero de anteriores versiones");
+  Espera(Ejecutar({"info", nuevo}), 0, {"Casa vieja", "Getafe", "D3"});
+  const std::string antes = LeerFichero(nuevo);
+  Espera(convertir({}), 2, {"--sobrescribir"});
+  EXPECT_EQ(LeerFichero(nuevo), antes);
+  Espera(convertir({"--sobrescribir"}), 0);
+  // Uno de hoy no tiene nada que decir.
+  const Ejecucion otra = Orden("convertir", nuevo, {(raiz / "otro.xml").string()});
+  Espera(otra, 0);
+  EXPECT_FALSE(Contiene(otra.salida, "Leído"));
+  EXPECT_EQ(LeerFichero(raiz / "otro.xml"), antes);
+  EscribirFichero(viejo, "nada");
+  EXPECT_EQ(convertir({"--sobrescribir"}).codigo, 3);
+  EXPECT_EQ(LeerFichero(nuevo), antes);
+}
+
 }  // namespace
 }  // namespace novex

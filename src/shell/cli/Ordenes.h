@@ -25,6 +25,8 @@ void AnadirClima(CLI::App& programa, Orden& orden);
 void AnadirExpres(CLI::App& programa, Orden& orden);
 /// `nuevo`: crea un proyecto con los valores de partida.
 void AnadirNuevo(CLI::App& programa, Orden& orden);
+/// `convertir`: pasa a la disposición de hoy un proyecto de una versión anterior.
+void AnadirConvertir(CLI::App& programa, Orden& orden);
 /// `casos`: enseña, duplica, borra y añade casos.
 void AnadirCasos(CLI::App& programa, Orden& orden);
 /// `cambiar`: cambia campos de un proyecto.

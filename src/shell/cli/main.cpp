@@ -71,6 +71,7 @@ int Ejecutar(int argc, char** argv) {
   AnadirExportar(programa, orden);
   AnadirExpres(programa, orden);
   AnadirNuevo(programa, orden);
+  AnadirConvertir(programa, orden);
   AnadirCasos(programa, orden);
   AnadirCambiar(programa, orden);
   AnadirImagen(programa, orden);
