@@ -259,6 +259,18 @@ TEST_F(FicheroTexto, UnaLineaDesconocidaSeSaltaYSeApunta) {
   EXPECT_THAT(mensajes_.recibidos, SizeIs(1));
 }
 
+// Ni los avisos ni el informe crecen con lo estropeado que esté el fichero.
+TEST_F(FicheroTexto, MuchosErroresNoHacenMuchosAvisos) {
+  std::vector<std::string> lineas;
+  for (int i = 0; i < 2000; ++i)
+    lineas.insert(lineas.end(), {"*[F] Volumen total m3.", "abc", "*rara", std::string(5000, 'n')});
+  const ProyectoAbierto r = AbrirTexto(DeTercera("Datos Globales", lineas));
+  EXPECT_EQ(mensajes_.recibidos.size(), 22U);  // el de la lectura, veinte y el de que hay más
+  EXPECT_EQ(r.informe.saltados.size(), 501U);
+  EXPECT_LT(r.informe.saltados.front().size(), 300U);
+  EXPECT_THAT(r.informe.saltados.back(), HasSubstr("y más"));
+}
+
 // Una etiqueta es parte de su línea; tras la última no se lee más; un número que no lo es da el
 // aviso de siempre y vale 0.
 TEST_F(FicheroTexto, EtiquetasValoresYFinal) {
@@ -301,6 +313,10 @@ TEST_F(FicheroTexto, CodificacionesYFinalesDeLinea) {
     EXPECT_EQ(Generales().CodigoPostal, "46001");
     EXPECT_EQ(Generales().Edificio_Titulo, "Año nº 1 “ñ”");
   }
+  // Un fichero cortado a mitad de un carácter conserva los demás.
+  const std::string entero = Unir(lineas);
+  ASSERT_TRUE(AbrirTexto(entero.substr(0, entero.find("ñ”") + 1)).abierto);
+  EXPECT_EQ(Generales().CodigoPostal, "46001");
 }
 
 TEST_F(FicheroTexto, LasAreasDeLosRecintosSeSuman) {

@@ -5,20 +5,18 @@ namespace {
 
 constexpr std::size_t kLargoMaximoNota = 200;
 
-// Un valor como se enseña en el informe; el de un fichero estropeado puede ser enorme.
-std::string Citado(std::string_view texto) {
-  std::string nota = "\"" + std::string(texto.substr(0, kLargoMaximoNota));
-  // Sin la parte de un carácter que haya podido quedar al cortar.
-  if (texto.size() > kLargoMaximoNota) {
-    while ((static_cast<unsigned char>(texto[nota.size() - 1]) & 0xC0U) == 0x80U) nota.pop_back();
-    nota += "...";
-  }
-  return nota + "\"";
+// Un texto como se enseña en el informe; el de un fichero estropeado puede ser enorme.
+std::string Recortado(std::string_view texto) {
+  if (texto.size() <= kLargoMaximoNota) return std::string(texto);
+  // Sin la parte de un carácter que quedaría al cortar.
+  std::size_t n = kLargoMaximoNota;
+  while (n > 0 && (static_cast<unsigned char>(texto[n]) & 0xC0U) == 0x80U) --n;
+  return std::string(texto.substr(0, n)) + "...";
 }
 
 std::string Dicho(const ValorTexto& valor) {
-  return "Línea " + std::to_string(valor.linea) + ": " + std::string(valor.etiqueta) + " " +
-         Citado(valor.texto);
+  return "Línea " + std::to_string(valor.linea) + ": " + Recortado(valor.etiqueta) + " \"" +
+         Recortado(valor.texto) + "\"";
 }
 
 }  // namespace
@@ -43,6 +41,12 @@ void EstadoTexto::Saltar(const ValorTexto& valor, std::string_view razon) {
 
 void EstadoTexto::Cambiar(const ValorTexto& valor, std::string_view nuevo) {
   InformeLectura::Anotar(informe.cambiados, Dicho(valor) + " -> " + std::string(nuevo));
+}
+
+void MensajesDeTexto::Avisar(const std::string& titulo, const std::string& texto) {
+  if (++dados_ <= kMaximoAvisos) return destino_.Avisar(titulo, texto);
+  if (dados_ == kMaximoAvisos + 1)
+    destino_.Avisar("AVISO", "El fichero tiene más números que no se entienden; no se dicen todos");
 }
 
 int EstadoTexto::LeerEntero(const ValorTexto& valor, int minimo, int maximo) {

@@ -52,6 +52,18 @@ struct ValorTexto {
   std::size_t linea = 0;
 };
 
+/// Los avisos de la lectura de un caso: de un fichero estropeado solo se dan los primeros.
+class MensajesDeTexto : public Mensajes {
+ public:
+  static constexpr std::size_t kMaximoAvisos = 20;
+  explicit MensajesDeTexto(Mensajes& destino) : destino_(destino) {}
+  void Avisar(const std::string& titulo, const std::string& texto) override;
+
+ private:
+  Mensajes& destino_;
+  std::size_t dados_ = 0;
+};
+
 /// Un caso mientras se lee de un fichero de texto.
 struct EstadoTexto {
   EstadoTexto(Edificio& caso, Mensajes& avisos, InformeLectura& lectura, CasoDeTexto& que)
@@ -59,7 +71,7 @@ struct EstadoTexto {
 
   RegistrosCaso r;
   Edificio& edificio;
-  Mensajes& mensajes;
+  MensajesDeTexto mensajes;
   InformeLectura& informe;
   CasoDeTexto& dicho;
 
@@ -67,6 +79,7 @@ struct EstadoTexto {
   std::size_t recintos = 1;  ///< los que dice el fichero que hay
   CursorTexto grupos;
   std::size_t grupoHuecos = 0;  ///< grupo al que van los campos de hueco
+  std::size_t huecos = 0;       ///< los de todos los grupos
   bool conGrupo = false;        ///< ya se ha numerado alguno
   bool grupoValido = true;
   std::optional<material> capa;       ///< material que se está leyendo

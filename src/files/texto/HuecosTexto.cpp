@@ -85,14 +85,6 @@ EtiquetaTexto EtiquetaDeColumna(const CampoColumna& campo) {
   return nueva;
 }
 
-// Huecos de todo el caso.
-std::size_t TotalHuecos(const Edificio& edificio) {
-  std::size_t total = 0;
-  for (std::size_t i = 0; i < edificio.NumeroHuecos(); ++i)
-    total += edificio.GetHuecos(i).NumeroTotal();
-  return total;
-}
-
 }  // namespace
 
 std::span<const FilaTexto> FilasHuecos() {
@@ -121,9 +113,10 @@ void LeerColumna(EstadoTexto& e, const CampoColumna& campo, const ValorTexto& va
   const std::size_t quedan = *primero ? 0 : columna.recintos.size();
   const std::size_t nuevos =
       quedan + static_cast<std::size_t>(e.LeerEntero(valor, 0, limiteProyecto::kHuecosColumna));
-  const std::size_t demas = TotalHuecos(e.edificio) - columna.recintos.size();
+  const std::size_t demas = e.huecos - columna.recintos.size();
   if (nuevos > limiteProyecto::kHuecosColumna || demas + nuevos > limiteProyecto::kHuecos)
     return e.Saltar(valor, "pasa de los huecos que un proyecto puede tener");
+  e.huecos = demas + nuevos;
   columna.PonerNumero(nuevos);
 }
 

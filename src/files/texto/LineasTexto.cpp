@@ -8,7 +8,7 @@
 
 namespace novex {
 
-LineasTexto::LineasTexto(const std::filesystem::path& ruta) : texto_(AUtf8(LeerFichero(ruta))) {
+LineasTexto::LineasTexto(const std::filesystem::path& ruta) : texto_(LeerFichero(ruta)) {
   if (texto_.starts_with(kBomUtf8)) posicion_ = kBomUtf8.size();
 }
 
@@ -16,7 +16,7 @@ std::optional<std::string> LineasTexto::Siguiente() {
   if (posicion_ >= texto_.size()) return std::nullopt;
   anterior_ = posicion_;
   const std::size_t fin = std::min(texto_.find_first_of("\r\n", posicion_), texto_.size());
-  std::string linea = texto_.substr(posicion_, fin - posicion_);
+  std::string linea = AUtf8(std::string_view(texto_).substr(posicion_, fin - posicion_));
   posicion_ = fin;
   if (posicion_ < texto_.size() && texto_[posicion_] == '\r') ++posicion_;
   if (posicion_ < texto_.size() && texto_[posicion_] == '\n' &&

@@ -8,8 +8,8 @@
 
 namespace novex {
 
-/// Las líneas de un fichero de texto, una a una y en UTF-8. El fichero puede estar en UTF-8 o en
-/// Latin-1/Windows-1252, y acabar sus líneas con LF, con CR LF o con CR.
+/// Las líneas de un fichero de texto, una a una y en UTF-8. Cada línea puede estar en UTF-8 o en
+/// Latin-1/Windows-1252, y acabar con LF, con CR LF o con CR.
 class LineasTexto {
  public:
   LineasTexto() = default;
