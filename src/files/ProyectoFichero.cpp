@@ -22,6 +22,7 @@ constexpr std::size_t kMaximoRecuento = 7;
 enum class Formato { Xml, Texto, Ninguno };
 
 Formato FormatoDe(const std::filesystem::path& ruta) {
+  if (ruta.extension() == ".txt") return Formato::Texto;
   const std::string texto = ruta.string();
   const auto contiene = [&texto](const char* parte) {
     return texto.find(parte) != std::string::npos;

@@ -28,12 +28,13 @@ struct ProyectoAbierto {
   InformeLectura informe;  ///< de un fichero de una versión anterior
 };
 
-/// Abre un fichero de proyecto. Un camino que contiene "xml" o "XML" es un XML; otro que contiene
-/// "txt", un fichero de texto; cualquier otro no abre nada. Si los casos pasarían de seis no se
-/// abre nada y se avisa. Al acabar está activo el último caso leído. Si el fichero no se puede leer
-/// el proyecto queda como estaba. \param codificacion toma la del fichero; se pasa después a
-/// `GuardarProyecto`. A los casos leídos les falta lo que pone `CompletarProyecto`.
-/// \throws ErrorFichero si falta, está mal formado o es de una versión que no se lee
+/// Abre un fichero de proyecto. Uno acabado en ".txt" es de texto; si no, un camino que contiene
+/// "xml" o "XML" es un XML; otro que contiene "txt", de texto; cualquier otro no abre nada. Si los
+/// casos pasarían de seis no se abre nada y se avisa. Al acabar está activo el último caso leído.
+/// Si el fichero no se puede leer el proyecto queda como estaba. \param codificacion toma la del
+/// fichero; se pasa después a `GuardarProyecto`. A los casos leídos les falta lo que pone
+/// `CompletarProyecto`. \throws ErrorFichero si falta, está mal formado o es de una versión que no
+/// se lee
 ProyectoAbierto AbrirProyecto(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
                               ModoApertura modo, Mensajes& mensajes,
                               ModoCodificacion& codificacion);

@@ -383,6 +383,21 @@ TEST_F(FicheroTexto, LasAreasDeLosRecintosSeSuman) {
   EXPECT_EQ(Base().GetHuecos(0).columnas[sur].recintos.size(), 5U);
 }
 
+// La sección siguiente empieza otra vez en el primer elemento.
+TEST_F(FicheroTexto, CadaSeccionCuentaDesdeElPrincipio) {
+  AbrirTexto(Unir({"*[S] Version.", "NOVEX v5.0", "** Seccion.", "Datos Generales.",
+                   "*[I] Numero tipologia.", "2", "*[I] Numero salas estar comedor.", "5",
+                   "** Seccion.", "Datos Globales.", "*[I] Numero salas estar comedor.", "3"}));
+  EXPECT_EQ(Base().GetVentilacion().tipologias[0].N_salas_estar_comedor, 3);
+  EXPECT_EQ(Base().GetVentilacion().tipologias[1].N_salas_estar_comedor, 5);
+}
+
+// El formato lo dice la extensión, esté donde esté el fichero.
+TEST_F(FicheroTexto, EnUnaCarpetaQueSeLlamaXml) {
+  fs::create_directories(carpeta_ / "xml");
+  EXPECT_TRUE(AbrirTexto(DeTercera("Muros", {}), "xml/p.txt").abierto);
+}
+
 // Las familias se cuentan desde 1 o desde 0, según su primer número.
 TEST_F(FicheroTexto, LaCuentaPuedeEmpezarEnCero) {
   AbrirTexto(

@@ -79,6 +79,8 @@ class Lector {
   void EmpezarSeccion() {
     ApuntarDesconocida("");
     AcabarMaterial(e_);
+    // Cada sección cuenta sus elementos desde el primero.
+    e_.cursores = {};
     const std::string nombre = lineas_.Siguiente().value_or("");
     seccion_ = 0;
     while (seccion_ < secciones_.size() && !Contiene(nombre, secciones_[seccion_].nombre))
