@@ -31,12 +31,6 @@ Formato FormatoDe(const std::filesystem::path& ruta) {
   return contiene("txt") ? Formato::Texto : Formato::Ninguno;
 }
 
-[[noreturn]] void FallarVersion(const std::filesystem::path& ruta, const std::string& que) {
-  throw ErrorFichero(
-      ruta.string(), 0, 0, 0,
-      "Esta versión del programa todavía no lee " + que + ": \"" + ruta.string() + "\"");
-}
-
 // Tienen un elemento por caso los de disposición actual y los que ya guardaban los meses del verano
 // en el sitio; los demás guardan las mejoras en otro fichero.
 bool EsDeVariosCasos(const XMLNode& primero) {
@@ -48,7 +42,9 @@ bool EsDeVariosCasos(const XMLNode& primero) {
 
 void LeerSegunVersion(const XMLNode& novex, std::string_view nombre, Edificio& edificio,
                       Mensajes& mensajes, ProyectoAbierto& salida) {
-  if (!LeerCaso(novex, edificio, mensajes, &salida.informe)) salida.casosSinUso.push_back(nombre);
+  InformeLectura informe;
+  if (!LeerCaso(novex, edificio, mensajes, &informe)) salida.casosSinUso.push_back(nombre);
+  salida.informe.Juntar(informe, std::string(nombre) + ": ");
   salida.casos.push_back(nombre);
 }
 

@@ -120,7 +120,7 @@ TEST_F(VersionesXml, LaSeisUnoTieneElSitioAparteYVariosCasos) {
   segundo->SetDatosPantalla(p);
   EsperarIguales(*gestor_.Caso("Mejora_1"), *segundo);
 
-  EXPECT_THAT(r.informe.saltados, Contains("Datos_Generales/EtiquetaQueNadieConoce"));
+  EXPECT_THAT(r.informe.saltados, Contains("Viejo: Datos_Generales/EtiquetaQueNadieConoce"));
   EXPECT_THAT(r.informe.saltados, Contains(HasSubstr("NExpedienteP: \"P-17\"")));
   EXPECT_THAT(r.informe.cambiados, Contains(HasSubstr("\"SinFreecooling\"")));
 }
@@ -141,7 +141,7 @@ TEST_F(VersionesXml, LaCincoGuardaLasMejorasEnOtroFichero) {
     g.Tipon50 = "Teorico";
   };
   EsperarIguales(*gestor_.Caso("Viejo"), *Moderno("NOVEXPLUS v5.05", base));
-  EXPECT_THAT(r.informe.porDefecto, Contains("Tipon50: \"Teorico\""));
+  EXPECT_THAT(r.informe.porDefecto, Contains("Viejo: Tipon50: \"Teorico\""));
   const DatosGenerales& mejora = gestor_.Caso("Mejora_1")->GetDatosGenerales();
   EXPECT_EQ(mejora.Edificio_Titulo, "La mejora");
   EXPECT_EQ(mejora.AnoConstruccion, "POST-2018");

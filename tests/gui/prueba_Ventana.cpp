@@ -7,6 +7,7 @@
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QTreeWidget>
 #include <functional>
 
 #include "base/FicheroSeguro.h"
@@ -250,6 +251,27 @@ TEST_F(VentanaTest, UnFicheroRotoDejaLoAbiertoEnSuCopia) {
   ASSERT_TRUE(otra.Abrir(Recuperacion(carpeta / "copias").Fichero()));
   EXPECT_EQ(otra.Caso().GetDatosGenerales().Edificio_Titulo, "a medias");
   EXPECT_EQ(QApplication::exec(), kXmlErroneo);
+}
+
+// Lo que se ha cambiado o supuesto al leer un proyecto antiguo se enseña sin estorbar.
+TEST_F(VentanaTest, UnProyectoDeOtraVersionDiceQueSeHaHechoConEl) {
+  const auto lista = [this] {
+    const auto listas = ventana->findChildren<QTreeWidget*>("lectura");
+    return listas.empty() ? nullptr : listas.back();
+  };
+  ASSERT_TRUE(ventana->Abrir(Ejemplo("piso_C2.xml")));
+  EXPECT_EQ(lista(), nullptr);
+  ASSERT_TRUE(
+      ventana->Abrir(std::filesystem::path(NOVEX_RAIZ_PRUEBAS) / "casos/antiguos/v6_1.xml"));
+  ASSERT_NE(lista(), nullptr);
+  EXPECT_TRUE(lista()->isVisible());
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  EXPECT_EQ(lista()->topLevelItemCount(), 4);
+  const QTreeWidgetItem* cambiado = lista()->topLevelItem(0);
+  EXPECT_EQ(cambiado->text(0), QString("Cambiado (%1)").arg(cambiado->childCount()));
+  EXPECT_EQ(
+      lista()->findItems("Año de construcción", Qt::MatchContains | Qt::MatchRecursive).size(), 1);
+  EXPECT_TRUE(mensajes.recibidos.empty());
 }
 
 }  // namespace
