@@ -1,7 +1,9 @@
 #include "calculation/EjecutarCalculo.h"
 
 #include <optional>
+#include <string>
 
+#include "base/ErrorFichero.h"
 #include "calculation/ComprobarDatos.h"
 #include "calculation/PrepararCaso.h"
 #include "calculation/SimulacionCaso.h"
@@ -113,14 +115,21 @@ bool CalcularCaso(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno
   return true;
 }
 
-bool CalcularProyecto(GestorEdifActivo& gestor, Entorno& entorno) {
-  bool todos = true;
+std::vector<CasoSinCalcular> CalcularProyecto(GestorEdifActivo& gestor, Entorno& entorno) {
+  std::vector<CasoSinCalcular> fallidos;
   for (std::size_t i = 0; i < gestor.NumeroCasos(); ++i) {
+    const std::string_view nombre = GestorEdifActivo::NombreCasoUsuario(i);
     ParteDelAvance avance(entorno.progreso, i, gestor.NumeroCasos());
     Entorno propio{entorno.ficheros, entorno.mensajes, avance, entorno.ficherosDeCaso};
-    todos = CalcularCaso(gestor, GestorEdifActivo::NombreCasoUsuario(i), propio) && todos;
+    try {
+      if (!CalcularCaso(gestor, nombre, propio)) fallidos.push_back({nombre, {}});
+    } catch (const ErrorCalculo& error) {
+      fallidos.push_back({nombre, error.what()});
+    } catch (const ErrorFichero& error) {
+      fallidos.push_back({nombre, error.what()});
+    }
   }
-  return todos;
+  return fallidos;
 }
 
 }  // namespace novex

@@ -2,7 +2,9 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "calculation/Entorno.h"
 #include "demand/calculo.h"
@@ -52,9 +54,14 @@ bool NecesitaReferencia(const DatosGenerales& generales);
 /// clima \throws lo mismo que `EjecutarCalculo`
 bool CalcularCaso(GestorEdifActivo& gestor, std::string_view nombreCaso, Entorno& entorno);
 
-/// Calcula todos los casos de usuario del proyecto, en su orden. El caso activo no cambia.
-/// \returns false si algún caso se ha quedado sin clima
-/// \throws lo mismo que `EjecutarCalculo`
-bool CalcularProyecto(GestorEdifActivo& gestor, Entorno& entorno);
+/// Un caso que no se ha podido calcular.
+struct CasoSinCalcular {
+  std::string_view nombre;
+  std::string motivo;  ///< vacío si ya lo ha dicho un aviso
+};
+/// Calcula y califica todos los casos del proyecto; el activo sigue siéndolo. Uno que no se puede
+/// no impide los demás. \returns los que no se han podido: unos datos que pasan las comprobaciones
+/// y no tienen sentido físico, o un fichero que falta
+std::vector<CasoSinCalcular> CalcularProyecto(GestorEdifActivo& gestor, Entorno& entorno);
 
 }  // namespace novex

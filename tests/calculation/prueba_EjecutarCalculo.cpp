@@ -188,7 +188,7 @@ TEST(CalcularProyecto, CalculaTodosLosCasosSinCambiarElActivo) {
     std::vector<int> vistos;
   } progreso;
   Entorno entorno{ficheros, programa.mensajes, progreso};
-  ASSERT_TRUE(CalcularProyecto(gestor, entorno));
+  ASSERT_TRUE(CalcularProyecto(gestor, entorno).empty());
   EXPECT_TRUE(gestor.EsCasoActivo(caso::kViejo));
   EXPECT_GT(gestor.Caso("Viejo")->GetCalculo()->resultados.demandaCalefaccion,
             gestor.Caso("Mejora_1")->GetCalculo()->resultados.demandaCalefaccion + 50.0F);
@@ -368,7 +368,7 @@ TEST(BalanceDelAno, CierraEnUnaVivienda) {
   FicherosPrograma ficheros{EspacioTrabajo{casos / "programa"}};
   Progreso progreso;
   Entorno entorno{ficheros, mensajes, progreso};
-  ASSERT_TRUE(CalcularProyecto(gestor, entorno));
+  ASSERT_TRUE(CalcularProyecto(gestor, entorno).empty());
   const Edificio& vivienda = gestor.Activo();
   const calculo& c = *vivienda.GetCalculo();
   const RespuestaZona respuesta = PrepararRespuestaZona(vivienda, c.resultados.Uefectiva);

@@ -303,7 +303,7 @@ TEST_F(InstalacionesTest, SolarYFotovoltaica) {
   EXPECT_FALSE(barras->isHidden());
   Progreso progreso;
   Entorno entorno{ficheros, mensajes, progreso};
-  ASSERT_TRUE(CalcularProyecto(sesion.GestorParaCalcular(), entorno));
+  ASSERT_TRUE(CalcularProyecto(sesion.GestorParaCalcular(), entorno).empty());
   for (std::size_t m = 0; m < 12; ++m)
     EXPECT_FLOAT_EQ(barras->Valores()[m],
                     sesion.Caso().GetCalculo()->meses.produccionFotovoltaica[m + 1]);

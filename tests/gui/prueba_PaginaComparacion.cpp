@@ -73,6 +73,18 @@ TEST_F(PaginaComparacionTest, LoQueImpideCalcularSeDice) {
   });
   EXPECT_TRUE(fallo->isVisible());
   EXPECT_FALSE(fallo->text().isEmpty());
+  Ordenar("Deshacer");
+  EXPECT_FALSE(fallo->isVisible());
+  // La base, que va delante, no impide la mejora.
+  ventana->Contexto().EditarProyecto("sitio", [](GestorEdifActivo& gestor) {
+    Localizacion l = gestor.Caso(caso::kViejo)->GetLocalizacion();
+    l.ZonaClimatica = "Z9";
+    gestor.Caso(caso::kViejo)->SetLocalizacion(l);
+  });
+  EXPECT_TRUE(fallo->text().startsWith("Base: ")) << S(fallo->text());
+  const auto casos = CasosCalculados(sesion.Gestor());
+  ASSERT_EQ(casos.size(), 1U);
+  EXPECT_EQ(casos[0].nombre, "Mejora_1");
 }
 
 TEST_F(PaginaComparacionTest, ElAnalisisTecnicoTieneUnaFilaPorCasoYLasVisitasSonDeLaBase) {

@@ -246,7 +246,7 @@ TEST(PaginaMensual, LosMesesSumanElAnoDeUnProyecto) {
   GestorEdifActivo gestor;
   AbrirProyecto(gestor, NOVEX_RAIZ_PRUEBAS "/casos/proyectos/t01_oficina_vrv.xml",
                 ModoApertura::Nuevo, mensajes);
-  ASSERT_TRUE(CalcularProyecto(gestor, entorno));
+  ASSERT_TRUE(CalcularProyecto(gestor, entorno).empty());
   const Edificio& edificio = *gestor.Caso(caso::kViejo);
   const calculo& c = *edificio.GetCalculo();
   const CasoCalculado mostrado{"Viejo", &edificio, &c, {}};

@@ -64,7 +64,7 @@ TEST_F(Sesion, UnaEdicionQuitaLosResultadosYUnTextoNo) {
   sesion.Abrir(Ejemplo("vivienda_unifamiliar_D3.xml"));
   Progreso progreso;
   Entorno entorno{ficheros, mensajes, progreso};
-  ASSERT_TRUE(CalcularProyecto(sesion.GestorParaCalcular(), entorno));
+  ASSERT_TRUE(CalcularProyecto(sesion.GestorParaCalcular(), entorno).empty());
   sesion.EditarSinRecalcular(
       "título", [&](Edificio& e) { PonerCampo(e, "Edificio_Titulo", "Casa", mensajes); });
   EXPECT_TRUE(sesion.Modificado());

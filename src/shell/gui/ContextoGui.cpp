@@ -1,7 +1,6 @@
 #include "shell/gui/ContextoGui.h"
 
 #include <QScopedValueRollback>
-#include <exception>
 
 #include "calculation/EjecutarCalculo.h"
 #include "outputs/CasoCalculado.h"
@@ -39,18 +38,24 @@ void ContextoGui::DarPorGuardado(const std::filesystem::path& fichero) {
 
 bool ContextoGui::Calcular() {
   fallo_.clear();
-  if (TodosCalculados(sesion_.Gestor())) return true;
+  GestorEdifActivo& gestor = sesion_.GestorParaCalcular();
+  if (TodosCalculados(gestor)) return true;
   ProgresoVentana progreso;
   Entorno entorno{Ficheros(), sesion_.Avisos(), progreso};
   const QScopedValueRollback calculando(calculando_, true);
+  QStringList fallos;
   try {
-    if (CalcularProyecto(sesion_.GestorParaCalcular(), entorno)) return true;
-    fallo_ = tr("No se ha podido calcular");
-  } catch (const std::exception& error) {
-    // Unos datos que pasan las comprobaciones y no tienen sentido físico, o un fichero que falta.
-    fallo_ = Q(error.what());
+    for (const CasoSinCalcular& caso : CalcularProyecto(gestor, entorno)) {
+      const QString motivo = caso.motivo.empty() ? tr("No se ha podido calcular") : Q(caso.motivo);
+      fallos << (gestor.NumeroCasos() > 1
+                     ? Q(NombreMostrado(std::string(caso.nombre))) + ": " + motivo
+                     : motivo);
+    }
+  } catch (const CalculoCancelado&) {
+    fallos << tr("Se ha cancelado el cálculo");
   }
-  return false;
+  fallo_ = fallos.join('\n');
+  return fallos.isEmpty();
 }
 
 }  // namespace novex::gui

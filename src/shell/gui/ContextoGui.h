@@ -45,8 +45,9 @@ class ContextoGui : public QObject {
   /// Edita el proyecto entero y lo anuncia.
   bool EditarProyecto(const QString& nombre, const SesionProyecto::CambioProyecto& cambio);
   /// Calcula los casos del proyecto que no lo están: entrar en una página de resultados es
-  /// calcular. Un cálculo que tarda enseña su avance y se puede cancelar: queda entonces lo que ya
-  /// estaba calculado. \returns si están todos; si no, por qué en `FalloCalculo`
+  /// calcular. Uno que no se puede calcular no impide los demás. Un cálculo que tarda enseña su
+  /// avance y se puede cancelar: queda entonces lo que ya estaba calculado. \returns si están
+  /// todos; si no, por qué en `FalloCalculo`, un caso por línea
   bool Calcular();
   const QString& FalloCalculo() const { return fallo_; }
   /// ¿Está la ventana en medio de un cálculo, atendiendo solo a su panel? Los trabajos de los ratos

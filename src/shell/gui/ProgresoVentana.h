@@ -3,16 +3,13 @@
 #include <QElapsedTimer>
 #include <QPointer>
 #include <QProgressDialog>
-#include <exception>
 
 #include "base/Progreso.h"
 
 namespace novex::gui {
 
 /// Lo que lanza `ProgresoVentana` cuando el usuario pide dejar un cálculo.
-struct CalculoCancelado : std::exception {
-  const char* what() const noexcept override { return "Se ha cancelado el cálculo"; }
-};
+struct CalculoCancelado {};
 
 /// Enseña el avance de un cálculo que tarda en un panel que no deja tocar nada más que su botón de
 /// cancelar. Uno corto acaba sin que se vea.
