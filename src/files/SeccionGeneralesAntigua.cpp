@@ -130,6 +130,7 @@ void PonerTipoCertificado(const XMLNode& datos, R& r) {
     const std::string tipo = TipoCertificadoDe(origen);
     if (tipo.empty()) continue;
     d.TipoCertificado = tipo;
+    if (tipo == origen) return;
     r.informe.Anotar(r.informe.cambiados, Paso("Tipo de certificado", origen, tipo));
     return;
   }
