@@ -127,12 +127,18 @@ void PonerVentilacionFija(D& d, InformeLectura& informe) {
 
 // Lo que un fichero antiguo no dice y el caso toma de los valores de partida.
 void AnotarFaltas(const XMLNode& instalaciones, R& r) {
+  std::size_t nulos = 0;
   for (const Campo<R>& campo : kCampos) {
     if (campo.soloEscritura || ValorDeHijo(instalaciones, campo.etiqueta)) continue;
-    r.informe.Anotar(r.informe.porDefecto, std::string(campo.etiqueta) + ": \"" +
-                                               camposFichero::TextoDeCampo(campo, r, Indice{}) +
-                                               "\"");
+    const std::string valor = camposFichero::TextoDeCampo(campo, r, Indice{});
+    if (valor.find_first_not_of("0.") == std::string::npos)
+      ++nulos;
+    else
+      r.informe.Anotar(r.informe.porDefecto, std::string(campo.etiqueta) + ": \"" + valor + "\"");
   }
+  if (nulos > 0)
+    r.informe.Anotar(r.informe.porDefecto,
+                     "A 0 o sin texto, otros datos de las instalaciones: " + std::to_string(nulos));
 }
 
 }  // namespace

@@ -266,7 +266,7 @@ TEST_F(VentanaTest, UnProyectoDeOtraVersionDiceQueSeHaHechoConEl) {
   ASSERT_NE(lista(), nullptr);
   EXPECT_TRUE(lista()->isVisible());
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-  EXPECT_EQ(lista()->topLevelItemCount(), 4);
+  EXPECT_EQ(lista()->topLevelItemCount(), 3);
   const QTreeWidgetItem* cambiado = lista()->topLevelItem(0);
   EXPECT_EQ(cambiado->text(0), QString("Cambiado (%1)").arg(cambiado->childCount()));
   EXPECT_EQ(
