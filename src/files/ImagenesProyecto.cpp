@@ -52,6 +52,8 @@ class LectorPng {
     if (lodepng_inspect(&ancho, &alto, &estado_, datos, bytes.size()) != 0) return false;
     const std::size_t linea = std::size_t{ancho} * lodepng_get_bpp(&estado_.info_png.color) / 8;
     if (alto > kPngMaximo / (linea + 1)) return false;
+    // Las líneas con su filtro, y hasta el doble entrelazadas: más datos comprimidos son un engaño.
+    estado_.decoder.zlibsettings.max_output_size = 2 * (linea + 2) * alto + 64;
     unsigned char* pixeles = nullptr;
     const unsigned fallo = lodepng_decode(&pixeles, &ancho, &alto, &estado_, datos, bytes.size());
     std::free(pixeles);

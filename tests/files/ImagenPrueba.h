@@ -20,4 +20,25 @@ inline std::string Png() {
   return png;
 }
 
+/// Un PNG de un píxel cuyos datos comprimidos dan `bytes` ceros.
+inline std::string PngHinchado(std::size_t bytes) {
+  unsigned char *png = nullptr, *datos = nullptr;
+  const std::string cabecera("\0\0\0\1\0\0\0\1\x8\2\0\0\0", 13);  // 1 x 1, color de 8 bits
+  const auto bruto = [](const std::string& s) {
+    return reinterpret_cast<const unsigned char*>(s.data());
+  };
+  std::size_t n = 0, comprimidos = 0;
+  const std::string ceros(bytes, '\0');
+  EXPECT_EQ(lodepng_zlib_compress(&datos, &comprimidos, bruto(ceros), bytes,
+                                  &lodepng_default_compress_settings),
+            0U);
+  EXPECT_EQ(lodepng_chunk_create(&png, &n, 13U, "IHDR", bruto(cabecera)), 0U);
+  EXPECT_EQ(lodepng_chunk_create(&png, &n, static_cast<unsigned>(comprimidos), "IDAT", datos), 0U);
+  EXPECT_EQ(lodepng_chunk_create(&png, &n, 0, "IEND", nullptr), 0U);
+  const std::string trozos(reinterpret_cast<const char*>(png), n);
+  std::free(png);
+  std::free(datos);
+  return "\x89PNG\r\n\x1A\n" + trozos;
+}
+
 }  // namespace novex::pruebas

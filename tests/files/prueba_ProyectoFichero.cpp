@@ -10,6 +10,7 @@
 #include "CarpetaTemporal.h"
 #include "base/ErrorFichero.h"
 #include "base/FicheroSeguro.h"
+#include "base/NumeroTexto.h"
 #include "files/CarpetaTemporal.h"
 #include "files/ImagenPrueba.h"
 #include "files/ImagenesProyecto.h"
@@ -257,6 +258,18 @@ std::string Jpeg(std::size_t bytes) {
   return j;
 }
 
+// La mayor memoria que ha llegado a ocupar el proceso desde que se olvidó, KiB.
+long MemoriaMayor() {
+  std::ifstream estado("/proc/self/status");
+  for (std::string linea; std::getline(estado, linea);)
+    if (linea.starts_with("VmHWM:")) return EnteroInicial(linea.substr(6));
+  return -1;
+}
+bool OlvidarMemoriaMayor() {
+  std::ofstream olvido("/proc/self/clear_refs");
+  return static_cast<bool>(olvido << "5" << std::flush);
+}
+
 class ImagenesProyecto : public testing::Test {
  protected:
   std::optional<std::string> Texto(const std::string& nombre, const std::string& bytes) {
@@ -304,6 +317,15 @@ TEST_F(ImagenesProyecto, LoQueNoSePuedeElegir) {
   lodepng_chunk_generate_crc(reinterpret_cast<unsigned char*>(enorme.data()) + 8);
   EXPECT_FALSE(Texto("enorme.png", enorme));
   EXPECT_THAT(Aviso(), HasSubstr("no se puede leer"));
+  // Ni uno de un píxel cuyos datos, unos kilobytes, se hinchan hasta 64 MB.
+  const std::string bomba = pruebas::PngHinchado(64 * 1024 * 1024);
+  ASSERT_LT(bomba.size(), 400'000U);
+  ASSERT_TRUE(OlvidarMemoriaMayor());
+  const long antes = MemoriaMayor();
+  ASSERT_GT(antes, 0);
+  EXPECT_FALSE(Texto("bomba.png", bomba));
+  EXPECT_THAT(Aviso(), HasSubstr("no se puede leer"));
+  EXPECT_LT(MemoriaMayor() - antes, 32 * 1024);
   EscribirFichero(carpeta / "g.jpg", "\xFF\xD8\xFF");
   fs::resize_file(carpeta / "g.jpg", kTamanoMaximoImagen);
   EXPECT_TRUE(TextoDeImagen(carpeta / "g.jpg", m));
