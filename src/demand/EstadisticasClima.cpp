@@ -22,6 +22,8 @@ constexpr std::string_view kCabeceraPerfil =
     "h19;h20;h21;h22;h23;h24";
 constexpr std::string_view kCabeceraTendencia = "conjunto;mes;delta_T_K";
 
+constexpr std::size_t kMaximoConjuntos = 100;
+
 // Recorre las filas de un csv y da los fallos con su línea.
 class TablaCsv {
  public:
@@ -77,7 +79,7 @@ class TablaCsv {
 
   void Repartir(std::string_view linea) {
     campos_.clear();
-    for (;;) {
+    while (campos_.size() <= columnas_) {
       const std::size_t fin = linea.find(';');
       campos_.push_back(linea.substr(0, fin));
       if (fin == std::string_view::npos) return;
@@ -183,6 +185,7 @@ void LeerTendencias(const std::filesystem::path& ruta, EstadisticasClima& clima)
     auto it = std::find_if(clima.tendencias.begin(), clima.tendencias.end(),
                            [&](const auto& t) { return t.conjunto == tabla.Texto(0); });
     if (it == clima.tendencias.end()) {
+      if (clima.tendencias.size() == kMaximoConjuntos) tabla.Fallar("hay demasiados conjuntos");
       clima.tendencias.emplace_back().conjunto = tabla.Texto(0);
       mesesLeidos.push_back(0);
       it = clima.tendencias.end() - 1;

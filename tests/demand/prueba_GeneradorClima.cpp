@@ -254,6 +254,9 @@ TEST(LeerEstadisticasClima, LosFicherosMalosDanSuFallo) {
   const pruebas::CarpetaTemporal temporal;
   const auto carpeta = temporal / "clima";
   // Fichero, trozo que se cambia, lo que se pone y lo que dice el fallo.
+  // Miles de conjuntos o un millón de campos se rechaza en cuanto sobran.
+  std::string conjuntos, campos(1'000'000, ';');
+  for (int i = 0; i < 100'000; ++i) conjuntos += "c" + std::to_string(i) + ";1;0\n";
   const std::array<const char*, 4> casos[] = {
       {"mensual.csv", "zona;mes", "zone;mes", "línea 1: la cabecera"},
       {"mensual.csv", "alfa1c;2;", "alfa1c;1;", "línea 3: mes repetido"},
@@ -262,7 +265,9 @@ TEST(LeerEstadisticasClima, LosFicherosMalosDanSuFallo) {
       {"mensual.csv", "alfa1c;2;28.3250;", "alfa1c;2;norte;", "norte"},
       {"perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;directa", "perfil repetido"},
       {"perfil_diario.csv", "alfa1c;1;difusa", "alfa1c;1;otra", "variable desconocida"},
-      {"tendencia.csv", "1992;3;", "1992;4;", "fuera de orden"}};
+      {"tendencia.csv", "1992;3;", "1992;4;", "fuera de orden"},
+      {"tendencia.csv", "1992;1;", campos.c_str(), "hay 4 campos"},
+      {"tendencia.csv", "1992;1;", conjuntos.c_str(), "demasiados conjuntos"}};
   for (const auto& [nombre, viejo, nuevo, fallo] : casos) {
     SCOPED_TRACE(nuevo);
     std::filesystem::remove_all(carpeta);
