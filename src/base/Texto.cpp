@@ -102,6 +102,12 @@ CaracterUtf8 PrimerCaracter(std::string_view texto) {
   return caracter;
 }
 
+std::string_view PrincipioUtf8(std::string_view texto, std::size_t bytes) {
+  if (texto.size() <= bytes) return texto;
+  while (bytes > 0 && (Byte(texto[bytes]) & 0xC0U) == 0x80U) --bytes;
+  return texto.substr(0, bytes);
+}
+
 bool IgualesSinMayusculas(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   for (std::size_t i = 0; i < a.size(); ++i)

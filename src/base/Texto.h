@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,9 @@ struct CaracterUtf8 {
   std::size_t bytes;
 };
 CaracterUtf8 PrimerCaracter(std::string_view texto);
+
+/// El principio de un texto UTF-8 que cabe en `bytes`, sin partir una letra.
+std::string_view PrincipioUtf8(std::string_view texto, std::size_t bytes);
 
 /// Compara dos textos sin distinguir mayúsculas de minúsculas en las letras A a Z.
 bool IgualesSinMayusculas(std::string_view a, std::string_view b);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/Texto.h"
+#include "files/LimitesProyecto.h"
 #include "model/CatalogoCampos.h"
 
 namespace novex {
@@ -60,6 +61,15 @@ std::optional<int> LeerPosicion(std::string_view texto, ListaTextos lista) {
 std::string_view TextoDePosicion(int posicion, ListaTextos lista) {
   const auto i = static_cast<std::size_t>(posicion);
   return posicion >= 0 && i < lista.size() ? lista[i] : std::string_view{};
+}
+
+std::string_view LeerTexto(std::string_view texto, std::string_view etiqueta, Mensajes& mensajes) {
+  const std::string_view tomado = PrincipioUtf8(texto, limiteProyecto::kLetras);
+  if (tomado.size() < texto.size())
+    mensajes.Avisar("Valor incorrecto", std::string(etiqueta) + ": el texto pasa de " +
+                                            std::to_string(limiteProyecto::kLetras) +
+                                            " letras y se corta");
+  return tomado;
 }
 
 std::string_view TextoLogico(bool valor) {

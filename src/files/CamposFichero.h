@@ -127,18 +127,12 @@ Valor& AccederEn(RegistroDe<Primero>& r, Indice donde) {
 
 template <class Valor, auto Primero, auto... Resto>
 constexpr Campo<RegistroDe<Primero>> Crear(std::string_view etiqueta) {
-  Campo<RegistroDe<Primero>> campo;
-  campo.etiqueta = etiqueta;
-  campo.acceso = &Acceder<Valor, Primero, Resto...>;
-  return campo;
+  return {etiqueta, &Acceder<Valor, Primero, Resto...>};
 }
 
 template <class Valor, std::size_t Posicion, auto Primero, auto... Resto>
 constexpr Campo<RegistroDe<Primero>> CrearEn(std::string_view etiqueta) {
-  Campo<RegistroDe<Primero>> campo;
-  campo.etiqueta = etiqueta;
-  campo.acceso = &AccederEn<Valor, Posicion, Primero, Resto...>;
-  return campo;
+  return {etiqueta, &AccederEn<Valor, Posicion, Primero, Resto...>};
 }
 
 }  // namespace camposFichero
@@ -205,6 +199,8 @@ int LeerEntero(std::string_view texto, std::string_view etiqueta, int minimo, in
                Mensajes& mensajes);
 std::optional<int> LeerPosicion(std::string_view texto, ListaTextos lista);
 std::string_view TextoDePosicion(int posicion, ListaTextos lista);
+// Lo que se toma de un texto; uno que pasa de lo que se acepta se corta con un aviso.
+std::string_view LeerTexto(std::string_view texto, std::string_view etiqueta, Mensajes& mensajes);
 std::string_view TextoLogico(bool valor);
 bool LeerLogico(std::string_view texto);
 std::string Etiqueta(std::string_view patron, Indice donde);
@@ -222,7 +218,7 @@ void LeerCampo(const Campo<Registro>& campo, Registro& r, Indice donde, std::str
   } else if (const auto* logico = std::get_if<2>(&campo.acceso)) {
     (*logico)(r, donde) = LeerLogico(texto);
   } else {
-    std::get<3>(campo.acceso)(r, donde) = texto;
+    std::get<3>(campo.acceso)(r, donde) = LeerTexto(texto, etiqueta, mensajes);
   }
 }
 

@@ -13,6 +13,12 @@ inline constexpr std::size_t kGruposHuecos = 1000;
 inline constexpr std::size_t kMateriales = 5000;
 inline constexpr std::size_t kCapas = 1000;
 inline constexpr std::size_t kSistemas = 1000;
+/// Elementos de un sistema que el programa no conoce y devuelve al guardar, con los de dentro.
+inline constexpr std::size_t kDesconocidos = 1000;
+inline constexpr std::size_t kFilas = 1000;     ///< referencias catastrales, elementos inalterables
+inline constexpr std::size_t kMedidas = 1000;   ///< del estudio de mejoras
+inline constexpr std::size_t kLetras = 65'536;  ///< bytes de un texto; el resto no se lee
+inline constexpr std::size_t kLetrasMaterial = 1000;  ///< bytes del nombre de un material
 
 /// \throws ErrorFichero, aún sin camino, si `cuantos` pasa de `maximo`
 void Comprobar(std::string_view que, std::size_t cuantos, std::size_t maximo);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/ErrorFichero.h"
+#include "base/MensajesAcotados.h"
 #include "files/CamposFichero.h"
 #include "files/ErroresXml.h"
 #include "files/VersionProyecto.h"
@@ -228,7 +229,10 @@ ProyectoAbierto AbrirProyecto(GestorEdifActivo& gestor, const std::filesystem::p
       break;
   }
   try {
-    return AbrirXml(gestor, ruta, modo, mensajes, codificacion);
+    MensajesAcotados acotados(mensajes);
+    ProyectoAbierto abierto = AbrirXml(gestor, ruta, modo, acotados, codificacion);
+    acotados.Terminar();
+    return abierto;
   } catch (const ErrorFichero& error) {
     if (!error.ruta.empty()) throw;
     // Los límites de las secciones no conocen el fichero que se lee.

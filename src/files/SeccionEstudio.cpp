@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "files/LimitesProyecto.h"
 #include "files/SeccionesProyecto.h"
 
 namespace novex {
@@ -12,7 +13,7 @@ constexpr std::string_view kMedida = "Medida";
 constexpr std::string_view kLinea = "Linea";
 constexpr std::string_view kMedidasMejora = "MedidasMejora";
 constexpr int kMayorCodigo = 999;
-constexpr std::size_t kMaximoMedidas = 1000;
+constexpr std::string_view kQueMedidas = "medidas en el estudio de mejoras";
 
 constexpr std::array kCodigo = {Entero<&M::codigo>("codigo").Entre(0, kMayorCodigo)};
 constexpr std::array kMarca = {Logico<&M::marca>("marca")};
@@ -40,7 +41,8 @@ void Anadir(M medida, std::vector<M>& medidas) {
 // Los ficheros que no tienen el elemento propio del estudio llevan el coste y el plazo en atributos
 // de las medidas del bloque de resultados.
 void LeerMedidasMejora(const XMLNode& bloque, std::vector<M>& medidas, Mensajes& mensajes) {
-  for (std::size_t i = 0; i < bloque.childCount() && medidas.size() < kMaximoMedidas; ++i) {
+  limiteProyecto::Comprobar(kQueMedidas, bloque.childCount(), limiteProyecto::kMedidas);
+  for (std::size_t i = 0; i < bloque.childCount(); ++i) {
     const XMLNode nodo = bloque.childAt(i);
     const auto codigo = nodo.attributeValue(kAtributoValor);
     if (!codigo) continue;
@@ -60,9 +62,9 @@ void LeerEstudio(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes) {
     LeerMedidasMejora(novex.childNamed(kMedidasMejora), r.estudio.medidas, mensajes);
     return;
   }
-  std::size_t i = 0;
+  std::size_t i = 0, leidas = 0;
   while (const XMLNode nodo = propio.childNamed(kMedida, &i)) {
-    if (r.estudio.medidas.size() == kMaximoMedidas) break;
+    limiteProyecto::Comprobar(kQueMedidas, ++leidas, limiteProyecto::kMedidas);
     M medida;
     LeerMedida(nodo, medida, mensajes);
     Anadir(std::move(medida), r.estudio.medidas);

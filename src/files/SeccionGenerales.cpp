@@ -1,5 +1,6 @@
 #include "base/Texto.h"
 #include "files/ComunidadAutonoma.h"
+#include "files/LimitesProyecto.h"
 #include "files/SeccionesProyecto.h"
 #include "files/VersionProyecto.h"
 
@@ -91,11 +92,13 @@ constexpr std::array kCamposObstaculos = {Real<o, &O::Oeste_Altura>("Oeste_Altur
 
 template <class Fila>
 void LeerFilas(const XMLNode& nodo, std::string_view etiqueta, std::span<const Campo<Fila>> campos,
-               std::vector<Fila>& filas, Mensajes& mensajes) {
+               std::string_view que, std::vector<Fila>& filas, Mensajes& mensajes) {
   filas.clear();
   std::size_t i = 0;
-  while (const XMLNode hijo = nodo.childNamed(etiqueta, &i))
+  while (const XMLNode hijo = nodo.childNamed(etiqueta, &i)) {
     LeerCampos(hijo, campos, filas.emplace_back(), mensajes);
+    limiteProyecto::Comprobar(que, filas.size(), limiteProyecto::kFilas);
+  }
 }
 
 template <class Fila>
@@ -142,11 +145,11 @@ void LeerGenerales(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes) {
   LeerCampos<R>(datos, kCodigoPostal, r, mensajes);
   const XMLNode referencias = datos.childNamed(kReferencias);
   LeerCampos<R>(referencias, kRegistro, r, mensajes);
-  LeerFilas<ReferenciaCatastral>(referencias, kReferencia, kFilaReferencia, r.pantalla.referencias,
-                                 mensajes);
+  LeerFilas<ReferenciaCatastral>(referencias, kReferencia, kFilaReferencia,
+                                 "referencias catastrales", r.pantalla.referencias, mensajes);
   LeerCampos<R>(datos, kNormativa, r, mensajes);
   LeerFilas<ElementoInalterable>(datos.childNamed(kInalterables), kInalterable, kFilaInalterable,
-                                 r.pantalla.inalterables, mensajes);
+                                 "elementos inalterables", r.pantalla.inalterables, mensajes);
   LeerCampos<R>(datos, kSitioYCertificador, r, mensajes);
   LeerImagenes(datos, r);
   LeerObstaculos(novex, datos, r, mensajes);

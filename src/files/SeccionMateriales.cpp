@@ -38,6 +38,9 @@ std::vector<std::size_t> LeerAlmacen(const XMLNode& novex, Edificio& edificio, M
   while (const XMLNode nodo = seccion.childNamed(kMaterial, &i)) {
     M leido;
     LeerCampos<M>(nodo, kCampos, leido, mensajes);
+    // Los nombres se comparan todos con todos.
+    limiteProyecto::Comprobar("letras en el nombre de un material", leido.Material.size(),
+                              limiteProyecto::kLetrasMaterial);
     almacen.push_back(edificio.AnadirMaterial(std::move(leido)));
     limiteProyecto::Comprobar("materiales", almacen.size(), limiteProyecto::kMateriales);
   }

@@ -177,9 +177,15 @@ bool EsResultado(std::string_view etiqueta) {
                      [etiqueta](std::string_view p) { return etiqueta.starts_with(p); });
 }
 
+std::size_t Elementos(const XMLNode& nodo) {
+  std::size_t n = 1;
+  for (std::size_t i = 0; i < nodo.childCount(); ++i) n += Elementos(nodo.childAt(i));
+  return n;
+}
+
 // Guarda los elementos que no son campos ni resultados, para devolverlos al escribir.
 void LeerDemasCampos(const XMLNode& nodo, const std::vector<std::string>& conCampo, I& generador) {
-  std::size_t esperado = 0;
+  std::size_t esperado = 0, desconocidos = 0;
   for (std::size_t i = 0; i < nodo.childCount(); ++i) {
     const XMLNode hijo = nodo.childAt(i);
     const std::string_view nombre = *hijo.nameOf();
@@ -187,7 +193,11 @@ void LeerDemasCampos(const XMLNode& nodo, const std::vector<std::string>& conCam
     if (esperado >= conCampo.size() || !es(conCampo[esperado])) {
       const auto it = std::find_if(conCampo.begin(), conCampo.end(), es);
       if (it == conCampo.end()) {
-        if (!EsResultado(nombre)) generador.campos.push_back(Conservar(hijo));
+        if (EsResultado(nombre)) continue;
+        desconocidos += Elementos(hijo);
+        limiteProyecto::Comprobar("elementos desconocidos en un sistema", desconocidos,
+                                  limiteProyecto::kDesconocidos);
+        generador.campos.push_back(Conservar(hijo));
         continue;
       }
       esperado = static_cast<std::size_t>(it - conCampo.begin());

@@ -132,7 +132,7 @@ void LeerUso(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes) {
     XMLNode nodo = uso.childNamed(etiqueta, &i);
     if (nodo)
       siguiente = i;
-    else
+    else if (siguiente > 0)
       nodo = uso.childNamed(etiqueta);
     LeerPerfil(nodo, perfil, mensajes);
   });

@@ -70,18 +70,14 @@ float& UcteDeRanura(RegistrosCaso& r, Indice donde) {
 /// U de la composición de cada tipo.
 template <std::size_t... Ranuras>
 constexpr Campo<RegistrosCaso> UDe(std::string_view etiqueta) {
-  Campo<RegistrosCaso> campo;
-  campo.etiqueta = etiqueta;
-  campo.acceso = &camposFichero::UDeRanura<Ranuras...>;
-  return campo.ConDecimales(2);
+  return Campo<RegistrosCaso>{etiqueta, &camposFichero::UDeRanura<Ranuras...>}.ConDecimales(2);
 }
 /// U que dan los resultados para la composición de cada tipo; solo se escribe.
 template <std::size_t... Ranuras>
 constexpr Campo<RegistrosCaso> UcteDe(std::string_view etiqueta) {
-  Campo<RegistrosCaso> campo;
-  campo.etiqueta = etiqueta;
-  campo.acceso = &camposFichero::UcteDeRanura<Ranuras...>;
-  return campo.ConDecimales(2).SoloEscritura();
+  return Campo<RegistrosCaso>{etiqueta, &camposFichero::UcteDeRanura<Ranuras...>}
+      .ConDecimales(2)
+      .SoloEscritura();
 }
 
 /// Lee un grupo de elementos de tipo por su posición y devuelve cuántos hay, sin contar los que

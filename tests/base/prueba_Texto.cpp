@@ -12,6 +12,14 @@
 namespace novex {
 namespace {
 
+TEST(PrincipioUtf8, NoParteLetras) {
+  EXPECT_EQ(PrincipioUtf8("año", 9), "año");
+  EXPECT_EQ(PrincipioUtf8("año", 3), "añ");
+  EXPECT_EQ(PrincipioUtf8("año", 2), "a");
+  EXPECT_EQ(PrincipioUtf8("€", 2), "");
+  EXPECT_EQ(PrincipioUtf8("\x80\x80", 1), "");  // lo que no es UTF-8 no se sale
+}
+
 TEST(Fijo, RedondeaElValorBinarioExactoSinCerosNegativos) {
   EXPECT_EQ(Fijo(0.125, 2), "0.12");  // empates exactos, al par
   EXPECT_EQ(Fijo(0.375, 2), "0.38");
