@@ -151,6 +151,21 @@ TEST_F(SeccionesProyecto, LosMaterialesIgualesSonUnoYLasCapasMalasSeDicen) {
   EXPECT_EQ(mensajes_.recibidos.size(), 2U);
 }
 
+TEST_F(SeccionesProyecto, UnTextoDesconocidoConservaSusBlancosYSusCierres) {
+  Leer(
+      "<Instalaciones><Tipo_sistema><a><![CDATA[ x ]]></a><b><![CDATA[  ]]></b>"
+      "<c>&#32;y<d/>&amp;]]></c><e>&#9;]]>z]]></e></Tipo_sistema></Instalaciones>");
+  const std::vector<std::string> textos = {" x ", "  ", " y&]]>", "\t]]>z]]>"};
+  for (int vuelta = 0; vuelta < 2; ++vuelta) {
+    const auto& campos = edificio_.GetSistema(0).instalaciones[0].campos;
+    ASSERT_EQ(campos.size(), textos.size());
+    for (std::size_t i = 0; i < textos.size(); ++i) EXPECT_EQ(campos[i].texto, textos[i]) << vuelta;
+    const std::string escrito = Escrito(edificio_).childNamed("Instalaciones").toString();
+    edificio_.BorrarSistema(0);
+    Leer(escrito);
+  }
+}
+
 TEST_F(SeccionesProyecto, LosSistemasConservanLoQueNoConocenYPierdenLosResultados) {
   Leer(
       "<Instalaciones><Recuperador name=\"ConFreecooling\"/>"
