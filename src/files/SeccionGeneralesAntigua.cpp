@@ -137,6 +137,16 @@ void PonerTipoCertificado(const XMLNode& datos, R& r) {
   r.informe.Anotar(r.informe.porDefecto, "Tipo de certificado: \"" + d.TipoCertificado + "\"");
 }
 
+// El modo de trabajo no se guarda: es el de su tipo de certificado, que es el que tendrá al volver
+// a abrirlo.
+void PonerModoTrabajo(R& r) {
+  D& d = r.generales;
+  const std::string modo = ModoTrabajoDe(d.TipoCertificado);
+  if (!d.Modo_trabajo.empty() && d.Modo_trabajo != modo)
+    r.informe.Anotar(r.informe.cambiados, Paso("Modo de trabajo", d.Modo_trabajo, modo));
+  d.Modo_trabajo = modo;
+}
+
 void PonerUsoYAlcanceFijos(R& r) {
   D& d = r.generales;
   d.Uso = "Otro";
@@ -248,6 +258,7 @@ void LeerGeneralesAntiguos(const XMLNode& novex, const ReglasVersion& reglas, Re
   LeerPerfil(datos, r);
   LeerCampos<R>(datos, kTrabajo, r, mensajes, r.siFalta);
   PonerTipoCertificado(datos, r);
+  PonerModoTrabajo(r);
   if (reglas.usoYAlcance)
     LeerCampos<R>(datos, kUsoYAlcance, r, mensajes, r.siFalta);
   else

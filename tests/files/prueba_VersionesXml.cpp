@@ -105,7 +105,7 @@ TEST_F(VersionesXml, LaSeisUnoTieneElSitioAparteYVariosCasos) {
   auto segundo = Moderno("NOVEXPLUS v6.1", [](DatosGenerales& g) {
     g.PerfilUso = 8;
     g.Tipo = "12hA";
-    g.Modo_trabajo = "Nuevo";
+    g.Modo_trabajo = "Existente";  // el fichero dice "Nuevo"; lo decide el tipo de certificado
     g.Reforma = "Cambio de uso";
     g.TipoCertificado = "ProyectoAmpliacion";
     g.GradoProteccion = "Ninguna";
@@ -123,6 +123,7 @@ TEST_F(VersionesXml, LaSeisUnoTieneElSitioAparteYVariosCasos) {
   EXPECT_THAT(r.informe.saltados, Contains("Viejo: Datos_Generales/EtiquetaQueNadieConoce"));
   EXPECT_THAT(r.informe.saltados, Contains(HasSubstr("NExpedienteP: \"P-17\"")));
   EXPECT_THAT(r.informe.cambiados, Contains(HasSubstr("\"SinFreecooling\"")));
+  EXPECT_THAT(r.informe.cambiados, Contains("Modo de trabajo: \"Nuevo\" pasa a \"Existente\""));
 }
 
 TEST_F(VersionesXml, LaCincoGuardaLasMejorasEnOtroFichero) {
@@ -161,7 +162,7 @@ TEST_F(VersionesXml, LaCuatroNoTieneSistemasYCuentaLosDormitoriosSimples) {
   auto esperado = Moderno("NOVEXPLUS v4.2", [](DatosGenerales& g) {
     SinUsoNiAlcance(g);
     g.PerfilUso = 1;
-    g.Modo_trabajo = "Ampliación";
+    g.Modo_trabajo = "Existente";
     g.TipoCertificado = "ProyectoAmpliacion";
     g.AnoConstruccion = "2013-2018";
     g.Certificador_Movil = g.Certificador_Telefono = "910000000";
@@ -237,10 +238,9 @@ TEST_F(VersionesXml, GuardadoYLeidoOtraVezEsElMismo) {
     for (std::size_t i = 0; i < otro.NumeroCasos(); ++i) {
       const auto caso = GestorEdifActivo::NombreCasoUsuario(i);
       auto esperado = gestor_.Caso(caso)->Clonar();
-      // Lo que no tiene sitio en los ficheros de hoy, y lo que se deduce del tipo de certificado.
+      // Lo que no tiene sitio en los ficheros de hoy.
       DatosGenerales g = esperado->GetDatosGenerales();
       g.Version = kVersionActual;
-      g.Modo_trabajo = ModoTrabajoDe(g.TipoCertificado);
       if (g.EsResidencial()) g.Uso = otro.Caso(caso)->GetDatosGenerales().Uso;
       g.ElementoInalterable = g.ReferenciaCatastral = g.NormativaVigente = g.NExpedienteP = "";
       g.Proyectista_Nombre = g.Certificador_Telefono = g.Certificador_Colegio_Profesional = "";
