@@ -16,7 +16,7 @@ if [[ -z "$herramienta" ]]; then
   exit 0
 fi
 mal=$(
-  find src tests bench -type f \( -name '*.h' -o -name '*.cpp' \) -print0 | LC_ALL=C sort -z |
+  find src tests bench fuzz -type f \( -name '*.h' -o -name '*.cpp' \) -print0 | LC_ALL=C sort -z |
     xargs -0 -r "$herramienta" --dry-run 2>&1 | sed -n 's/^\([^:]*\):[0-9]*:[0-9]*: warning:.*/\1/p' |
     uniq
 )

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Instala los paquetes de Debian que hacen falta para compilar y probar: solo los que no están.
+# Instala los paquetes de Debian que hacen falta para compilar y probar: solo los que no están. Los que
+# se dan como argumentos se instalan además.
 set -euo pipefail
 
 paquetes=(
@@ -10,6 +11,7 @@ paquetes=(
   libgtest-dev libgmock-dev libbenchmark-dev
   weasyprint fonts-crosextra-carlito
   poppler-utils libxml2-utils
+  "$@"
 )
 
 fallar() {
