@@ -182,7 +182,7 @@ TEST(CalcularProyecto, CalculaTodosLosCasosSinCambiarElActivo) {
   poner(0.3F);
   gestor.ActivarCaso(caso::kViejo);
   FicherosPrograma ficheros{EspacioTrabajo{programa.Datos().parent_path()}};
-  // El avance de cada caso va de 0 a 100 sin volver atrás.
+  // El avance es el de todos, de 0 a 100 sin volver atrás.
   struct Registro : Progreso {
     void Avanzar(int porcentaje) override { vistos.push_back(porcentaje); }
     std::vector<int> vistos;
@@ -193,10 +193,17 @@ TEST(CalcularProyecto, CalculaTodosLosCasosSinCambiarElActivo) {
   EXPECT_GT(gestor.Caso("Viejo")->GetCalculo()->resultados.demandaCalefaccion,
             gestor.Caso("Mejora_1")->GetCalculo()->resultados.demandaCalefaccion + 50.0F);
   ASSERT_GE(progreso.vistos.size(), 24U);
-  const auto mitad = progreso.vistos.begin() + static_cast<long>(progreso.vistos.size() / 2);
-  EXPECT_TRUE(std::is_sorted(progreso.vistos.begin(), mitad));
-  EXPECT_TRUE(std::is_sorted(mitad, progreso.vistos.end()));
+  EXPECT_TRUE(std::is_sorted(progreso.vistos.begin(), progreso.vistos.end()));
   for (const int p : progreso.vistos) EXPECT_TRUE(p >= 0 && p <= 100);
+  // El que no se puede calcular no impide los demás.
+  for (const char* nombre : {"Viejo", "Mejora_1"}) gestor.Caso(nombre)->QuitarCalculo();
+  Localizacion sinClima = gestor.Activo().GetLocalizacion();
+  sinClima.ZonaClimatica = "Z9";
+  gestor.Activo().SetLocalizacion(sinClima);
+  const auto fallidos = CalcularProyecto(gestor, entorno);
+  ASSERT_EQ(fallidos.size(), 1U);
+  EXPECT_EQ(fallidos[0].nombre, "Viejo");
+  EXPECT_TRUE(gestor.Caso("Mejora_1")->GetCalculo()->Calculado());
 }
 
 TEST(FicherosDeCaso, TienenSuNombreYSoloSeEscribenSiSePiden) {

@@ -153,7 +153,7 @@ CasoPrueba::CasoPrueba(const std::string& nombre, const std::filesystem::path& p
   FicherosPrograma ficheros{EspacioTrabajo{programa}};
   Progreso progreso;
   Entorno entorno{ficheros, mensajes, progreso};
-  calculado = CalcularProyecto(gestor, entorno).empty();
+  calculado = CalcularCaso(gestor, caso::kViejo, entorno);
 }
 
 double Comparacion::Diferencia() const {

@@ -123,7 +123,8 @@ TEST_F(VersionesXml, LaSeisUnoTieneElSitioAparteYVariosCasos) {
   EXPECT_THAT(r.informe.saltados, Contains("Viejo: Datos_Generales/EtiquetaQueNadieConoce"));
   EXPECT_THAT(r.informe.saltados, Contains(HasSubstr("NExpedienteP: \"P-17\"")));
   EXPECT_THAT(r.informe.cambiados, Contains(HasSubstr("\"SinFreecooling\"")));
-  EXPECT_THAT(r.informe.cambiados, Contains("Modo de trabajo: \"Nuevo\" pasa a \"Existente\""));
+  EXPECT_THAT(r.informe.cambiados,
+              Contains("Mejora_1: Modo de trabajo: \"Nuevo\" pasa a \"Existente\""));
 }
 
 TEST_F(VersionesXml, LaCincoGuardaLasMejorasEnOtroFichero) {
