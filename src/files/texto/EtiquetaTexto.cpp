@@ -31,7 +31,7 @@ constexpr std::array<TablaSeccion, 11> kSecciones = {
 // Añade una fila, con una etiqueta por sector si es de varios.
 void Desplegar(const FilaTexto& fila, std::vector<EtiquetaTexto>& salida) {
   EtiquetaTexto nueva;
-  std::visit([&nueva](const auto& destino) { nueva.destino = destino; }, fila.destino);
+  nueva.destino = fila.destino;
   nueva.familia = fila.familia;
   nueva.porRecinto = fila.porRecinto;
   nueva.esDato = fila.esDato;

@@ -23,8 +23,7 @@ struct FilaTexto {
       std::variant<AccionTexto, Campo<RegistrosCaso>, Campo<Huecos>, Campo<material>, CampoColumna>;
 
   std::string_view etiqueta;
-  /// Con una acción nula el valor se lee y no se usa.
-  std::variant<AccionTexto, Campo<RegistrosCaso>, Campo<Huecos>, Campo<material>> destino{};
+  Destino destino{};  ///< con una acción nula el valor se lee y no se usa
   FamiliaTexto familia = FamiliaTexto::Ninguna;  ///< su elemento es el tipo del campo
   unsigned generaciones = 7;                     ///< `GeneracionTexto` que la tienen, juntas
   bool porRecinto = false;                       ///< los recintos que siguen al primero suman
@@ -46,11 +45,7 @@ struct FilaTexto {
 /// Fila de un campo, que lleva la etiqueta.
 template <class Registro>
 constexpr FilaTexto Fila(Campo<Registro> campo, FamiliaTexto familia = FamiliaTexto::Ninguna) {
-  FilaTexto fila;
-  fila.etiqueta = campo.etiqueta;
-  fila.destino = campo;
-  fila.familia = familia;
-  return fila;
+  return {campo.etiqueta, campo, familia};
 }
 /// Fila de un texto que ha de ser uno de una lista; otro no cambia el campo.
 template <auto... Miembros>
@@ -62,10 +57,7 @@ constexpr FilaTexto TextoDeLista(std::string_view etiqueta, ListaTextos lista,
 }
 /// Fila de un dato que hace algo más que guardarse.
 constexpr FilaTexto Accion(std::string_view etiqueta, AccionTexto accion) {
-  FilaTexto fila;
-  fila.etiqueta = etiqueta;
-  fila.destino = accion;
-  return fila;
+  return {etiqueta, accion};
 }
 /// Fila de un número que dice de qué elemento son los campos que siguen, o cuántos hay.
 constexpr FilaTexto Control(std::string_view etiqueta, AccionTexto accion) {
