@@ -163,12 +163,7 @@ void PonerUsoYAlcanceFijos(R& r) {
 void PasarAListas(R& r) {
   const D& d = r.generales;
   if (!d.ReferenciaCatastral.empty() && r.pantalla.referencias.empty()) {
-    // Las del catastro común son los 14 caracteres de la parcela y los 6 del inmueble.
-    constexpr std::size_t kParcela = 14, kEntera = 20;
-    const bool entera = d.ReferenciaCatastral.size() == kEntera;
-    r.pantalla.referencias.push_back(
-        {d.ReferenciaCatastral.substr(0, entera ? kParcela : std::string::npos),
-         entera ? d.ReferenciaCatastral.substr(kParcela) : "", ""});
+    r.pantalla.referencias.push_back(FilaDeReferencia(d.ReferenciaCatastral));
     r.informe.Anotar(r.informe.cambiados, "Referencia catastral \"" + d.ReferenciaCatastral +
                                               "\": pasa a la lista de referencias");
   }
@@ -183,30 +178,6 @@ void PonerPeriodo(R& r) {
   if (periodo == ano) return;
   r.informe.Anotar(r.informe.cambiados, Paso("Año de construcción", ano, periodo));
   ano = periodo;
-}
-
-// Solo se guarda un teléfono del certificador.
-void PonerTelefono(R& r) {
-  D& d = r.generales;
-  if (!d.Certificador_Movil.empty() || d.Certificador_Telefono.empty()) return;
-  d.Certificador_Movil = d.Certificador_Telefono;
-  r.informe.Anotar(r.informe.cambiados, "El teléfono del certificador, el único que se guarda: \"" +
-                                            d.Certificador_Movil + "\"");
-}
-
-// Lo leído que no tiene sitio en los ficheros de hoy.
-void AnotarSinSitio(R& r) {
-  const auto anotar = [&r](const Campo<R>& campo) {
-    const std::string texto = camposFichero::TextoDeCampo(campo, r, Indice{});
-    if (!texto.empty())
-      r.informe.Anotar(r.informe.saltados, std::string(campo.etiqueta) + ": \"" + texto +
-                                               "\" no se guarda en los ficheros de hoy");
-  };
-  for (const Campo<R>& campo : kProyectista) anotar(campo);
-  anotar(Texto<g, &D::NExpedienteP>("NExpedienteP"));
-  anotar(Texto<g, &D::NExpediente_ICE>("NExpediente_ICE"));
-  anotar(Texto<g, &D::NormativaVigente>("NormativaVigente"));
-  anotar(Texto<g, &D::Certificador_Colegio_Profesional>("Certificador_Colegio_Profesional"));
 }
 
 // Elementos de una sección que no son de ninguna tabla.
@@ -267,9 +238,9 @@ void LeerGeneralesAntiguos(const XMLNode& novex, const ReglasVersion& reglas, Re
   LeerCampos<R>(datos, kCertificador, r, mensajes, r.siFalta);
   LeerCampos<R>(datos, kProyectista, r, mensajes, r.siFalta);
   PonerPeriodo(r);
-  PonerTelefono(r);
+  DejarUnTelefono(r.generales, r.informe);
   PasarAListas(r);
-  AnotarSinSitio(r);
+  AnotarSinSitio(r.generales, r.informe);
   const std::span<const Campo<R>> soloNuevas =
       reglas.usoYAlcance ? std::span<const Campo<R>>(kUsoYAlcance) : std::span<const Campo<R>>();
   AnotarDesconocidos(

@@ -121,7 +121,7 @@ TEST_F(VersionesXml, LaSeisUnoTieneElSitioAparteYVariosCasos) {
   EsperarIguales(*gestor_.Caso("Mejora_1"), *segundo);
 
   EXPECT_THAT(r.informe.saltados, Contains("Viejo: Datos_Generales/EtiquetaQueNadieConoce"));
-  EXPECT_THAT(r.informe.saltados, Contains(HasSubstr("NExpedienteP: \"P-17\"")));
+  EXPECT_THAT(r.informe.saltados, Contains(HasSubstr("Nº de expediente del proyecto \"P-17\"")));
   EXPECT_THAT(r.informe.cambiados, Contains(HasSubstr("\"SinFreecooling\"")));
   EXPECT_THAT(r.informe.cambiados,
               Contains("Mejora_1: Modo de trabajo: \"Nuevo\" pasa a \"Existente\""));

@@ -46,21 +46,13 @@ void LeerModoTrabajo(EstadoTexto& e, const ValorTexto& valor) {
 }
 
 void LeerReferenciaCatastral(EstadoTexto& e, const ValorTexto& valor) {
-  // Las veinte cifras y letras de una referencia son catorce de la parcela y seis del inmueble.
-  constexpr std::size_t kParcela = 14, kReferencia = 20;
   const std::string referencia(SinBlancos(valor.texto));
   e.r.generales.ReferenciaCatastral = referencia;
   e.r.pantalla.referencias.clear();
   if (referencia.empty()) return;
-  const bool entera = referencia.size() == kReferencia &&
-                      std::all_of(referencia.begin(), referencia.end(),
-                                  [](unsigned char c) { return c > ' ' && c < 0x7F; });
-  ReferenciaCatastral fila;
-  fila.Parcela = entera ? referencia.substr(0, kParcela) : referencia;
-  if (entera) {
-    fila.Inmueble = referencia.substr(kParcela);
+  ReferenciaCatastral fila = FilaDeReferencia(referencia);
+  if (!fila.Inmueble.empty())
     e.Cambiar(valor, "parcela " + fila.Parcela + ", inmueble " + fila.Inmueble);
-  }
   e.r.pantalla.referencias.push_back(std::move(fila));
 }
 
@@ -182,11 +174,8 @@ void UnirPartes(EstadoTexto& e) {
   };
   decir("Dirección, número y escalera del edificio, en un campo", direccion, d.Direccion);
   decir("Nombre y apellidos del certificador, en un campo", nombre, d.Certificador_Nombre);
-  if (!d.Certificador_Movil.empty() || d.Certificador_Telefono.empty()) return;
-  d.Certificador_Movil = d.Certificador_Telefono;
-  InformeLectura::Anotar(
-      e.informe.cambiados,
-      "Teléfono del certificador, el único que se guarda -> \"" + d.Certificador_Movil + "\"");
+  DejarUnTelefono(d, e.informe);
+  AnotarSinSitio(d, e.informe);
 }
 
 // Uso de un terciario por su carga interna y sus horas de ocupación.
