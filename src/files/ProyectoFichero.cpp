@@ -6,6 +6,7 @@
 
 #include "base/ErrorFichero.h"
 #include "base/MensajesAcotados.h"
+#include "base/Texto.h"
 #include "files/CamposFichero.h"
 #include "files/ErroresXml.h"
 #include "files/VersionProyecto.h"
@@ -22,8 +23,11 @@ constexpr std::size_t kMaximoRecuento = 7;
 
 enum class Formato { Xml, Texto, Ninguno };
 
+// Los ficheros antiguos pueden tener la extensión en mayúsculas.
 Formato FormatoDe(const std::filesystem::path& ruta) {
-  if (ruta.extension() == ".txt") return Formato::Texto;
+  const std::string extension = ruta.extension().string();
+  if (IgualesSinMayusculas(extension, ".txt")) return Formato::Texto;
+  if (IgualesSinMayusculas(extension, ".xml")) return Formato::Xml;
   const std::string texto = ruta.string();
   const auto contiene = [&texto](const char* parte) {
     return texto.find(parte) != std::string::npos;
@@ -143,11 +147,6 @@ std::vector<XMLNode> CasosDelFichero(const std::filesystem::path& ruta,
     throw ErrorFichero(ruta.string(), 0, 0, 0,
                        "El fichero no contiene ningún edificio: \"" + ruta.string() + "\"");
   return casos;
-}
-
-// De un fichero de un solo caso, el fichero que guarda sus mejoras.
-std::filesystem::path RutaDeMejoras(const std::filesystem::path& ruta) {
-  return ruta.parent_path() / (ruta.stem().string() + "_M" + ruta.extension().string());
 }
 
 ProyectoAbierto AbrirXml(GestorEdifActivo& gestor, const std::filesystem::path& ruta,

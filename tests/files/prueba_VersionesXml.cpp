@@ -227,6 +227,21 @@ TEST_F(VersionesXml, LaMasAntiguaTomaLosValoresDePartidaDeLoQueNoDice) {
   EXPECT_EQ(g.PerdCalor_Tub_ST, 0.2F);
 }
 
+TEST_F(VersionesXml, LaExtensionPuedeIrEnMayusculas) {
+  const pruebas::CarpetaTemporal carpeta;
+  const fs::path antiguos = fs::path(NOVEX_RAIZ_PRUEBAS) / "casos/antiguos";
+  for (const auto& [nombre, casos] : {std::pair{"v5_05.xml", 2U}, {"indices.txt", 3U}}) {
+    const std::string raiz = fs::path(nombre).stem().string();
+    const std::string extension = fs::path(nombre).extension() == ".xml" ? ".XML" : ".TXT";
+    fs::copy(antiguos / nombre, carpeta / (raiz + extension));
+    fs::copy(antiguos / (raiz + "_M" + fs::path(nombre).extension().string()),
+             carpeta / (raiz + "_M" + extension));
+    const ProyectoAbierto r =
+        AbrirProyecto(gestor_, carpeta / (raiz + extension), ModoApertura::Nuevo, mensajes_);
+    EXPECT_EQ(r.casos.size(), casos) << nombre;
+  }
+}
+
 TEST_F(VersionesXml, GuardadoYLeidoOtraVezEsElMismo) {
   const pruebas::CarpetaTemporal carpeta;
   for (const char* nombre : {"v6_1.xml", "v5_05.xml", "v4_2.xml", "v2_0.xml"}) {

@@ -187,11 +187,11 @@ void AcabarCaso(EstadoTexto& e, std::string_view version) {
   GuardarRegistros(std::move(e.r), e.edificio);
 }
 
-std::filesystem::path RutaDeMejoras(const std::filesystem::path& ruta) {
-  return ruta.parent_path() / (ruta.stem().string() + "_M.txt");
-}
-
 }  // namespace
+
+std::filesystem::path RutaDeMejoras(const std::filesystem::path& ruta) {
+  return ruta.parent_path() / (ruta.stem().string() + "_M" + ruta.extension().string());
+}
 
 FicheroTexto::FicheroTexto(const std::filesystem::path& ruta) : ruta_(ruta), lineas_(ruta) {
   if (!lineas_.Tiene(kSeccion))

@@ -11,6 +11,9 @@
 
 namespace novex {
 
+/// El fichero que, al lado del de un proyecto antiguo de un solo caso, guarda sus mejoras.
+std::filesystem::path RutaDeMejoras(const std::filesystem::path& ruta);
+
 /// El aviso que se da antes de leer un fichero de texto.
 inline const Mensaje kAvisoFicheroTexto = {
     "AVISO",

@@ -24,7 +24,8 @@ namespace novex::gui {
 namespace {
 
 constexpr int kRecientes = 10;
-constexpr const char* kFiltro = "Proyectos (*.xml *.txt)";
+constexpr const char* kFiltro = "Proyectos (*.xml *.txt *.XML *.TXT)";
+constexpr const char* kFiltroGuardar = "Proyectos (*.xml)";
 constexpr const char* kManual = "manual";  // carpeta del manual en la de programa
 constexpr std::array<const char*, 8> kPaginasManual = {
     "titulo.md",        "global.md",      "edificio.md", "instalaciones.md",
@@ -156,7 +157,7 @@ void TForm1::GuardarComo() {
   const auto propuesta = RutaDeGuardado(
       s.TieneFichero() ? s.Fichero() : contexto_.Ficheros().Espacio().Proyectos() / s.Fichero());
   const QString ruta =
-      QFileDialog::getSaveFileName(this, tr("Guardar como"), Q(propuesta), kFiltro);
+      QFileDialog::getSaveFileName(this, tr("Guardar como"), Q(propuesta), kFiltroGuardar);
   if (!ruta.isEmpty()) GuardarEn(S(ruta));
 }
 
