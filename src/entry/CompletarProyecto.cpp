@@ -4,6 +4,7 @@
 
 #include "entry/CambiarGenerales.h"
 #include "entry/Sitio.h"
+#include "model/NombreMostrado.h"
 #include "reference/LongitudesPuentes.h"
 #include "reference/PerfilesUso.h"
 #include "reference/ValoresPuentes.h"
@@ -29,7 +30,7 @@ void PonerUsoDeTexto(std::string_view nombre, Edificio& edificio, const XMLNode&
   const DatosGenerales antes = edificio.GetDatosGenerales();
   const std::string_view clave = ClaveUsoPorDefecto(antes.PerfilUso);
   if (!AplicarUsoPorDefecto(perfiles, clave, edificio, mensajes)) return;
-  InformeLectura::Anotar(informe.porDefecto, std::string(nombre) +
+  InformeLectura::Anotar(informe.porDefecto, NombreMostrado(nombre) +
                                                  ": horarios, consignas y cargas: los del uso \"" +
                                                  std::string(clave) + "\"");
   if (antes.EsResidencial()) return;
@@ -52,7 +53,7 @@ void PonerSitioDeTexto(const CasoDeTexto& dicho, Edificio& edificio, FicherosPro
   mensajes.Avisar("AVISO",
                   "No se ha identificado la ciudad/provincia, por favor revise esos datos. Se pone "
                   "provisionalmente el edificio en Valencia");
-  InformeLectura::Anotar(informe.cambiados, std::string(dicho.nombre) + ": provincia \"" +
+  InformeLectura::Anotar(informe.cambiados, NombreMostrado(dicho.nombre) + ": provincia \"" +
                                                 leido.Provincia + "\", municipio \"" +
                                                 leido.Municipio + "\" -> Valencia");
   PonerMunicipio(edificio, municipios, capitales, kProvinciaProvisional, kMunicipioProvisional,

@@ -11,6 +11,7 @@
 #include "files/ErroresXml.h"
 #include "files/VersionProyecto.h"
 #include "files/texto/FicheroTexto.h"
+#include "model/NombreMostrado.h"
 
 namespace novex {
 namespace {
@@ -49,7 +50,7 @@ void LeerSegunVersion(const XMLNode& novex, std::string_view nombre, Edificio& e
                       Mensajes& mensajes, ProyectoAbierto& salida) {
   InformeLectura informe;
   if (!LeerCaso(novex, edificio, mensajes, &informe)) salida.casosSinUso.push_back(nombre);
-  salida.informe.Juntar(informe, std::string(nombre) + ": ");
+  salida.informe.Juntar(informe, NombreMostrado(nombre) + ": ");
   salida.casos.push_back(nombre);
 }
 

@@ -6,6 +6,7 @@
 #include "base/Mensajes.h"
 #include "demand/calculo.h"
 #include "model/GestorEdifActivo.h"
+#include "model/NombreMostrado.h"
 
 namespace novex {
 
@@ -19,10 +20,5 @@ struct CasoCalculado {
 
 /// Los casos de un proyecto que están calculados, en su orden y sin mensajes.
 std::vector<CasoCalculado> CasosCalculados(const GestorEdifActivo& gestor);
-
-/// Nombre con que se muestra un caso: la base es "Base".
-inline std::string NombreMostrado(const std::string& nombreCaso) {
-  return nombreCaso == "Viejo" ? "Base" : nombreCaso;
-}
 
 }  // namespace novex

@@ -250,12 +250,12 @@ TEST_F(FicheroTexto, UnaLineaDesconocidaSeSaltaYSeApunta) {
                           "0,65", "** Seccion.", "Sótanos.", "*[F] U Muro ext. W/m2K.", "0.9"}));
   EXPECT_FLOAT_EQ(Base().GetComposicion(ranura::MuroExt1).U, 0.65F);
   EXPECT_THAT(r.informe.saltados,
-              ElementsAre("Viejo: Línea 5: basura \"\": no se conoce",
-                          "Viejo: Línea 6: *[F] Muro de carga m2. \"7\": no se conoce",
+              ElementsAre("Base: Línea 5: basura \"\": no se conoce",
+                          "Base: Línea 6: *[F] Muro de carga m2. \"7\": no se conoce",
                           HasSubstr("Sección Sótanos."),
-                          "Viejo: Línea 13: *[F] U Muro ext. W/m2K. \"0.9\": no se conoce"));
-  EXPECT_THAT(r.informe.porDefecto, Contains("Viejo: Muros: no está \"*[F] Muro ext. este m2.\""));
-  EXPECT_THAT(r.informe.porDefecto, Contains("Viejo: Huecos: no está la sección"));
+                          "Base: Línea 13: *[F] U Muro ext. W/m2K. \"0.9\": no se conoce"));
+  EXPECT_THAT(r.informe.porDefecto, Contains("Base: Muros: no está \"*[F] Muro ext. este m2.\""));
+  EXPECT_THAT(r.informe.porDefecto, Contains("Base: Huecos: no está la sección"));
   EXPECT_THAT(mensajes_.recibidos, SizeIs(1));
 }
 

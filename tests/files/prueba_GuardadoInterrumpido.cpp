@@ -41,19 +41,22 @@ class GuardadoInterrumpido : public testing::Test {
 };
 
 TEST_F(GuardadoInterrumpido, MatadoEnCualquierMomentoElFicheroEstaEntero) {
+  const auto antes = std::chrono::steady_clock::now();
   GuardarProyecto(largo_, ruta_);
+  const std::chrono::duration<double, std::micro> tarda = std::chrono::steady_clock::now() - antes;
   const std::string largo = LeerFichero(ruta_);
   GuardarProyecto(corto_, ruta_);
   const std::string corto = LeerFichero(ruta_);
   ASSERT_GT(largo.size(), 4 * corto.size());
   std::mt19937 azar(20260930);
-  std::uniform_int_distribution<int> espera(0, 30'000);
+  // Le da tiempo a guardar los dos alguna vez y a estar en medio de cualquiera.
+  std::uniform_real_distribution<double> espera(0, 3 * tarda.count());
   int cortos = 0, aMedias = 0;
   constexpr int kVeces = 60;
   for (int vez = 0; vez < kVeces; ++vez) {
     const pid_t hijo = Guardador();
     ASSERT_GT(hijo, 0);
-    std::this_thread::sleep_for(std::chrono::microseconds(espera(azar)));
+    std::this_thread::sleep_for(std::chrono::duration<double, std::micro>(espera(azar)));
     ::kill(hijo, SIGKILL);
     int estado = 0;
     ASSERT_EQ(::waitpid(hijo, &estado, 0), hijo);

@@ -120,7 +120,7 @@ TEST_F(VersionesXml, LaSeisUnoTieneElSitioAparteYVariosCasos) {
   segundo->SetDatosPantalla(p);
   EsperarIguales(*gestor_.Caso("Mejora_1"), *segundo);
 
-  EXPECT_THAT(r.informe.saltados, Contains("Viejo: Datos_Generales/EtiquetaQueNadieConoce"));
+  EXPECT_THAT(r.informe.saltados, Contains("Base: Datos_Generales/EtiquetaQueNadieConoce"));
   EXPECT_THAT(r.informe.saltados, Contains(HasSubstr("Nº de expediente del proyecto \"P-17\"")));
   EXPECT_THAT(r.informe.cambiados, Contains(HasSubstr("\"SinFreecooling\"")));
   EXPECT_THAT(r.informe.cambiados,
@@ -143,7 +143,7 @@ TEST_F(VersionesXml, LaCincoGuardaLasMejorasEnOtroFichero) {
     g.Tipon50 = "Teorico";
   };
   EsperarIguales(*gestor_.Caso("Viejo"), *Moderno("NOVEXPLUS v5.05", base));
-  EXPECT_THAT(r.informe.porDefecto, Contains("Viejo: Tipon50: \"Teorico\""));
+  EXPECT_THAT(r.informe.porDefecto, Contains("Base: Tipon50: \"Teorico\""));
   const DatosGenerales& mejora = gestor_.Caso("Mejora_1")->GetDatosGenerales();
   EXPECT_EQ(mejora.Edificio_Titulo, "La mejora");
   EXPECT_EQ(mejora.AnoConstruccion, "POST-2018");

@@ -2,6 +2,7 @@
 #include <QTabWidget>
 
 #include "gui/VentanaPrueba.h"
+#include "shell/gui/DialogoLectura.h"
 #include "shell/gui/TImpresor.h"
 
 namespace novex::gui::pruebas {
@@ -76,6 +77,12 @@ TEST_F(VentanaTest, Capturas) {
   ventana->Mostrar(Destino::Comparacion);
   EsperarVivo();
   guardar("comparacion");
+  sesion.Guardar();
+  ASSERT_TRUE(
+      ventana->Abrir(std::filesystem::path(NOVEX_RAIZ_PRUEBAS) / "casos/antiguos/v4_2.xml"));
+  QTest::qWait(50);
+  EXPECT_TRUE(
+      GuardarCaptura(*ventana->findChild<DialogoLectura*>(), destino + "/proyecto_antiguo.png"));
 }
 
 }  // namespace

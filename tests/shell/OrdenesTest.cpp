@@ -472,7 +472,7 @@ TEST_F(Ordenes, ConvertirPasaUnProyectoAntiguoYDiceComo) {
   };
   const Ejecucion hecha = convertir({});
   Espera(hecha, 0,
-         {"Leído:", "Viejo: versión \"NOVEX v4.2\"",
+         {"Leído:", "Base: versión \"NOVEX v4.2\"",
           "Puesto por defecto:", "Saltado:", "Línea 5: *[S] Rara. \"7\"",
           "Cambiado:", "Provincia 31 y ciudad 8 de las listas -> Madrid, Getafe",
           "1 caso guardado en " + nuevo});

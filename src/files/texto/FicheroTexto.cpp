@@ -8,6 +8,7 @@
 #include "base/ErrorFichero.h"
 #include "base/Texto.h"
 #include "files/texto/EtiquetaTexto.h"
+#include "model/NombreMostrado.h"
 
 namespace novex {
 namespace {
@@ -251,7 +252,7 @@ CasoDeTexto FicheroTexto::LeerCaso(Edificio& edificio, std::string_view nombre, 
   lector.Leer();
   lector.Informar();
   AcabarCaso(estado, version_);
-  informe.Juntar(suyo, std::string(nombre) + ": ");
+  informe.Juntar(suyo, NombreMostrado(nombre) + ": ");
   return dicho;
 }
 

@@ -47,9 +47,8 @@ bool ContextoGui::Calcular() {
   try {
     for (const CasoSinCalcular& caso : CalcularProyecto(gestor, entorno)) {
       const QString motivo = caso.motivo.empty() ? tr("No se ha podido calcular") : Q(caso.motivo);
-      fallos << (gestor.NumeroCasos() > 1
-                     ? Q(NombreMostrado(std::string(caso.nombre))) + ": " + motivo
-                     : motivo);
+      fallos << (gestor.NumeroCasos() > 1 ? Q(NombreMostrado(caso.nombre)) + ": " + motivo
+                                          : motivo);
     }
   } catch (const CalculoCancelado&) {
     fallos << tr("Se ha cancelado el cálculo");
