@@ -60,11 +60,17 @@ std::string EtiquetaMemo(std::size_t i) {
   return std::string(kMemo) + std::to_string(i);
 }
 
-std::vector<std::string> LeerMemo(const XMLNode& memo) {
+// Lo que un memo no admite se corta con un aviso, como cuando se teclea.
+std::vector<std::string> LeerMemo(const XMLNode& memo, std::size_t cual, Mensajes& mensajes) {
   std::vector<std::string> lineas;
   std::size_t i = 0;
   while (const XMLNode linea = memo.childNamed(kLinea, &i)) {
-    if (lineas.size() == kLineasMemo) break;
+    if (lineas.size() == kLineasMemo) {
+      mensajes.Avisar("ATENCION", EtiquetaMemo(cual) + ": tiene más de " +
+                                      std::to_string(kLineasMemo) +
+                                      " líneas, se leen las primeras");
+      break;
+    }
     lineas.emplace_back(linea.attributeValue(kAtributoValor).value_or(""));
   }
   return lineas;
@@ -96,7 +102,7 @@ void VaciarFechasSinUso(float usadas, std::array<std::string, 3>& fechas) {
 void LeerDefinicion(const XMLNode& novex, RegistrosCaso& r, Mensajes& mensajes) {
   const XMLNode definicion = novex.childNamed(kSeccion);
   for (std::size_t i = 0; i < kMemos; ++i)
-    r.generales.Memo[i] = LeerMemo(definicion.childNamed(EtiquetaMemo(i)));
+    r.generales.Memo[i] = LeerMemo(definicion.childNamed(EtiquetaMemo(i)), i, mensajes);
   LeerCampos<R>(definicion, kVisitas, r, mensajes);
   LeerCampos<R>(definicion.childNamed(kCondiciones), kCamposCondiciones, r, mensajes);
   LeerCampos<R>(definicion, kEconomia, r, mensajes);

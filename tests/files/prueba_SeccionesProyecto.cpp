@@ -212,6 +212,21 @@ TEST_F(SeccionesProyecto, LosSistemasConservanLoQueNoConocenYPierdenLosResultado
   EXPECT_TRUE(instalaciones.childNamed("Tipo_sistema", &i).isEmpty());
 }
 
+TEST_F(SeccionesProyecto, UnMemoDeMasDeCuarentaLineasSeCortaConAviso) {
+  const auto memo = [](const std::string& cual, int lineas) {
+    std::string texto = "<" + cual + ">";
+    for (int i = 1; i <= lineas; ++i) texto += "<Linea name=\"" + std::to_string(i) + "\"/>";
+    return texto + "</" + cual + ">";
+  };
+  Leer("<Definicion>" + memo("Memo1", 40) + memo("Memo2", 41) + "</Definicion>");
+  EXPECT_EQ(Generales().Memo[1].size(), 40U);
+  EXPECT_EQ(Generales().Memo[2].size(), 40U);
+  EXPECT_EQ(Generales().Memo[2].back(), "40");
+  ASSERT_EQ(mensajes_.recibidos.size(), 1U);
+  EXPECT_EQ(mensajes_.recibidos[0].titulo, "ATENCION");
+  EXPECT_NE(mensajes_.recibidos[0].texto.find("Memo2"), std::string::npos);
+}
+
 TEST_F(SeccionesProyecto, LosMemosYLasFechasSoloLlevanLoQueSeUsa) {
   pruebas::CambiarGenerales(edificio_, [](DatosGenerales& d) {
     d.Memo[0].assign(40, "");
