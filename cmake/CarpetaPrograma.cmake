@@ -13,25 +13,24 @@ set(ampliables "${CMAKE_SOURCE_DIR}/data/database/Materiales.xml"
                "${CMAKE_SOURCE_DIR}/data/database/Composiciones.xml")
 set(copias "")
 set(datos "")
+# Añade a la copia de los datos unos ficheros, a una carpeta del programa.
+macro(copiar_en carpeta)
+  list(APPEND datos ${ARGN})
+  list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E make_directory "${programa}/${carpeta}")
+  if(${ARGC} GREATER 1)
+    list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E copy_if_different ${ARGN}
+                               "${programa}/${carpeta}")
+  endif()
+endmacro()
 foreach(carpeta IN ITEMS database proyectos bmp clima)
   file(GLOB_RECURSE ficheros CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/data/${carpeta}/*")
   list(REMOVE_ITEM ficheros ${ampliables})
-  list(APPEND datos ${ficheros})
-  list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E make_directory "${programa}/${carpeta}")
-  if(ficheros)
-    list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E copy_if_different ${ficheros}
-                               "${programa}/${carpeta}")
-  endif()
+  copiar_en(${carpeta} ${ficheros})
 endforeach()
 foreach(carpeta IN ITEMS manual manual/imagenes)
   file(GLOB ficheros CONFIGURE_DEPENDS "${CMAKE_SOURCE_DIR}/docs/${carpeta}/*.md"
                                        "${CMAKE_SOURCE_DIR}/docs/${carpeta}/*.png")
-  list(APPEND datos ${ficheros})
-  list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E make_directory "${programa}/${carpeta}")
-  if(ficheros)
-    list(APPEND copias COMMAND "${CMAKE_COMMAND}" -E copy_if_different ${ficheros}
-                               "${programa}/${carpeta}")
-  endif()
+  copiar_en(${carpeta} ${ficheros})
 endforeach()
 add_custom_command(
   OUTPUT "${sello_datos}" ${copias}

@@ -196,7 +196,7 @@ void AnadirDeTexto(FicheroTexto& fichero, GestorEdifActivo& gestor, Mensajes& me
 }
 
 ProyectoAbierto AbrirTexto(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
-                           ModoApertura modo, Mensajes& mensajes) {
+                           ModoApertura modo, Mensajes& mensajes, ModoCodificacion& codificacion) {
   mensajes.Avisar(kAvisoFicheroTexto.titulo, kAvisoFicheroTexto.texto);
   FicheroTexto fichero(ruta);
   ProyectoAbierto salida;
@@ -211,6 +211,7 @@ ProyectoAbierto AbrirTexto(GestorEdifActivo& gestor, const std::filesystem::path
     gestor = std::move(nuevo);
   }
   salida.abierto = !salida.casos.empty();
+  codificacion = {};
   return salida;
 }
 
@@ -219,18 +220,12 @@ ProyectoAbierto AbrirTexto(GestorEdifActivo& gestor, const std::filesystem::path
 ProyectoAbierto AbrirProyecto(GestorEdifActivo& gestor, const std::filesystem::path& ruta,
                               ModoApertura modo, Mensajes& mensajes,
                               ModoCodificacion& codificacion) {
-  switch (FormatoDe(ruta)) {
-    case Formato::Ninguno:
-      return {};
-    case Formato::Texto:
-      codificacion = {};
-      return AbrirTexto(gestor, ruta, modo, mensajes);
-    case Formato::Xml:
-      break;
-  }
+  const Formato formato = FormatoDe(ruta);
+  if (formato == Formato::Ninguno) return {};
   try {
     MensajesAcotados acotados(mensajes);
-    ProyectoAbierto abierto = AbrirXml(gestor, ruta, modo, acotados, codificacion);
+    const auto abrir = formato == Formato::Texto ? AbrirTexto : AbrirXml;
+    ProyectoAbierto abierto = abrir(gestor, ruta, modo, acotados, codificacion);
     acotados.Terminar();
     return abierto;
   } catch (const ErrorFichero& error) {

@@ -10,6 +10,21 @@
 namespace novex {
 namespace {
 
+// Los avisos seguidos con el mismo título van en uno: de un fichero estropeado hay muchos, y cada
+// uno es una caja que cerrar.
+void AvisarJuntos(const std::vector<Mensaje>& avisos, Mensajes& destino) {
+  constexpr std::size_t kJuntos = 12;
+  for (std::size_t i = 0; i < avisos.size();) {
+    std::size_t fin = i;
+    std::string texto;
+    for (; fin < avisos.size() && avisos[fin].titulo == avisos[i].titulo; ++fin)
+      if (fin - i < kJuntos) texto += (fin == i ? "" : "\n\n") + avisos[fin].texto;
+    if (fin - i > kJuntos) texto += "\n\n... y " + std::to_string(fin - i - kJuntos) + " más";
+    destino.Avisar(avisos[i].titulo, texto);
+    i = fin;
+  }
+}
+
 constexpr std::size_t kEdicionesRecordadas = 200;
 
 const XMLNode& PerfilesUso(FicherosPrograma& ficheros) {
@@ -167,10 +182,11 @@ void SesionProyecto::Empezar(const std::filesystem::path& fichero,
 
 bool SesionProyecto::Abrir(const std::filesystem::path& ruta) {
   ModoCodificacion codificacion;
-  ProyectoAbierto abierto =
-      AbrirProyecto(gestor_, ruta, ModoApertura::Nuevo, mensajes_, codificacion);
+  RegistroMensajes avisos;
+  ProyectoAbierto abierto = AbrirProyecto(gestor_, ruta, ModoApertura::Nuevo, avisos, codificacion);
+  if (abierto.abierto) CompletarProyecto(gestor_, abierto, ficheros_, avisos);
+  AvisarJuntos(avisos.recibidos, mensajes_);
   if (!abierto.abierto) return false;
-  CompletarProyecto(gestor_, abierto, ficheros_, mensajes_);
   lectura_ = std::move(abierto.informe);
   gestor_.ActivarCaso(caso::kViejo);
   Empezar(ruta, codificacion);
@@ -181,8 +197,10 @@ bool SesionProyecto::Anadir(const std::filesystem::path& ruta) {
   Instantanea foto = Fotografiar("añadir " + ruta.filename().string(), true);
   bool sustituido = false;
   ModoCodificacion codificacion;
+  RegistroMensajes avisos;
   ProyectoAbierto abierto =
-      AnadirProyecto(gestor_, ruta, ficheros_, mensajes_, sustituido, codificacion);
+      AnadirProyecto(gestor_, ruta, ficheros_, avisos, sustituido, codificacion);
+  AvisarJuntos(avisos.recibidos, mensajes_);
   if (!abierto.abierto) return false;
   lectura_ = std::move(abierto.informe);
   gestor_.ActivarCaso(caso::kViejo);

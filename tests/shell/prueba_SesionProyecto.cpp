@@ -120,6 +120,18 @@ TEST_F(Sesion, GuardaAbreYSigueIgual) {
   EXPECT_EQ(sesion.Fichero(), escrito);
 }
 
+TEST_F(Sesion, LosAvisosSeguidosDeUnFicheroEstropeadoVanJuntos) {
+  std::string texto = "*Version\nNOVEX v5.11\n** Seccion.\nDatos Globales.\n";
+  for (int i = 0; i < 30; ++i) texto += "*[F] Volumen total m3.\nabc\n";
+  std::ofstream(carpeta / "malo.txt") << texto;
+  ASSERT_TRUE(sesion.Abrir(carpeta / "malo.txt"));
+  // El de la lectura, el de los treinta números y el del municipio, que no está.
+  ASSERT_EQ(mensajes.recibidos.size(), 3U);
+  EXPECT_EQ(mensajes.recibidos[1].titulo, "Se espera un nº real y no una letra");
+  EXPECT_TRUE(mensajes.recibidos[1].texto.ends_with("... y 18 más"));
+  EXPECT_EQ(mensajes.recibidos[2].titulo, "AVISO");
+}
+
 TEST_F(Sesion, AnadirDejaLaBaseActivaYSinDatosCoherentesEsAbrir) {
   // Un proyecto en blanco no pasa las comprobaciones: el otro ocupa su lugar con su fichero.
   ASSERT_TRUE(sesion.Anadir(Ejemplo("piso_C2.xml")));

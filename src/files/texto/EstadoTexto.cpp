@@ -1,5 +1,7 @@
 #include "files/texto/EstadoTexto.h"
 
+#include "base/Texto.h"
+
 namespace novex {
 namespace {
 
@@ -7,11 +9,8 @@ constexpr std::size_t kLargoMaximoNota = 200;
 
 // Un texto como se enseña en el informe; el de un fichero estropeado puede ser enorme.
 std::string Recortado(std::string_view texto) {
-  if (texto.size() <= kLargoMaximoNota) return std::string(texto);
-  // Sin la parte de un carácter que quedaría al cortar.
-  std::size_t n = kLargoMaximoNota;
-  while (n > 0 && (static_cast<unsigned char>(texto[n]) & 0xC0U) == 0x80U) --n;
-  return std::string(texto.substr(0, n)) + "...";
+  const std::string corto(PrincipioUtf8(texto, kLargoMaximoNota));
+  return corto.size() == texto.size() ? corto : corto + "...";
 }
 
 std::string Dicho(const ValorTexto& valor) {
@@ -41,12 +40,6 @@ void EstadoTexto::Saltar(const ValorTexto& valor, std::string_view razon) {
 
 void EstadoTexto::Cambiar(const ValorTexto& valor, std::string_view nuevo) {
   InformeLectura::Anotar(informe.cambiados, Dicho(valor) + " -> " + std::string(nuevo));
-}
-
-void MensajesDeTexto::Avisar(const std::string& titulo, const std::string& texto) {
-  if (++dados_ <= kMaximoAvisos) return destino_.Avisar(titulo, texto);
-  if (dados_ == kMaximoAvisos + 1)
-    destino_.Avisar("AVISO", "El fichero tiene más números que no se entienden; no se dicen todos");
 }
 
 int EstadoTexto::LeerEntero(const ValorTexto& valor, int minimo, int maximo) {

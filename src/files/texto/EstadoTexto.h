@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Mensajes.h"
 #include "files/InformeLectura.h"
 #include "files/SeccionesProyecto.h"
 #include "files/texto/CasoDeTexto.h"
@@ -52,18 +53,6 @@ struct ValorTexto {
   std::size_t linea = 0;
 };
 
-/// Los avisos de la lectura de un caso: de un fichero estropeado solo se dan los primeros.
-class MensajesDeTexto : public Mensajes {
- public:
-  static constexpr std::size_t kMaximoAvisos = 20;
-  explicit MensajesDeTexto(Mensajes& destino) : destino_(destino) {}
-  void Avisar(const std::string& titulo, const std::string& texto) override;
-
- private:
-  Mensajes& destino_;
-  std::size_t dados_ = 0;
-};
-
 /// Un caso mientras se lee de un fichero de texto.
 struct EstadoTexto {
   EstadoTexto(Edificio& caso, Mensajes& avisos, InformeLectura& lectura, CasoDeTexto& que)
@@ -71,7 +60,7 @@ struct EstadoTexto {
 
   RegistrosCaso r;
   Edificio& edificio;
-  MensajesDeTexto mensajes;
+  Mensajes& mensajes;
   InformeLectura& informe;
   CasoDeTexto& dicho;
 
