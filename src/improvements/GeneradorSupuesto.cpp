@@ -1,9 +1,7 @@
 #include "improvements/GeneradorSupuesto.h"
 
-#include <algorithm>
 #include <optional>
 
-#include "base/NumeroTexto.h"
 #include "entry/CambioSistema.h"
 #include "entry/CreacionSistema.h"
 #include "entry/ListasSistemas.h"
